@@ -1,0 +1,93 @@
+#include "common/date.h"
+
+#include "common/numeri.h"
+#include "common/testo.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace bor {
+
+namespace {
+
+constexpr double millisecondiAlGiorno = 86400000.0;
+
+int annoIntero(int anno, qsizetype cifre) {
+    if (cifre > 2)
+        return anno;
+    return anno >= 80 ? 1900 + anno : 2000 + anno;
+}
+
+} // namespace
+
+std::optional<QDate> dataValida(QStringView testo) {
+    static const QRegularExpression forma(QStringLiteral(R"(\A(\d\d)/(\d\d)/(\d{4})\z)"),
+                                          QRegularExpression::DontCaptureOption);
+    const QString t = testo.trimmed().toString();
+    if (!forma.match(t).hasMatch())
+        return std::nullopt;
+    const QDate data(valoreIntero(t.mid(6)), valoreIntero(t.mid(3, 2)), valoreIntero(t.left(2)));
+    return data.isValid() ? std::optional(data) : std::nullopt;
+}
+
+QString testoData(QDate data) {
+    return data.toString(QStringLiteral("dd/MM/yyyy"));
+}
+
+QString completaData(QStringView testo) {
+    static const QRegularExpression conBarre(
+        QStringLiteral(R"(\A(\d{1,2})[/.-](\d{1,2})[/.-](\d{2}|\d{4})\z)"));
+    static const QRegularExpression soloCifre(QStringLiteral(R"(\A(\d\d)(\d\d)(\d{2}|\d{4})\z)"));
+    const QString t = testo.trimmed().toString();
+    auto pezzi = conBarre.match(t);
+    if (!pezzi.hasMatch())
+        pezzi = soloCifre.match(t);
+    if (!pezzi.hasMatch())
+        return testo.toString();
+    const QString anno = pezzi.captured(3);
+    const QDate data(annoIntero(valoreIntero(anno), anno.size()), valoreIntero(pezzi.captured(2)),
+                     valoreIntero(pezzi.captured(1)));
+    return data.isValid() ? testoData(data) : testo.toString();
+}
+
+QString dataDaAnnoMeseGiorno(QStringView campo) {
+    if (puliscitesto(campo).isEmpty())
+        return {};
+    return pezzo(campo, 7, 2) + u'/' + pezzo(campo, 5, 2) + u'/' + pezzo(campo, 1, 4);
+}
+
+QString annoMeseGiorno(QStringView data) {
+    return pezzo(data, 7, 4) + pezzo(data, 4, 2) + pezzo(data, 1, 2);
+}
+
+QString dataDaGiornoMeseAnno(QStringView campo) {
+    if (valore(campo) <= 0)
+        return {};
+    return pezzo(campo, 1, 2) + u'/' + pezzo(campo, 3, 2) + u'/' + pezzo(campo, 5, 4);
+}
+
+QString giornoMeseAnno(QStringView data) {
+    return pezzo(data, 1, 2) + pezzo(data, 4, 2) + pezzo(data, 7, 4);
+}
+
+double contoGiorni(const QDateTime& momento) {
+    static const QDate inizio(1899, 12, 30);
+    const QDateTime locale = momento.toLocalTime();
+    return static_cast<double>(inizio.daysTo(locale.date())) +
+           locale.time().msecsSinceStartOfDay() / millisecondiAlGiorno;
+}
+
+double Timbro::nuovo(const QDateTime& momento) {
+    double conto = contoGiorni(momento);
+    if (conto <= m_ultimo) {
+        const double giorno = std::floor(m_ultimo);
+        const double millisecondi = std::round((m_ultimo - giorno) * millisecondiAlGiorno);
+        conto = giorno + (millisecondi + 1) / millisecondiAlGiorno;
+    }
+    m_ultimo = conto;
+    return conto;
+}
+
+} // namespace bor

@@ -1,0 +1,83 @@
+#include "common/percorsi.h"
+
+#include "common/numeri.h"
+#include "common/testo.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace bor {
+
+namespace {
+
+bool nomeLecito(QStringView parte) {
+    static constexpr QStringView vietati = u"<>:\"/|?*";
+    return parte != u".." && std::none_of(parte.begin(), parte.end(),
+                                          [](QChar c) { return c.unicode() < 32 || vietati.contains(c); });
+}
+
+/// The entry of the folder that has this name, whatever its case; the name itself when there is none.
+QString trova(const QString& cartella, const QString& nome) {
+    const QDir dir(cartella);
+    if (dir.exists(nome))
+        return nome;
+    const QStringList voci =
+        dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    const auto voce = std::find_if(voci.begin(), voci.end(), [&](const QString& v) {
+        return v.compare(nome, Qt::CaseInsensitive) == 0;
+    });
+    return voce == voci.end() ? nome : *voce;
+}
+
+std::optional<QString> sotto(const QString& radice, const QString& reale) {
+    const QString inizio = radice.endsWith(u'/') ? radice : radice + u'/';
+    if (!reale.startsWith(inizio))
+        return std::nullopt;
+    return u'\\' + reale.mid(inizio.size()).replace(u'/', u'\\');
+}
+
+} // namespace
+
+Percorsi::Percorsi(QString radiceCorrente, QString radiceC)
+    : m_radiceCorrente(QDir::cleanPath(radiceCorrente)), m_radiceC(QDir::cleanPath(radiceC)) {}
+
+Percorsi Percorsi::predefiniti() {
+    const QString radiceC =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/borfte/c");
+    QDir().mkpath(radiceC);
+    return {QDir::currentPath(), radiceC};
+}
+
+std::optional<QString> Percorsi::reale(QStringView dos) const {
+    QString percorso = m_radiceCorrente;
+    if (dos.size() >= 2 && dos[1] == u':') {
+        if (dos[0].toLower() != u'c')
+            return std::nullopt;
+        percorso = m_radiceC;
+        dos = dos.sliced(2);
+    }
+    for (const QStringView parte : dos.split(u'\\', Qt::SkipEmptyParts)) {
+        if (!nomeLecito(parte))
+            return std::nullopt;
+        if (parte != u".")
+            percorso += u'/' + trova(percorso, parte.toString());
+    }
+    return percorso;
+}
+
+std::optional<QString> Percorsi::dos(const QString& reale) const {
+    const QString pulito =
+        QDir::cleanPath(QDir::isAbsolutePath(reale) ? reale : QDir::current().filePath(reale));
+    if (const auto corrente = sotto(m_radiceCorrente, pulito))
+        return corrente;
+    const auto c = sotto(m_radiceC, pulito);
+    return c ? std::optional(QStringLiteral("c:") + *c) : std::nullopt;
+}
+
+QString cartellaAzienda(double codiceazienda) {
+    return radiceSuite.toString() + QStringLiteral("boraz0.") + zeriDavanti(testoDecimale(codiceazienda), 3);
+}
+
+} // namespace bor

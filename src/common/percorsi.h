@@ -1,0 +1,43 @@
+// The one place that turns the suite's DOS paths into paths of this machine.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+namespace bor {
+
+/// Maps the suite's DOS paths. "\a\b" and "a\b" start at the root of the current drive, "c:\a" at drive c:;
+/// each is a folder of this machine. A part of the path is found without regard to case; no part may climb
+/// out of its drive.
+class Percorsi {
+public:
+    /// `radiceCorrente`: folder that plays the root of the current drive; `radiceC`: the one that plays drive
+    /// c:.
+    Percorsi(QString radiceCorrente, QString radiceC);
+
+    /// The working directory as current drive, and for c: a folder of the user's own data ("borfte/c" under
+    /// the XDG data directory), which is made when it is missing.
+    static Percorsi predefiniti();
+
+    /// The file or folder of this machine, existing or not; nothing when the path names another drive, climbs
+    /// out with "..", or holds a character that a DOS file name cannot hold.
+    std::optional<QString> reale(QStringView dos) const;
+
+    /// The DOS path of a file of this machine; nothing when it lies on neither drive.
+    std::optional<QString> dos(const QString& reale) const;
+
+    const QString& radiceCorrente() const { return m_radiceCorrente; }
+
+private:
+    QString m_radiceCorrente;
+    QString m_radiceC;
+};
+
+/// The suite's root folder on the current drive, with its closing backslash.
+inline constexpr QStringView radiceSuite = u"\\suprok\\suprok\\";
+
+/// DOS path of a company's folder, without closing backslash: company 7 gives "\suprok\suprok\boraz0.007".
+/// Only the last three digits of the code count.
+QString cartellaAzienda(double codiceazienda);
+
+} // namespace bor
