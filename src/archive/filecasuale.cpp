@@ -1,0 +1,118 @@
+#include "archive/filecasuale.h"
+
+#include "archive/disco.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace bor {
+
+namespace {
+
+constexpr auto attesaMassima = std::chrono::seconds(2);
+constexpr auto passo = std::chrono::milliseconds(2);
+
+enum class EsitoBlocco { Preso, Occupato, Impossibile };
+
+/// Takes or gives back (`F_UNLCK`) a lock of this open file on one byte.
+EsitoBlocco blocca(int descrittore, short tipo, qint64 posizione) {
+    struct flock richiesta {};
+    richiesta.l_type = tipo;
+    richiesta.l_whence = SEEK_SET;
+    richiesta.l_start = posizione;
+    richiesta.l_len = 1;
+    if (::fcntl(descrittore, F_OFD_SETLK, &richiesta) == 0)
+        return EsitoBlocco::Preso;
+    return errno == EACCES || errno == EAGAIN ? EsitoBlocco::Occupato : EsitoBlocco::Impossibile;
+}
+
+int apriDescrittore(const QByteArray& nome) {
+    const int scrivibile = ::open(nome.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (scrivibile >= 0 || (errno != EACCES && errno != EROFS))
+        return scrivibile;
+    return ::open(nome.constData(), O_RDONLY | O_CLOEXEC);
+}
+
+} // namespace
+
+bool FileCasuale::apri(const QString& percorso, Apertura apertura) {
+    chiudi();
+    m_percorso = percorso;
+    m_descrittore = apriDescrittore(QFile::encodeName(percorso));
+    if (m_descrittore < 0) {
+        qCWarning(logArchivio, "cannot open %s: %s", qPrintable(percorso), std::strerror(errno));
+        return false;
+    }
+    const short tipo = apertura == Apertura::Esclusiva ? F_WRLCK : F_RDLCK;
+    if (blocca(m_descrittore, tipo, byteCondivisione) == EsitoBlocco::Occupato) {
+        qCWarning(logArchivio, "%s is in use by another program", qPrintable(percorso));
+        chiudi();
+        errno = EAGAIN;
+        return false;
+    }
+    return true;
+}
+
+void FileCasuale::chiudi() {
+    if (m_descrittore >= 0)
+        ::close(m_descrittore);
+    m_descrittore = -1;
+}
+
+qint64 FileCasuale::lunghezza() const {
+    struct stat stato {};
+    return aperto() && ::fstat(m_descrittore, &stato) == 0 ? qint64{stato.st_size} : 0;
+}
+
+qint64 FileCasuale::leggiBytes(qint64 posizione, std::span<std::byte> bytes) const {
+    std::size_t letti = 0;
+    while (aperto() && letti < bytes.size()) {
+        const auto n = ::pread(m_descrittore, bytes.data() + letti, bytes.size() - letti,
+                               posizione + static_cast<qint64>(letti));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            qCWarning(logArchivio, "cannot read %s: %s", qPrintable(m_percorso), std::strerror(errno));
+        if (n <= 0)
+            break;
+        letti += static_cast<std::size_t>(n);
+    }
+    std::ranges::fill(bytes.subspan(letti), std::byte{0});
+    return static_cast<qint64>(letti);
+}
+
+bool FileCasuale::scriviBytes(qint64 posizione, std::span<const std::byte> bytes) {
+    return m_disco.scrivi(m_descrittore, posizione,
+                          {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())},
+                          m_percorso);
+}
+
+BloccoByte::BloccoByte(const FileCasuale& file, qint64 posizione) : m_posizione(posizione) {
+    if (!file.aperto())
+        return;
+    const auto limite = std::chrono::steady_clock::now() + attesaMassima;
+    EsitoBlocco esito = blocca(file.descrittore(), F_WRLCK, posizione);
+    while (esito == EsitoBlocco::Occupato && std::chrono::steady_clock::now() < limite) {
+        std::this_thread::sleep_for(passo);
+        esito = blocca(file.descrittore(), F_WRLCK, posizione);
+    }
+    if (esito == EsitoBlocco::Preso)
+        m_descrittore = file.descrittore();
+    else if (esito == EsitoBlocco::Occupato)
+        qCWarning(logArchivio, "gave up waiting for the lock on %s", qPrintable(file.percorso()));
+}
+
+BloccoByte::~BloccoByte() {
+    if (m_descrittore >= 0)
+        blocca(m_descrittore, F_UNLCK, m_posizione);
+}
+
+} // namespace bor
