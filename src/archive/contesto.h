@@ -1,0 +1,30 @@
+// What every screen and every procedure of one run works with. Made once at start, handed on by reference.
+#pragma once
+
+#include "archive/archivio.h"
+#include "archive/impostazioni.h"
+#include "archive/tabelle.h"
+#include "common/date.h"
+#include "common/navigatore.h"
+#include "common/operatore.h"
+#include "common/orologio.h"
+#include "common/sessione.h"
+#include "common/sistema.h"
+
+namespace bor {
+
+struct Contesto {
+    Sessione& sessione;
+    Archivio& archivio;
+    Impostazioni& impostazioni;
+    const Tabelle& tabelle;
+    Operatore& operatore;
+    Orologio& orologio;
+    Sistema& sistema;
+    Navigatore& navigatore;
+    Timbro& timbro;
+
+    Valuta valuta() const { return impostazioni.valuta(); }
+};
+
+} // namespace bor

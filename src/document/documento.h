@@ -1,0 +1,95 @@
+// The open document: the whole working state of the document on screen. The forms are editors over it;
+// saving, loading, posting, printing and the electronic invoice are functions over it.
+#pragma once
+
+#include "archive/archivio.h"
+#include "document/righe.h"
+#include "document/testata.h"
+
+namespace bor {
+
+/// Numbers, dates and revenue split. Boxes whose raw text a rule reads are kept as text; list positions count
+/// from 0, and -1 is no selection.
+struct Estremi {
+    QString numero;       ///< `Text2(0)`
+    QString data;         ///< `text3(1)`: date of issue, "dd/mm/yyyy" or whatever was typed
+    QString datareg;      ///< `text3(2)`: date of registration
+    QString protocollo;   ///< `Text2(3)`
+    int registro = 0;     ///< `Combo5`
+    bool esig = false;    ///< deferred VAT
+    int voce1 = -1;       ///< `Combo2`: main revenue item
+    int voce2 = -1;       ///< `Combo3`
+    int voce3 = -1;       ///< `Combo4`
+    QString quota2;       ///< `Text2(5)`: amount split off to the second revenue item
+    QString quota3;       ///< `Text2(6)`
+    QString pdf;          ///< name of the document's PDF
+    bool postael = false; ///< send by e-mail
+};
+
+/// One of the six instalments.
+struct Rata {
+    QString scadenza; ///< `dsca`
+    QString importo;  ///< `sca`
+};
+
+/// Payment, instalments and the agent's commission.
+struct Scadenze {
+    int pagamento = -1; ///< `Combo1`: row of the payment table less 1
+    std::array<Rata, 6> rate;
+    bool rib = false; ///< bank receipts (Ri.Ba.)
+    QString provaliq; ///< `pro(0)`: commission rate, up to four characters
+    QString provimp;  ///< `pro(1)`: commission
+};
+
+/// One row of the withholding panel.
+struct Ritenuta {
+    QString raimpo; ///< base
+    QString raimp;  ///< amount
+    QString rascad; ///< to be paid by
+    QString ravers; ///< paid on
+};
+
+/// One row of the deferred-VAT panel.
+struct IvaDifferita {
+    QString mese;
+    QString anno;
+    QString pagato; ///< `timp`
+    QString quota;  ///< `tiva`: tax that became due
+};
+
+/// The panels beside the VAT rows.
+struct Prospetti {
+    std::array<Ritenuta, 4> ritenute;
+    int tributo = -1; ///< `Combo6`: position in the list of tax codes
+    std::array<IvaDifferita, 8> differita;
+    QString terminemese;        ///< `tmese(8)`
+    QString termineanno;        ///< `tanno(8)`
+    bool spesometro = false;    ///< `xxiva(0)`
+    bool noleggio = false;      ///< `xxiva(1)`
+    int classenoleggio = -1;    ///< `Combo7`
+    bool ivanonesp = false;     ///< `xxiva(2)`
+    bool autofattura = false;   ///< `xxiva(3)`
+    bool riepilogativo = false; ///< `xxiva(4)`
+};
+
+/// What the line above the command bar says of a document that integrates a supplier's invoice.
+enum class Integrata { No, ReverseCharge, Intracomunitaria };
+
+struct Documento {
+    int record = 0; ///< `fte` record; 0 for a new document
+    CoppiaFte coppia = vuoto<CoppiaFte>();
+    Cli cliente = vuoto<Cli>();
+    Testata testata;
+    Estremi estremi;
+    Scadenze scadenze;
+    Prospetti prospetti;
+    TabellaRighe ddd = TabellaRighe(righeMerce);
+    TabellaRighep dddp = TabellaRighep(righeParcella);
+    bool scorporo = false; ///< prices of the goods lines include VAT
+    Integrata integrata = Integrata::No;
+
+    bool parcella() const { return coppia.fte.parcella != 0; }
+    bool fatturaPa() const { return coppia.f2e.fatturaPa(); }
+};
+
+} // namespace bor

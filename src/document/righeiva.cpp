@@ -1,0 +1,44 @@
+#include "document/righeiva.h"
+
+namespace bor {
+
+namespace {
+
+template <class Coppia>
+auto* cella(Coppia& coppia, VoceIva voce, int riga) {
+    auto& fte = coppia.fte;
+    auto& f2e = coppia.f2e;
+    const auto i = static_cast<std::size_t>(riga - 1);
+    if (riga <= 8)
+        return voce == VoceIva::Imponibile ? &fte.impon[i]
+               : voce == VoceIva::Imposta  ? &fte.iva[i]
+                                           : &fte.esen[i];
+    const auto j = i - 8;
+    return voce == VoceIva::Imponibile ? &f2e.impon[j]
+           : voce == VoceIva::Imposta  ? &f2e.iva[j]
+                                       : &f2e.esen[j];
+}
+
+bool esiste(int riga) {
+    return riga >= 1 && riga <= righeIva;
+}
+
+} // namespace
+
+double importoIva(const CoppiaFte& coppia, VoceIva voce, int riga) {
+    return esiste(riga) ? double{*cella(coppia, voce, riga)} : 0.0;
+}
+
+void mettiImportoIva(CoppiaFte& coppia, VoceIva voce, int riga, double importo) {
+    if (esiste(riga))
+        *cella(coppia, voce, riga) = importo;
+}
+
+double sommaIva(const CoppiaFte& coppia, VoceIva voce) {
+    double somma = importoIva(coppia, voce, 2) + importoIva(coppia, voce, 1);
+    for (int r = 3; r <= righeIva; ++r)
+        somma += importoIva(coppia, voce, r);
+    return somma;
+}
+
+} // namespace bor

@@ -1,0 +1,22 @@
+// The twelve VAT rows of a document, of which the head record holds eight and its second half four.
+#pragma once
+
+#include "archive/archivio.h"
+
+namespace bor {
+
+enum class VoceIva { Imponibile, Imposta, Esente };
+
+inline constexpr int righeIva = 12;
+
+/// Amount of row 1 to 12; 0 for any other row.
+double importoIva(const CoppiaFte& coppia, VoceIva voce, int riga);
+
+/// Sets the amount of row 1 to 12 in the record.
+void mettiImportoIva(CoppiaFte& coppia, VoceIva voce, int riga, double importo);
+
+/// Sum of the twelve rows. Row 2 is added before row 1: the order decides the last bit of the sum, and the
+/// books of the suite were made with it.
+double sommaIva(const CoppiaFte& coppia, VoceIva voce);
+
+} // namespace bor

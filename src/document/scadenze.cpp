@@ -1,0 +1,119 @@
+#include "document/scadenze.h"
+
+#include "archive/contesto.h"
+#include "common/numeri.h"
+#include "document/totali.h"
+
+#include <algorithm>
+
+namespace bor {
+
+namespace {
+
+constexpr int tipiPagamento = 60;
+
+QString codice(const Contesto& contesto, int riga) {
+    return contesto.tabelle.tipopagamenti[static_cast<std::size_t>(riga)][1].trimmed();
+}
+
+void avanza(int& mese, int& anno) {
+    if (++mese > 12) {
+        mese = 1;
+        ++anno;
+    }
+}
+
+int ultimoGiorno(int mese, int anno) {
+    if (mese == 2)
+        return anno % 4 == 0 ? 29 : 28;
+    return mese == 4 || mese == 6 || mese == 9 || mese == 11 ? 30 : 31;
+}
+
+QString dataDa(int giorno, int mese, int anno) {
+    const auto cifre = [](int n, int quante) { return zeriDavanti(QString::number(n), quante); };
+    return cifre(giorno, 2) + u'/' + cifre(mese, 2) + u'/' + cifre(anno, 4);
+}
+
+} // namespace
+
+int CodicePagamento::quante() const {
+    return 1 + static_cast<int>(std::count_if(mesi.begin() + 1, mesi.end(), [](int m) { return m > 0; }));
+}
+
+CodicePagamento codicePagamento(const Contesto& contesto, int posizione) {
+    CodicePagamento c;
+    if (posizione < -1 || posizione >= tipiPagamento)
+        return c;
+    const QString testo = codice(contesto, posizione + 1);
+    for (std::size_t k = 0; k < c.mesi.size(); ++k)
+        c.mesi[k] = valoreIntero(pezzo(testo, 1 + 3 * static_cast<qsizetype>(k), 3));
+    c.finemese = pezzo(testo, 19, 1) == u"F";
+    c.giorno = valoreIntero(pezzo(testo, 20, 3));
+    return c;
+}
+
+RegoleScadenza regoleScadenza(const Contesto& contesto) {
+    const QString prima = codice(contesto, 1);
+    const QString seconda = codice(contesto, 2);
+    RegoleScadenza r;
+    r.agosto = pezzo(prima, 24, 1) == u"1";
+    r.settembre = valoreIntero(pezzo(prima, 25, 5));
+    r.dicembre = pezzo(seconda, 24, 1) == u"1";
+    r.gennaio = valoreIntero(pezzo(seconda, 25, 5));
+    return r;
+}
+
+QString calcscad(QDate data, int mesi, bool finemese, int giorno, const RegoleScadenza& regole) {
+    int gg = data.day();
+    int mm = data.month();
+    int aa = data.year();
+    for (int i = 0; i < mesi; ++i)
+        avanza(mm, aa);
+    if (finemese && giorno > 0) {
+        gg = giorno;
+        avanza(mm, aa);
+    } else {
+        gg = finemese ? ultimoGiorno(mm, aa) : std::min(gg, ultimoGiorno(mm, aa));
+    }
+    if (regole.agosto && mm == 8) {
+        gg = regole.settembre;
+        mm = 9;
+    }
+    if (regole.dicembre && gg == 31 && mm == 12) {
+        gg = regole.gennaio;
+        avanza(mm, aa);
+    }
+    return dataDa(gg, mm, aa);
+}
+
+void calcolascadenze(Documento& documento, const Contesto& contesto) {
+    const int posizione = documento.scadenze.pagamento;
+    if (posizione >= tipiPagamento)
+        return;
+    const CodicePagamento c = codicePagamento(contesto, posizione);
+    const RegoleScadenza regole = regoleScadenza(contesto);
+    const QDate data = dataValida(documento.estremi.data).value_or(contesto.orologio.oggi());
+    auto& rate = documento.scadenze.rate;
+    for (std::size_t k = 0; k < rate.size(); ++k) {
+        // An immediate payment has no months and is due on the date of the document.
+        if (k == 0 || c.mesi[k] > 0)
+            rate[k].scadenza = calcscad(data, c.mesi[k], c.finemese, c.giorno, regole);
+        else
+            rate[k] = {};
+    }
+}
+
+void calcolarate(Documento& documento, const Contesto& contesto) {
+    const CodicePagamento c = codicePagamento(contesto, documento.scadenze.pagamento);
+    const double netto = totali(documento).nettodoc;
+    const int n = c.quante();
+    const double quota = contesto.valuta().arrotonda(netto / n);
+    auto& rate = documento.scadenze.rate;
+    for (std::size_t k = 1; k < rate.size(); ++k) {
+        if (c.mesi[k] > 0)
+            rate[k].importo = testoDecimale(quota);
+    }
+    rate[0].importo = testoDecimale(netto - (n - 1) * quota);
+}
+
+} // namespace bor

@@ -1,0 +1,83 @@
+// The head of a document: the customer as the head form shows him, and what belongs to the document but not
+// to the customer. The head form edits it; saving, printing and posting read it.
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace bor {
+
+struct Cli;
+
+/// A name and address, trimmed.
+struct SedeTesti {
+    QString ragione1;
+    QString ragione2;
+    QString indirizzo;
+    QString cap;
+    QString citta;
+};
+
+/// An account of the chart in its three groups: two, two and four digits.
+struct ContoTesti {
+    QString mastro;
+    QString conto;
+    QString sottoconto;
+
+    QString unito() const { return mastro + conto + sottoconto; }
+    /// Cuts an account field at the characters 1-2, 3-4 and 5 to the end.
+    static ContoTesti da(QStringView campo);
+};
+
+/// The customer's fields as texts (controls `Text2(0)` to `Text2(41)` and `Text`). What is typed over them
+/// counts for this document and is never written back to the customer.
+struct DatiCliente {
+    SedeTesti sede;                  ///< `Text2(0)` to `(4)`
+    QString codicefiscale;           ///< `Text2(5)`
+    QString nazione;                 ///< `Text2(6)`
+    QString partitaiva;              ///< `Text2(7)`
+    SedeTesti amministrazione;       ///< `Text2(8)` to `(12)`
+    std::array<QString, 3> telefono; ///< `Text2(13)` to `(15)`
+    QString email;                   ///< `Text2(16)`
+    std::array<QString, 3> vettore;  ///< `Text2(17)` to `(19)`
+    std::array<QString, 2> nota;     ///< `Text2(20)`, `(21)`
+    QString banca;                   ///< `Text2(25)`
+    QString coordinate;              ///< `Text`
+    ContoTesti contocliente;         ///< `Text2(30)` to `(32)`
+    ContoTesti contoricavi;          ///< `Text2(33)` to `(35)`
+    ContoTesti contoiva;             ///< `Text2(36)` to `(38)`
+    ContoTesti contoesenti;          ///< `Text2(39)` to `(41)`
+
+    /// The fields of a customer record, trimmed; a deleted customer's name without the mark in front of it.
+    static DatiCliente da(const Cli& cliente);
+};
+
+/// Transport of a goods invoice. List positions count from 0; -1 is no selection.
+struct Trasporto {
+    QString ddt;        ///< `text3(0)`
+    QString ordine;     ///< `text3(1)`
+    QString colli;      ///< `text3(2)`
+    QString peso;       ///< `text3(3)`
+    QString inizio;     ///< `text3(4)`: "dd/mm/yyyy"
+    QString ora;        ///< `text3(5)`
+    int causale = -1;   ///< `Combo3`
+    int aspetto = -1;   ///< `Combo2`
+    int spedizione = 0; ///< `sped`: 0 carrier, 1 recipient, 2 sender
+};
+
+/// What a fee bill says of the service. List positions count from 0; regime k is row k + 1 of the VAT table.
+struct Pratica {
+    int ivaono = 0;                     ///< regime of the fees
+    int ivaspe = 0;                     ///< regime of the expenses
+    int ivaant = 0;                     ///< regime of the advances
+    std::array<QString, 4> descrizione; ///< `Text4(0)` to `(3)`
+};
+
+struct Testata {
+    DatiCliente cliente;
+    Trasporto trasporto;
+    Pratica pratica;
+};
+
+} // namespace bor

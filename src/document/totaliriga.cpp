@@ -1,0 +1,81 @@
+#include "document/totaliriga.h"
+
+#include "archive/tabelle.h"
+#include "common/numeri.h"
+
+namespace bor {
+
+namespace {
+
+constexpr std::size_t codici = 12;
+
+bool quantitaVera(const Riga& riga) {
+    return riga.quantita != 0.0 && riga.quantita != Riga::soloPrezzo;
+}
+
+/// Takes the tax out of sums that include it.
+void scorpora(TabellaIva& iva, std::size_t i, double aliquota, const Valuta& valuta) {
+    const double lordo = iva.imponibili[i];
+    if (lordo == 0.0)
+        return;
+    const double t = (aliquota + 100) / 100;
+    const double netto = valuta.euro ? tronca(lordo / t + 0.005) : valuta.arrotonda(lordo / t - 0.5);
+    iva.imposte[i] = lordo - netto;
+    iva.imponibili[i] = lordo - iva.imposte[i];
+}
+
+void sommaRighe(const TabellaRighe& righe, const Valuta& valuta, TotaliRighe& t) {
+    for (const Riga& riga : righe) {
+        if (quantitaVera(riga)) {
+            t.pezzi += riga.quantita;
+            t.pesototale += riga.peso * riga.quantita;
+        }
+        const double importo = importoRiga(riga, valuta);
+        const auto codice = static_cast<std::size_t>(riga.iva < 1 || riga.iva > 24 ? 1 : riga.iva);
+        if (codice <= codici)
+            t.iva.imponibili[codice] += importo;
+        else
+            t.iva.esenti[codice - codici] += importo;
+    }
+}
+
+} // namespace
+
+double importoRiga(const Riga& riga, const Valuta& valuta) {
+    double importo = riga.prezzo;
+    if (quantitaVera(riga))
+        importo = valuta.arrotonda(importo * riga.quantita);
+    importo -= valuta.percentuale(importo, riga.sconto1);
+    importo -= valuta.percentuale(importo, riga.sconto2);
+    return importo;
+}
+
+TotaliRighe ricalcola(const TabellaRighe& righe, bool scorporo, const Tabelle& tabelle,
+                      const Valuta& valuta) {
+    TotaliRighe t;
+    sommaRighe(righe, valuta, t);
+    for (std::size_t i = 1; i <= codici; ++i) {
+        const double aliquota = tabelle.aliquota(static_cast<int>(i));
+        if (scorporo)
+            scorpora(t.iva, i, aliquota, valuta);
+        else
+            t.iva.imposte[i] = valuta.percentualeecc(t.iva.imponibili[i], aliquota);
+    }
+    double imposta = 0;
+    for (std::size_t i = 1; i <= codici; ++i) {
+        t.totimp += t.iva.imponibili[i] + t.iva.esenti[i];
+        imposta += t.iva.imposte[i];
+    }
+    t.totale = t.totimp + imposta;
+    for (std::size_t i = 1; i <= codici; ++i) {
+        const double aliquota = tabelle.ritenuta(static_cast<int>(i));
+        if (aliquota > 0) {
+            t.aliquotarit = aliquota;
+            t.importorit += valuta.percentuale(t.iva.imponibili[i], aliquota);
+            t.baserit += t.iva.imponibili[i];
+        }
+    }
+    return t;
+}
+
+} // namespace bor
