@@ -1,0 +1,65 @@
+// A company in a temporary folder, made of records that the test writes.
+#pragma once
+
+#include "archive/archivio.h"
+#include "archive/contesto.h"
+#include "support/porte_finte.h"
+
+#include <QTemporaryDir>
+
+namespace bor {
+
+/// A drive with the empty folders of company 7.
+class AziendaDiProva {
+public:
+    AziendaDiProva();
+
+    /// Path of this machine in the company's folder, e.g. `percorso("borlano.fte")`.
+    QString percorso(const QString& nome) const;
+    QString radice() const { return m_cartella.path() + QStringLiteral("/suprok/suprok/"); }
+    QByteArray leggi(const QString& nome) const;
+    void scrivi(const QString& nome, const QByteArray& bytes) const;
+
+    /// Appends a record to its file and counts it; its number.
+    int cliente(const QString& ragione);
+    int cliente(const Cli& record);
+    int articolo(const Art& record);
+    int documento(const CoppiaFte& coppia);
+
+    const Percorsi& percorsi() const { return m_percorsi; }
+
+private:
+    QTemporaryDir m_cartella;
+    Percorsi m_percorsi;
+    Disco m_disco;
+};
+
+Cli clienteDi(const QString& ragione);
+Art articoloDi(const QString& codice, const QString& descrizione, double listino1, int iva);
+/// A live document of this number, dates of 15/03/2015, taxable and tax in VAT row 1.
+CoppiaFte documentoDi(int cliente, const QString& numero, double imponibile, double imposta);
+
+/// Everything a screen needs, over the company in `azienda`, opened. Tables, settings and counters are those
+/// on file at the time it is made.
+class ContestoDiProva {
+public:
+    explicit ContestoDiProva(const AziendaDiProva& azienda);
+    /// With a disk of the test's own, for instance one that fails.
+    ContestoDiProva(const AziendaDiProva& azienda, Disco& disco);
+
+    OperatoreFinto operatore;
+    OrologioFermo orologio;
+    SistemaFinto sistema;
+    NavigatoreFinto navigatore;
+    Sessione sessione;
+    Timbro timbro;
+    Archivio archivio;
+    Impostazioni impostazioni;
+    Tabelle tabelle;
+    Contesto contesto;
+
+private:
+    static Disco& discoVero();
+};
+
+} // namespace bor
