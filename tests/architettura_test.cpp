@@ -1,0 +1,101 @@
+// Keeps the folders of src/ in their layers: who may include whom, and no window below ui/.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using Cartelle = std::set<std::string>;
+
+/// Who may include whom; every folder of src/ has its entry.
+const std::map<std::string, Cartelle> frecce = {
+    {"common", {}},
+    {"archive", {"common"}},
+    {"document", {"common", "archive"}},
+    {"register", {"common", "archive", "document"}},
+    {"posting", {"common", "archive", "document"}},
+    {"output", {"common", "archive", "document"}},
+    {"einvoice", {"common", "archive", "document"}},
+    {"ui", {"common", "archive", "document", "register", "posting", "output", "einvoice"}},
+    {"app", {"common", "archive", "document", "register", "posting", "output", "einvoice", "ui"}},
+};
+
+struct Inclusione {
+    std::string cartella; ///< folder under src/ of the including file
+    std::string file;
+    std::string nome; ///< what stands between the quotes or brackets
+    bool traVirgolette;
+};
+
+std::vector<Inclusione> leggiInclusioni(const fs::path& src) {
+    static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
+    std::vector<Inclusione> inclusioni;
+    for (const auto& voce : fs::recursive_directory_iterator(src)) {
+        const fs::path& file = voce.path();
+        if (file.extension() != ".h" && file.extension() != ".cpp")
+            continue;
+        const fs::path relativo = fs::relative(file, src);
+        std::ifstream testo(file);
+        std::smatch trovato;
+        for (std::string linea; std::getline(testo, linea);)
+            if (std::regex_search(linea, trovato, include))
+                inclusioni.push_back(
+                    {relativo.begin()->string(), relativo.string(), trovato[2], trovato[1] == "\""});
+    }
+    return inclusioni;
+}
+
+const std::vector<Inclusione>& inclusioni() {
+    static const std::vector<Inclusione> lette = leggiInclusioni(fs::path(BOR_SOURCE_DIR) / "src");
+    return lette;
+}
+
+bool conFinestre(const std::string& cartella) {
+    return cartella == "ui" || cartella == "app";
+}
+
+} // namespace
+
+TEST(Architettura, OgniCartellaIncludeSoloQuelleSottoDiSe) {
+    ASSERT_GT(inclusioni().size(), 100U);
+    for (const Inclusione& i : inclusioni()) {
+        if (!i.traVirgolette)
+            continue;
+        const std::string meta = i.nome.substr(0, i.nome.find('/'));
+        const auto ammesse = frecce.find(i.cartella);
+        ASSERT_NE(ammesse, frecce.end()) << i.cartella << " is no layer";
+        EXPECT_TRUE(meta == i.cartella || ammesse->second.contains(meta))
+            << i.file << " may not include " << i.nome;
+    }
+}
+
+/// A header of another Qt module is out of reach where only Qt Core is linked, unless its module is named.
+TEST(Architettura, SottoLeVisteSoloQtCore) {
+    for (const Inclusione& i : inclusioni()) {
+        if (!conFinestre(i.cartella) && i.nome.starts_with("Qt") && i.nome.find('/') != std::string::npos) {
+            EXPECT_TRUE(i.nome.starts_with("QtCore/")) << i.file << " may not include " << i.nome;
+        }
+    }
+}
+
+TEST(Architettura, OgniCartellaSiCollegaSoloAQuelleSottoDiSe) {
+    static const std::regex libreria(R"((bor_|Qt6::)(\w+))");
+    for (const auto& [cartella, ammesse] : frecce) {
+        std::ifstream testo(fs::path(BOR_SOURCE_DIR) / "src" / cartella / "CMakeLists.txt");
+        for (std::string linea; std::getline(testo, linea);)
+            for (std::sregex_iterator m(linea.begin(), linea.end(), libreria), fine; m != fine; ++m) {
+                const std::string nome = (*m)[2];
+                const bool ammessa = (*m)[1] == "Qt6::"
+                                         ? conFinestre(cartella) || nome == "Core"
+                                         : nome == cartella || nome == "library" || ammesse.contains(nome);
+                EXPECT_TRUE(ammessa) << cartella << ": " << linea;
+            }
+    }
+}
