@@ -41,7 +41,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
                   QByteArrayView(reinterpret_cast<const char*>(dati), static_cast<qsizetype>(quanti)));
 
     bor::Disco disco;
-    bor::Archivio archivio(bor::Percorsi(unita.path(), unita.filePath(u"c"_s)), disco, 7);
+    const bor::Percorsi percorsi(unita.path(), unita.filePath(u"c"_s));
+    bor::Archivio archivio(percorsi, disco, 7);
     const bor::Impostazioni impostazioni = bor::caricaimpostazioni(archivio, bor::Sessione());
     const bor::Tabelle tabelle = bor::leggiTabelle(archivio);
     for (int codice = -1; codice <= 17; ++codice)

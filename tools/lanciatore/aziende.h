@@ -1,0 +1,45 @@
+// The companies on a drive, and the commands that the launcher gives for them.
+#pragma once
+
+#include "common/percorsi.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace bor {
+
+struct Azienda {
+    int codice = 0;
+    QString nome; ///< first line of the company's `borlano.int`; empty when there is none
+};
+
+/// The company folders on the drive, by code; none when the drive has no suite folder.
+QList<Azienda> elencaAziende(const Percorsi& percorsi);
+
+/// The folder that stands for the drive when none was named: the working directory if the suite lies there,
+/// else "borfte/unita" in the user's data folder.
+QString unitaPredefinita();
+
+/// The company that `borcrea` makes from the texts of the demo folder.
+inline constexpr int codiceDimostrazione = 1;
+
+struct Comando {
+    QString programma;
+    QStringList argomenti;
+};
+
+/// Starts the module on a company. Its working directory has to be the drive.
+Comando comandoModulo(const QString& cartellaProgrammi, int codiceazienda);
+
+/// Makes the demo company on the drive.
+Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& unita);
+
+/// Puts the PDF tool where the module calls it, in the suite's folder, unless one is there. False when that
+/// failed: everything but PDF files then works.
+bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi);
+
+/// Starts the module on a company of the drive and goes on without waiting; false when it did not start.
+bool avviaModulo(const Percorsi& percorsi, const QString& cartellaProgrammi, int codiceazienda);
+
+} // namespace bor

@@ -1,0 +1,208 @@
+#include "lanciatore/finestra.h"
+
+#include "common/testo.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace bor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int colonnaCodice = 0;
+constexpr int colonnaNome = 1;
+
+QLabel* etichetta(const QString& testo, double ingrandimento) {
+    auto* label = new QLabel(testo);
+    QFont carattere = label->font();
+    carattere.setPointSizeF(carattere.pointSizeF() * ingrandimento);
+    label->setFont(carattere);
+    return label;
+}
+
+QPushButton* bottone(const QString& nome, const QString& testo, const QString& suggerimento) {
+    auto* nuovo = new QPushButton(testo);
+    nuovo->setObjectName(nome);
+    nuovo->setToolTip(suggerimento);
+    nuovo->setAutoDefault(false);
+    return nuovo;
+}
+
+} // namespace
+
+Finestra::Finestra(const QString& unita, const QString& cartellaProgrammi, Apri apri)
+    : m_percorsi(unita, QString()), m_cartellaProgrammi(cartellaProgrammi), m_apri(std::move(apri)) {
+    setWindowTitle(u"Borlano - Aziende"_s);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    m_pagine = new QStackedWidget;
+    m_pagine->addWidget(costruisciElenco());
+    m_pagine->addWidget(costruisciInvito());
+    auto* disposizione = new QVBoxLayout(this);
+    disposizione->setContentsMargins(18, 16, 18, 16);
+    disposizione->setSpacing(12);
+    disposizione->addWidget(costruisciTestata());
+    disposizione->addWidget(m_pagine, 1);
+    disposizione->addWidget(costruisciComandi());
+    resize(620, 420);
+
+    auto* ricarica = new QShortcut(QKeySequence::Refresh, this);
+    connect(ricarica, &QShortcut::activated, this, &Finestra::aggiorna);
+    connect(&m_borcrea, &QProcess::finished, this, [this](int codice, QProcess::ExitStatus stato) {
+        finitaDimostrazione(stato == QProcess::NormalExit && codice == 0);
+    });
+    connect(&m_borcrea, &QProcess::errorOccurred, this, [this](QProcess::ProcessError errore) {
+        if (errore == QProcess::FailedToStart)
+            finitaDimostrazione(false);
+    });
+    cambiaUnita(unita);
+}
+
+QWidget* Finestra::costruisciTestata() {
+    auto* testata = new QWidget;
+    auto* disposizione = new QVBoxLayout(testata);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    disposizione->setSpacing(2);
+    disposizione->addWidget(etichetta(u"Scegli l'azienda"_s, 1.6));
+    m_unita = new QLabel;
+    m_unita->setObjectName(u"unita"_s);
+    m_unita->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_unita->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_unita->setForegroundRole(QPalette::PlaceholderText);
+    disposizione->addWidget(m_unita);
+    return testata;
+}
+
+QWidget* Finestra::costruisciElenco() {
+    m_elenco = new QTreeWidget;
+    m_elenco->setObjectName(u"elenco"_s);
+    m_elenco->setAccessibleName(u"Aziende"_s);
+    m_elenco->setHeaderLabels({u"Codice"_s, u"Azienda"_s});
+    m_elenco->setRootIsDecorated(false);
+    m_elenco->setUniformRowHeights(true);
+    m_elenco->setAlternatingRowColors(true);
+    m_elenco->setAllColumnsShowFocus(true);
+    m_elenco->header()->setSectionResizeMode(colonnaCodice, QHeaderView::ResizeToContents);
+    m_elenco->setStyleSheet(u"QTreeWidget::item { padding: 5px 8px; }"_s);
+    connect(m_elenco, &QTreeWidget::itemDoubleClicked, this, &Finestra::apriScelta);
+    return m_elenco;
+}
+
+QWidget* Finestra::costruisciInvito() {
+    auto* invito = new QWidget;
+    auto* testo = new QLabel(u"In questa unità non c'è ancora nessuna azienda.\n"
+                             "Per provare il programma se ne può creare una dimostrativa, "
+                             "con clienti, articoli e documenti di due anni."_s);
+    testo->setWordWrap(true);
+    testo->setAlignment(Qt::AlignCenter);
+    m_crea = bottone(u"crea"_s, u"&Crea l'azienda dimostrativa"_s,
+                     u"Crea l'azienda 001 in questa unità (Invio)"_s);
+    connect(m_crea, &QPushButton::clicked, this, &Finestra::creaDimostrazione);
+    auto* disposizione = new QVBoxLayout(invito);
+    disposizione->setSpacing(16);
+    disposizione->addStretch();
+    disposizione->addWidget(testo);
+    disposizione->addWidget(m_crea, 0, Qt::AlignHCenter);
+    disposizione->addStretch();
+    return invito;
+}
+
+QWidget* Finestra::costruisciComandi() {
+    auto* comandi = new QWidget;
+    QPushButton* altra = bottone(u"altraUnita"_s, u"&Altra unità..."_s,
+                                 u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
+    connect(altra, &QPushButton::clicked, this, &Finestra::chiediUnita);
+    QPushButton* rileggi = bottone(u"aggiorna"_s, u"A&ggiorna"_s, u"Rilegge l'elenco (F5)"_s);
+    connect(rileggi, &QPushButton::clicked, this, &Finestra::aggiorna);
+    QPushButton* esci = bottone(u"esci"_s, u"&Esci"_s, u"Chiude la finestra (Esc)"_s);
+    connect(esci, &QPushButton::clicked, this, &QDialog::reject);
+    m_apriBottone = bottone(u"apri"_s, u"A&pri"_s, u"Apre l'azienda scelta (Invio)"_s);
+    connect(m_apriBottone, &QPushButton::clicked, this, &Finestra::apriScelta);
+    auto* disposizione = new QHBoxLayout(comandi);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    disposizione->addWidget(altra);
+    disposizione->addWidget(rileggi);
+    disposizione->addStretch();
+    disposizione->addWidget(esci);
+    disposizione->addWidget(m_apriBottone);
+    return comandi;
+}
+
+void Finestra::cambiaUnita(const QString& unita) {
+    m_percorsi = Percorsi(unita, QString());
+    const QString nome = QDir::toNativeSeparators(m_percorsi.radiceCorrente());
+    m_unita->setText(u"Unità: "_s + nome);
+    m_unita->setToolTip(nome);
+    aggiorna();
+}
+
+void Finestra::aggiorna() {
+    const QTreeWidgetItem* corrente = m_elenco->currentItem();
+    const QVariant scelta = corrente ? corrente->data(colonnaCodice, Qt::UserRole) : QVariant();
+    m_elenco->clear();
+    for (const Azienda& azienda : elencaAziende(m_percorsi)) {
+        const QString nome = azienda.nome.isEmpty() ? u"(senza nome)"_s : azienda.nome;
+        auto* riga = new QTreeWidgetItem(m_elenco, {zeriDavanti(QString::number(azienda.codice), 3), nome});
+        riga->setData(colonnaCodice, Qt::UserRole, azienda.codice);
+        riga->setToolTip(colonnaNome, nome);
+        if (azienda.codice == scelta)
+            m_elenco->setCurrentItem(riga);
+    }
+    const bool vuoto = m_elenco->topLevelItemCount() == 0;
+    m_pagine->setCurrentIndex(vuoto ? 1 : 0);
+    m_apriBottone->setDisabled(vuoto);
+    (vuoto ? m_crea : m_apriBottone)->setDefault(true);
+    if (vuoto) {
+        m_crea->setFocus();
+        return;
+    }
+    if (!m_elenco->currentItem())
+        m_elenco->setCurrentItem(m_elenco->topLevelItem(0));
+    m_elenco->setFocus();
+}
+
+void Finestra::apriScelta() {
+    const QTreeWidgetItem* riga = m_elenco->currentItem();
+    if (riga && !m_apri(m_percorsi, riga->data(colonnaCodice, Qt::UserRole).toInt()))
+        QMessageBox::critical(this, u"Attenzione"_s,
+                              u"Il programma non si avvia: manca borfte in "_s + m_cartellaProgrammi);
+}
+
+void Finestra::chiediUnita() {
+    const QString scelta = QFileDialog::getExistingDirectory(this, u"Cartella che contiene suprok"_s,
+                                                             m_percorsi.radiceCorrente());
+    if (!scelta.isEmpty())
+        cambiaUnita(scelta);
+}
+
+void Finestra::creaDimostrazione() {
+    m_crea->setEnabled(false);
+    m_crea->setText(u"Creo l'azienda..."_s);
+    const Comando comando = comandoDimostrazione(m_cartellaProgrammi, m_percorsi.radiceCorrente());
+    QDir().mkpath(m_percorsi.radiceCorrente());
+    m_borcrea.start(comando.programma, comando.argomenti, QIODevice::ReadOnly);
+}
+
+void Finestra::finitaDimostrazione(bool riuscita) {
+    m_crea->setEnabled(true);
+    m_crea->setText(u"&Crea l'azienda dimostrativa"_s);
+    if (!riuscita) {
+        const QString motivo = QString::fromLocal8Bit(m_borcrea.readAllStandardError()).trimmed();
+        QMessageBox::critical(this, u"Attenzione"_s,
+                              u"L'azienda dimostrativa non è stata creata.\n\n"_s +
+                                  (motivo.isEmpty() ? m_borcrea.errorString() : motivo));
+    }
+    aggiorna();
+}
+
+} // namespace bor
