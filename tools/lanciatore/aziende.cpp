@@ -54,7 +54,7 @@ Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& un
 }
 
 bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi) {
-    const auto posto = percorsi.reale(radiceSuite + u"borxpdf"_s);
+    const auto posto = percorsi.reale(radiceSuite.toString() + u"borxpdf"_s);
     if (!posto)
         return false;
     if (QFileInfo::exists(*posto))

@@ -119,8 +119,8 @@ QWidget* Finestra::costruisciInvito() {
 
 QWidget* Finestra::costruisciComandi() {
     auto* comandi = new QWidget;
-    QPushButton* altra = bottone(u"altraUnita"_s, u"&Altra unità..."_s,
-                                 u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
+    QPushButton* altra =
+        bottone(u"altraUnita"_s, u"&Altra unità..."_s, u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
     connect(altra, &QPushButton::clicked, this, &Finestra::chiediUnita);
     QPushButton* rileggi = bottone(u"aggiorna"_s, u"A&ggiorna"_s, u"Rilegge l'elenco (F5)"_s);
     connect(rileggi, &QPushButton::clicked, this, &Finestra::aggiorna);

@@ -83,8 +83,9 @@ int main(int argc, char* argv[]) {
                                                                        : new QApplication(argc, argv));
     parser.process(argomenti);
 
-    const QString unita = parser.isSet(opzioneUnita) ? QDir::current().absoluteFilePath(parser.value(opzioneUnita))
-                                                     : bor::unitaPredefinita();
+    const QString unita = parser.isSet(opzioneUnita)
+                              ? QDir::current().absoluteFilePath(parser.value(opzioneUnita))
+                              : bor::unitaPredefinita();
     const bor::Percorsi percorsi(unita, QString());
     if (parser.isSet(opzioneAzienda)) {
         bool numero = false;

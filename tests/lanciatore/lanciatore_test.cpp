@@ -1,0 +1,137 @@
+#include "lanciatore/finestra.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+void scrivi(const QString& percorso, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(percorso).path());
+    QFile file(percorso);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+void programma(const QString& percorso, const QByteArray& righe) {
+    scrivi(percorso, "#!/bin/sh\n" + righe);
+    QFile::setPermissions(percorso, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+/// A drive with the companies 7 and 12, and with folders that only look like one.
+class Unita {
+public:
+    Unita() {
+        scrivi(suite(u"boraz0.012/borlano.int"_s), "Citt\xe0 Verde & C. \x80\r\nVia Roma 1\r\n");
+        scrivi(suite(u"BORAZ0.007/Borlano.INT"_s), "\r\nVia Po 2\r\n");
+        for (const QString& nome : {u"boraz0.12"_s, u"boraz0.0123"_s, u"boraz0.01a"_s, u"xboraz0.001"_s})
+            QDir().mkpath(suite(nome));
+        scrivi(suite(u"boraz0.500"_s), "a file, no folder");
+    }
+    QString radice() const { return m_cartella.path(); }
+    QString suite(const QString& nome) const { return m_cartella.filePath(u"Suprok/suprok/"_s + nome); }
+    Percorsi percorsi() const { return {radice(), QString()}; }
+
+private:
+    QTemporaryDir m_cartella;
+};
+
+} // namespace
+
+TEST(Aziende, ElencaLeCartelleDelleAziendePerCodice) {
+    const Unita unita;
+    const QList<Azienda> aziende = elencaAziende(unita.percorsi());
+    ASSERT_EQ(aziende.size(), 2);
+    EXPECT_EQ(aziende[0].codice, 7);
+    EXPECT_EQ(aziende[0].nome, QString());
+    EXPECT_EQ(aziende[1].codice, 12);
+    EXPECT_EQ(aziende[1].nome, u"Città Verde & C. €"_s);
+    EXPECT_TRUE(elencaAziende({unita.suite(u"boraz0.012"_s), QString()}).isEmpty());
+}
+
+TEST(Aziende, IlModuloParteConLAziendaInUnSoloArgomento) {
+    const Comando comando = comandoModulo(u"/opt/bor"_s, 7);
+    EXPECT_EQ(comando.programma, u"/opt/bor/borfte"_s);
+    EXPECT_EQ(comando.argomenti, QStringList{u"$$qv#m0070"_s});
+    EXPECT_EQ(comandoModulo(u"/opt/bor"_s, 999).argomenti, QStringList{u"$$qv#m9990"_s});
+}
+
+TEST(Aziende, IlModuloParteNellUnita) {
+    const Unita unita;
+    const QTemporaryDir programmi;
+    programma(programmi.filePath(u"borfte"_s), "echo \"$PWD $*\" > prova.tmp && mv prova.tmp prova\n");
+    ASSERT_TRUE(avviaModulo(unita.percorsi(), programmi.path(), 12));
+
+    QFile esito(unita.radice() + u"/prova"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return esito.exists(); }));
+    ASSERT_TRUE(esito.open(QIODevice::ReadOnly));
+    EXPECT_EQ(esito.readAll().trimmed(), unita.radice().toUtf8() + " $$qv#m0120");
+    EXPECT_FALSE(avviaModulo(unita.percorsi(), programmi.filePath(u"altrove"_s), 12));
+}
+
+TEST(Aziende, IlProgrammaDeiPdfSiTrovaNellaSuite) {
+    const Unita unita;
+    const QTemporaryDir programmi;
+    EXPECT_FALSE(collegaBorxpdf(unita.percorsi(), programmi.path()));
+    scrivi(programmi.filePath(u"borxpdf"_s), "nuovo");
+    QFile::link(u"/nonexistent/borxpdf"_s, unita.suite(u"borxpdf"_s));
+    EXPECT_TRUE(collegaBorxpdf(unita.percorsi(), programmi.path()));
+    EXPECT_EQ(QFileInfo(unita.suite(u"borxpdf"_s)).symLinkTarget(), programmi.filePath(u"borxpdf"_s));
+
+    QFile::remove(unita.suite(u"borxpdf"_s));
+    scrivi(unita.suite(u"BORXPDF"_s), "della suite");
+    EXPECT_TRUE(collegaBorxpdf(unita.percorsi(), programmi.path()));
+    EXPECT_FALSE(QFileInfo::exists(unita.suite(u"borxpdf"_s)));
+}
+
+TEST(Finestra, InvioApreLAziendaSceltaEdEscChiude) {
+    const Unita unita;
+    QList<int> aperte;
+    Finestra finestra(unita.radice(), u"/opt/bor"_s, [&](const Percorsi& percorsi, int codice) {
+        EXPECT_EQ(percorsi.radiceCorrente(), unita.radice());
+        aperte.append(codice);
+        return true;
+    });
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    auto* elenco = finestra.findChild<QTreeWidget*>(u"elenco"_s);
+    EXPECT_EQ(elenco->topLevelItem(0)->text(0), u"007"_s);
+    EXPECT_EQ(elenco->topLevelItem(0)->text(1), u"(senza nome)"_s);
+    EXPECT_EQ(elenco->topLevelItem(1)->text(1), u"Città Verde & C. €"_s);
+
+    QTest::keyClick(elenco, Qt::Key_Down);
+    QTest::keyClick(elenco, Qt::Key_Return);
+    EXPECT_EQ(aperte, QList<int>{12});
+    QTest::keyClick(&finestra, Qt::Key_F5);
+    EXPECT_EQ(elenco->currentItem()->text(0), u"012"_s);
+    QTest::keyClick(elenco, Qt::Key_Escape);
+    EXPECT_FALSE(finestra.isVisible());
+}
+
+TEST(Finestra, SenzaAziendeInvioCreaLaDimostrativa) {
+    const QTemporaryDir unita;
+    const QTemporaryDir programmi;
+    programma(programmi.filePath(u"borcrea"_s), "cd \"$2\" && mkdir -p suprok/suprok/boraz0.001\n");
+
+    Finestra finestra(unita.path(), programmi.path(), [](const Percorsi&, int) { return true; });
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    auto* pagine = finestra.findChild<QStackedWidget*>();
+    EXPECT_EQ(pagine->currentIndex(), 1);
+    EXPECT_FALSE(finestra.findChild<QPushButton*>(u"apri"_s)->isEnabled());
+    QTest::keyClick(&finestra, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pagine->currentIndex() == 0; }));
+    EXPECT_EQ(finestra.findChild<QTreeWidget*>(u"elenco"_s)->topLevelItem(0)->text(0), u"001"_s);
+}
+
+} // namespace bor
