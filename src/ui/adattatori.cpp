@@ -1,0 +1,109 @@
+#include "ui/adattatori.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QUrl>
+
+namespace bor {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logUi, "bor.ui")
+
+QMessageBox::Icon iconaQt(Icona icona) {
+    switch (icona) {
+    case Icona::Informazione:
+        return QMessageBox::Information;
+    case Icona::Domanda:
+        return QMessageBox::Question;
+    case Icona::Esclamazione:
+        return QMessageBox::Warning;
+    case Icona::Stop:
+        return QMessageBox::Critical;
+    case Icona::Nessuna:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// A box is never shown under the wait cursor of the work that raised it.
+class CursoreNormale {
+public:
+    CursoreNormale() : m_sospeso(QApplication::overrideCursor() != nullptr) {
+        if (m_sospeso)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~CursoreNormale() {
+        if (m_sospeso)
+            QApplication::restoreOverrideCursor();
+    }
+    CursoreNormale(const CursoreNormale&) = delete;
+    CursoreNormale& operator=(const CursoreNormale&) = delete;
+
+private:
+    bool m_sospeso;
+};
+
+} // namespace
+
+void OperatoreQt::messaggio(const QString& testo, const QString& titolo, Icona icona) {
+    const CursoreNormale cursore;
+    QMessageBox(iconaQt(icona), titolo, testo, QMessageBox::Ok, m_finestra).exec();
+}
+
+bool OperatoreQt::chiedi(const QString& testo, const QString& titolo, Icona icona) {
+    const CursoreNormale cursore;
+    QMessageBox box(iconaQt(icona), titolo, testo, QMessageBox::Yes | QMessageBox::No, m_finestra);
+    box.button(QMessageBox::Yes)->setText(QStringLiteral("&Sì"));
+    box.button(QMessageBox::No)->setText(QStringLiteral("&No"));
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+void OperatoreQt::attesa(bool inizio) {
+    if (inizio)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void OperatoreQt::lasciaEventi() {
+    QApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+}
+
+QString OperatoreQt::scegliFile(const QString& titolo, const QString& filtro) {
+    return QFileDialog::getOpenFileName(m_finestra, titolo, {}, filtro);
+}
+
+int SistemaQt::apri(const QString& percorso) {
+    constexpr int riuscito = 33;
+    constexpr int senzaFile = 2;
+    constexpr int senzaCartella = 3;
+    constexpr int negato = 5;
+    constexpr int senzaProgramma = 31;
+    const QFileInfo file(percorso);
+    if (!file.exists())
+        return file.dir().exists() ? senzaFile : senzaCartella;
+    if (!file.isReadable())
+        return negato;
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(percorso)))
+        return riuscito;
+    qCWarning(logUi, "no program opens %s", qPrintable(percorso));
+    return senzaProgramma;
+}
+
+bool SistemaQt::avvia(const QString& programma, const QStringList& argomenti) {
+    const bool avviato = QProcess::startDetached(programma, argomenti);
+    if (!avviato)
+        qCWarning(logUi, "cannot start %s", qPrintable(programma));
+    return avviato;
+}
+
+} // namespace bor

@@ -1,0 +1,38 @@
+// The real operator, clock and desktop.
+#pragma once
+
+#include "common/operatore.h"
+#include "common/orologio.h"
+#include "common/sistema.h"
+
+class QWidget;
+
+namespace bor {
+
+/// Message boxes over the given window.
+class OperatoreQt : public Operatore {
+public:
+    void usa(QWidget* finestra) { m_finestra = finestra; }
+
+    void messaggio(const QString& testo, const QString& titolo, Icona icona) override;
+    bool chiedi(const QString& testo, const QString& titolo, Icona icona) override;
+    void attesa(bool inizio) override;
+    void lasciaEventi() override;
+    QString scegliFile(const QString& titolo, const QString& filtro) override;
+
+private:
+    QWidget* m_finestra = nullptr;
+};
+
+class OrologioQt : public Orologio {
+public:
+    QDateTime adesso() const override { return QDateTime::currentDateTime(); }
+};
+
+class SistemaQt : public Sistema {
+public:
+    int apri(const QString& percorso) override;
+    bool avvia(const QString& programma, const QStringList& argomenti) override;
+};
+
+} // namespace bor

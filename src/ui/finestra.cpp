@@ -1,0 +1,47 @@
+#include "ui/finestra.h"
+
+#include "ui/vista.h"
+
+#include <QCloseEvent>
+#include <QStackedWidget>
+
+namespace bor {
+
+Finestra::Finestra() : m_pila(new QStackedWidget) {
+    setCentralWidget(m_pila);
+    resize(1280, 720);
+}
+
+void Finestra::aggiungi(Schermo schermo, Vista* vista) {
+    m_viste[schermo] = vista;
+    m_pila->addWidget(vista);
+}
+
+Vista* Finestra::vista(Schermo schermo) const {
+    const auto trovata = m_viste.find(schermo);
+    return trovata == m_viste.end() ? nullptr : trovata->second;
+}
+
+void Finestra::mostra(Schermo schermo) {
+    Vista* nuova = vista(schermo);
+    if (!nuova)
+        return;
+    m_pila->setCurrentWidget(nuova);
+    nuova->attiva();
+}
+
+void Finestra::termina() {
+    m_terminata = true;
+    close();
+}
+
+void Finestra::closeEvent(QCloseEvent* evento) {
+    // The close button does what the screen's leave button does; only the register ends the program.
+    if (!m_terminata) {
+        if (auto* inVista = static_cast<Vista*>(m_pila->currentWidget()))
+            inVista->lascia();
+    }
+    evento->setAccepted(m_terminata);
+}
+
+} // namespace bor

@@ -1,0 +1,29 @@
+// The base of all screens: a widget over one form, shown in the one window.
+#pragma once
+
+#include "ui/invio.h"
+#include "ui/legami.h"
+
+#include <QWidget>
+
+namespace bor {
+
+class Vista : public QWidget {
+public:
+    explicit Vista(QWidget* parent = nullptr);
+
+    /// The screen comes into view: the form is activated, then everything refreshed.
+    virtual void attiva() = 0;
+    /// Esc, or the window's close button: does what the screen's leave button does.
+    virtual void lascia() = 0;
+    /// Caption of the window while the screen is in view.
+    virtual QString titolo() const = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
+    Legami legami;
+    PercorsoInvio invio;
+};
+
+} // namespace bor
