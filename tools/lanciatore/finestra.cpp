@@ -36,6 +36,7 @@ QPushButton* bottone(const QString& nome, const QString& testo, const QString& s
     nuovo->setObjectName(nome);
     nuovo->setToolTip(suggerimento);
     nuovo->setAutoDefault(false);
+    nuovo->setMinimumSize(nuovo->sizeHint() + QSize(20, 8));
     return nuovo;
 }
 
