@@ -35,7 +35,6 @@ QPushButton* bottone(const QString& nome, const QString& testo, const QString& s
     auto* nuovo = new QPushButton(testo);
     nuovo->setObjectName(nome);
     nuovo->setToolTip(suggerimento);
-    nuovo->setAutoDefault(false);
     nuovo->setMinimumSize(nuovo->sizeHint() + QSize(20, 8));
     return nuovo;
 }
