@@ -1,0 +1,174 @@
+#include "register/elencofatture.h"
+
+#include "common/date.h"
+#include "common/numeri.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace bor {
+
+namespace {
+
+constexpr int documentiPerBlocco = 512;
+
+bool passa(const F2e& f2e, FiltroFatture filtro) {
+    return filtro == FiltroFatture::Tutte || f2e.fatturaPa() == (filtro == FiltroFatture::SoloPa);
+}
+
+/// Taxable, tax and exempt amount position by position, the order in which the suite adds them.
+double totaleDocumento(const Fte& fte, const F2e& f2e) {
+    double totale = 0;
+    for (std::size_t i = 0; i < fte.impon.size(); ++i)
+        totale = totale + fte.impon[i] + fte.iva[i] + fte.esen[i];
+    for (std::size_t i = 0; i < f2e.impon.size(); ++i)
+        totale = totale + f2e.impon[i] + f2e.iva[i] + f2e.esen[i];
+    return fte.tipo == 1 ? -totale : totale;
+}
+
+/// The name would still have a character after cleaning and trimming.
+bool nominato(const Text<60>& pdf) {
+    return std::ranges::any_of(pdf.bytes, [](char c) {
+        const auto codice = static_cast<unsigned char>(c);
+        return codice > 32 && codice < 255;
+    });
+}
+
+/// The whole cell is a number.
+bool numerica(QStringView cella) {
+    if (cella.startsWith(u'-'))
+        cella = cella.sliced(1);
+    return !cella.isEmpty() && cella.count(u'.') <= 1 && cella != u"." &&
+           std::ranges::all_of(cella, [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; });
+}
+
+/// A cell as a sort compares it: numbers by value and before any text, texts by character.
+struct ChiaveOrdine {
+    bool testuale = false;
+    double numero = 0;
+    QString testo;
+
+    explicit ChiaveOrdine(const QString& cella) : testuale(!numerica(cella)) {
+        if (testuale)
+            testo = cella;
+        else
+            numero = valore(cella);
+    }
+
+    bool operator<(const ChiaveOrdine& altra) const {
+        if (testuale != altra.testuale)
+            return altra.testuale;
+        return testuale ? testo < altra.testo : numero < altra.numero;
+    }
+};
+
+} // namespace
+
+void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatture filtro) {
+    m_righe.clear();
+    m_pdf.clear();
+    std::vector<Fte> teste(documentiPerBlocco);
+    std::vector<F2e> code(documentiPerBlocco);
+    for (int n = primo; n <= ultimo && quante() < massimoRighe; n += documentiPerBlocco) {
+        const int nelBlocco = std::min(documentiPerBlocco, ultimo - n + 1);
+        archivio.fte.leggiBlocco(n, std::span(teste).first(static_cast<std::size_t>(nelBlocco)));
+        archivio.f2e.leggiBlocco(n, std::span(code).first(static_cast<std::size_t>(nelBlocco)));
+        for (int i = 0; i < nelBlocco && quante() < massimoRighe; ++i) {
+            F2e& f2e = code[static_cast<std::size_t>(i)];
+            if (f2e.fpaGuasto()) {
+                f2e.fpa = 0.0;
+                archivio.f2e.scrivi(n + i, f2e);
+            }
+            if (passa(f2e, filtro))
+                aggiungi(n + i, teste[static_cast<std::size_t>(i)], f2e);
+        }
+    }
+    m_ultimaPdf = haPdf(quante() - 1);
+    leggiNomi(archivio);
+}
+
+void ElencoFatture::aggiungi(int record, const Fte& fte, const F2e& f2e) {
+    const bool pdf = f2e.marca == F2e::marcaValida && nominato(f2e.pdf);
+    if (pdf)
+        m_pdf.push_back(f2e.pdf);
+    m_righe.push_back({fte.numero, fte.datareg, fte.datadoc, static_cast<std::int16_t>(record), fte.cliente,
+                       static_cast<std::int16_t>(pdf ? static_cast<int>(m_pdf.size()) - 1 : -1),
+                       f2e.fatturaPa(), fte.annullata == 1, totaleDocumento(fte, f2e)});
+}
+
+void ElencoFatture::leggiNomi(const Archivio& archivio) {
+    int ultimo = 0;
+    for (const Riga& riga : m_righe)
+        ultimo = std::max<int>(ultimo, riga.cliente);
+    m_nomi.assign(static_cast<std::size_t>(ultimo) + 1, vuoto<Text<40>>());
+    const auto suFile = static_cast<int>(archivio.cli.lunghezza() / qint64{sizeof(Cli)} + 1);
+    archivio.cli.scorri(1, std::min(ultimo, suFile), [this](int n, const Cli& cli) {
+        m_nomi[static_cast<std::size_t>(n)] = cli.sede.ragione1;
+        return true;
+    });
+}
+
+QString ElencoFatture::nomeCliente(const Riga& riga) const {
+    if (riga.annullata)
+        return QStringLiteral("Fattura eliminata");
+    return riga.cliente > 0 ? puliscitesto(m_nomi[static_cast<std::size_t>(riga.cliente)].text()) : QString();
+}
+
+void ElencoFatture::ordina(Colonna colonna) {
+    std::vector<ChiaveOrdine> chiavi;
+    chiavi.reserve(m_righe.size());
+    for (int i = 0; i < quante(); ++i)
+        chiavi.emplace_back(testo(i, colonna, {}));
+    std::vector<std::size_t> ordine(m_righe.size());
+    std::iota(ordine.begin(), ordine.end(), std::size_t{0});
+    std::ranges::stable_sort(ordine, [&](std::size_t a, std::size_t b) { return chiavi[a] < chiavi[b]; });
+    std::vector<Riga> ordinate;
+    ordinate.reserve(m_righe.size());
+    for (const std::size_t i : ordine)
+        ordinate.push_back(m_righe[i]);
+    m_righe = std::move(ordinate);
+}
+
+QString ElencoFatture::testo(int riga, Colonna colonna, const Valuta& valuta) const {
+    if (!esiste(riga))
+        return {};
+    const Riga& r = m_righe[static_cast<std::size_t>(riga)];
+    switch (colonna) {
+    case Colonna::Registrazione:
+        return QString::number(r.record);
+    case Colonna::DataRegistrazione:
+        return dataDaAnnoMeseGiorno(r.datareg.text());
+    case Colonna::Numero:
+        return puliscitesto(r.numero.text());
+    case Colonna::DataDocumento:
+        return dataDaAnnoMeseGiorno(r.datadoc.text());
+    case Colonna::Cliente:
+        return nomeCliente(r);
+    case Colonna::Importo:
+        return valuta.importotesto(r.totale);
+    case Colonna::Pa:
+        return r.pa ? QStringLiteral("PA") : QString();
+    case Colonna::Pdf:
+        return r.pdf >= 0 ? QStringLiteral("PDF") : QString();
+    case Colonna::NomePdf:
+        return r.pdf >= 0 ? m_pdf[static_cast<std::size_t>(r.pdf)].text() : QString();
+    case Colonna::Chiave:
+        return puliscitesto(r.datareg.text());
+    }
+    return {};
+}
+
+int ElencoFatture::record(int riga) const {
+    return esiste(riga) ? m_righe[static_cast<std::size_t>(riga)].record : 0;
+}
+
+int ElencoFatture::rigaDi(int record) const {
+    const auto trovata = std::ranges::find(m_righe, record, &Riga::record);
+    return trovata == m_righe.end() ? -1 : static_cast<int>(trovata - m_righe.begin());
+}
+
+bool ElencoFatture::haPdf(int riga) const {
+    return esiste(riga) && m_righe[static_cast<std::size_t>(riga)].pdf >= 0;
+}
+
+} // namespace bor

@@ -1,0 +1,78 @@
+// The rows of the register: one for each issued document, kept small and turned into text only where they are
+// shown.
+#pragma once
+
+#include "archive/archivio.h"
+#include "common/valuta.h"
+
+#include <vector>
+
+namespace bor {
+
+/// Which documents by their electronic invoice.
+enum class FiltroFatture { Tutte, Normali, SoloPa };
+
+/// Columns of the register, by their number on screen.
+enum class Colonna {
+    Registrazione,
+    DataRegistrazione,
+    Numero,
+    DataDocumento,
+    Cliente,
+    Importo,
+    Pa,
+    Pdf,
+    NomePdf,
+    Chiave
+};
+inline constexpr int colonneElenco = 10;
+
+class ElencoFatture {
+public:
+    /// The most rows that the list can show; later documents are left out.
+    static constexpr int massimoRighe = 31999;
+
+    /// Fills the list with the documents from `primo` to `ultimo`, in the order of their records. A broken
+    /// reference to electronic invoice data is set to 0 on file, which is all that a fill writes.
+    void carica(Archivio& archivio, int primo, int ultimo, FiltroFatture filtro);
+
+    /// Sorts by record number, registration date or customer: ascending, documents that tie in their present
+    /// order.
+    void ordina(Colonna colonna);
+
+    int quante() const { return static_cast<int>(m_righe.size()); }
+    /// Text of a cell; rows count from 0. A row that does not exist is blank.
+    QString testo(int riga, Colonna colonna, const Valuta& valuta) const;
+    /// Record number of a row; 0 for a row that does not exist.
+    int record(int riga) const;
+    /// The row of a record; -1 when it is not in the list.
+    int rigaDi(int record) const;
+    bool haPdf(int riga) const;
+    /// The last document that the fill took in has a PDF.
+    bool ultimaPdf() const { return m_ultimaPdf; }
+
+private:
+    struct Riga {
+        Text<10> numero;
+        Text<8> datareg;
+        Text<8> datadoc;
+        std::int16_t record;
+        std::int16_t cliente;
+        std::int16_t pdf; ///< index in `m_pdf`; -1 none
+        bool pa;
+        bool annullata;
+        double totale;
+    };
+
+    bool esiste(int riga) const { return riga >= 0 && riga < quante(); }
+    void aggiungi(int record, const Fte& fte, const F2e& f2e);
+    void leggiNomi(const Archivio& archivio);
+    QString nomeCliente(const Riga& riga) const;
+
+    std::vector<Riga> m_righe;
+    std::vector<Text<60>> m_pdf;
+    std::vector<Text<40>> m_nomi; ///< first name line of the customers, by record number
+    bool m_ultimaPdf = false;
+};
+
+} // namespace bor
