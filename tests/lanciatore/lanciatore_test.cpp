@@ -1,4 +1,4 @@
-#include "lanciatore/finestra.h"
+#include "lanciatore/scelta.h"
 
 #include <gtest/gtest.h>
 
@@ -94,10 +94,10 @@ TEST(Aziende, IlProgrammaDeiPdfSiTrovaNellaSuite) {
     EXPECT_FALSE(QFileInfo::exists(unita.suite(u"borxpdf"_s)));
 }
 
-TEST(Finestra, InvioApreLAziendaSceltaEdEscChiude) {
+TEST(SceltaAzienda, InvioApreLAziendaSceltaEdEscChiude) {
     const Unita unita;
     QList<int> aperte;
-    Finestra finestra(unita.radice(), u"/opt/bor"_s, [&](const Percorsi& percorsi, int codice) {
+    SceltaAzienda finestra(unita.radice(), u"/opt/bor"_s, [&](const Percorsi& percorsi, int codice) {
         EXPECT_EQ(percorsi.radiceCorrente(), unita.radice());
         aperte.append(codice);
         return true;
@@ -118,12 +118,12 @@ TEST(Finestra, InvioApreLAziendaSceltaEdEscChiude) {
     EXPECT_FALSE(finestra.isVisible());
 }
 
-TEST(Finestra, SenzaAziendeInvioCreaLaDimostrativa) {
+TEST(SceltaAzienda, SenzaAziendeInvioCreaLaDimostrativa) {
     const QTemporaryDir unita;
     const QTemporaryDir programmi;
     programma(programmi.filePath(u"borcrea"_s), "cd \"$2\" && mkdir -p suprok/suprok/boraz0.001\n");
 
-    Finestra finestra(unita.path(), programmi.path(), [](const Percorsi&, int) { return true; });
+    SceltaAzienda finestra(unita.path(), programmi.path(), [](const Percorsi&, int) { return true; });
     finestra.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
     auto* pagine = finestra.findChild<QStackedWidget*>();

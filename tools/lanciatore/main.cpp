@@ -1,5 +1,6 @@
 // The launcher: lists the companies of a drive and starts the module on the chosen one.
-#include "lanciatore/finestra.h"
+#include "lanciatore/scelta.h"
+#include "ui/aspetto.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -9,7 +10,6 @@
 #include <QTranslator>
 
 #include <algorithm>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -46,53 +46,62 @@ int avviaDimostrazione(const bor::Percorsi& percorsi) {
     return avvia(percorsi, bor::codiceDimostrazione);
 }
 
-int mostraFinestra(const QString& unita) {
-    QApplication::setStyle(u"Fusion"_s);
+int mostraScelta(QApplication& applicazione, const QString& unita) {
+    bor::applicaAspetto(applicazione);
     QTranslator italiano;
     if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&italiano);
     const QString cartella = QCoreApplication::applicationDirPath();
-    bor::Finestra finestra(unita, cartella, [cartella](const bor::Percorsi& percorsi, int codice) {
+    bor::SceltaAzienda finestra(unita, cartella, [cartella](const bor::Percorsi& percorsi, int codice) {
         return bor::avviaModulo(percorsi, cartella, codice);
     });
     finestra.show();
     return QApplication::exec();
 }
 
+void descriviOpzioni(QCommandLineParser& parser) {
+    parser.setApplicationDescription(u"Apre le fatture emesse di un'azienda della suite."_s);
+    parser.addOptions({
+        {u"unita"_s, u"Cartella che fa da radice dell'unità e contiene suprok."_s, u"cartella"_s},
+        {u"azienda"_s, u"Apre subito l'azienda con questo codice, da 0 a 999, senza finestra."_s,
+         u"codice"_s},
+        {u"dimostrazione"_s, u"Apre subito l'azienda dimostrativa, e la crea se non c'è."_s},
+    });
+    parser.addHelpOption();
+}
+
+QString unitaScelta(const QCommandLineParser& parser) {
+    const QString scelta = parser.value(u"unita"_s);
+    return scelta.isEmpty() ? bor::unitaPredefinita() : QDir::current().absoluteFilePath(scelta);
+}
+
+int avviaSubito(const QCommandLineParser& parser) {
+    const bor::Percorsi percorsi(unitaScelta(parser), QString());
+    if (!parser.isSet(u"azienda"_s))
+        return avviaDimostrazione(percorsi);
+    bool numero = false;
+    const int codice = parser.value(u"azienda"_s).toInt(&numero);
+    if (!numero || codice < 0 || codice > 999)
+        return rifiuta(u"Il codice dell'azienda va da 0 a 999."_s);
+    return avvia(percorsi, codice);
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Apre le fatture emesse di un'azienda della suite."_s);
-    const QCommandLineOption opzioneUnita(
-        u"unita"_s, u"Cartella che fa da radice dell'unità e contiene suprok."_s, u"cartella"_s);
-    const QCommandLineOption opzioneAzienda(
-        u"azienda"_s, u"Apre subito l'azienda con questo codice, da 0 a 999, senza finestra."_s, u"codice"_s);
-    const QCommandLineOption opzioneDimostrazione(
-        u"dimostrazione"_s, u"Apre subito l'azienda dimostrativa, e la crea se non c'è."_s);
-    parser.addOptions({opzioneUnita, opzioneAzienda, opzioneDimostrazione});
-    parser.addHelpOption();
-
-    // Without a window there is no need for a display.
+    descriviOpzioni(parser);
     QStringList argomenti;
     for (int i = 0; i < argc; ++i)
         argomenti.append(QString::fromLocal8Bit(argv[i]));
     parser.parse(argomenti);
-    const bool senzaFinestra = parser.isSet(opzioneAzienda) || parser.isSet(opzioneDimostrazione);
-    const std::unique_ptr<QCoreApplication> applicazione(senzaFinestra ? new QCoreApplication(argc, argv)
-                                                                       : new QApplication(argc, argv));
-    parser.process(argomenti);
-
-    const QString unita = parser.isSet(opzioneUnita)
-                              ? QDir::current().absoluteFilePath(parser.value(opzioneUnita))
-                              : bor::unitaPredefinita();
-    const bor::Percorsi percorsi(unita, QString());
-    if (parser.isSet(opzioneAzienda)) {
-        bool numero = false;
-        const int codice = parser.value(opzioneAzienda).toInt(&numero);
-        if (!numero || codice < 0 || codice > 999)
-            return rifiuta(u"Il codice dell'azienda va da 0 a 999."_s);
-        return avvia(percorsi, codice);
+    // Without a window there is no need for a display.
+    if (parser.isSet(u"azienda"_s) || parser.isSet(u"dimostrazione"_s)) {
+        const QCoreApplication applicazione(argc, argv);
+        parser.process(applicazione);
+        return avviaSubito(parser);
     }
-    return parser.isSet(opzioneDimostrazione) ? avviaDimostrazione(percorsi) : mostraFinestra(unita);
+    QApplication applicazione(argc, argv);
+    parser.process(applicazione);
+    return mostraScelta(applicazione, unitaScelta(parser));
 }

@@ -15,12 +15,12 @@ class QTreeWidget;
 
 namespace bor {
 
-class Finestra : public QDialog {
+class SceltaAzienda : public QDialog {
 public:
     /// Opens a company of the drive; false when the module did not start.
     using Apri = std::function<bool(const Percorsi& percorsi, int codiceazienda)>;
 
-    Finestra(const QString& unita, const QString& cartellaProgrammi, Apri apri);
+    SceltaAzienda(const QString& unita, const QString& cartellaProgrammi, Apri apri);
 
     void cambiaUnita(const QString& unita);
     void aggiorna();

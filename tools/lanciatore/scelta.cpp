@@ -1,4 +1,4 @@
-#include "lanciatore/finestra.h"
+#include "lanciatore/scelta.h"
 
 #include "common/testo.h"
 
@@ -31,8 +31,10 @@ QLabel* etichetta(const QString& testo, double ingrandimento) {
     return label;
 }
 
-QPushButton* bottone(const QString& nome, const QString& testo, const QString& suggerimento) {
-    auto* nuovo = new QPushButton(testo);
+/// `icona` names a picture of the module's screens.
+QPushButton* bottone(const QString& nome, const QString& testo, const QString& icona,
+                     const QString& suggerimento) {
+    auto* nuovo = new QPushButton(QIcon(u":/icone/%1.svg"_s.arg(icona)), testo);
     nuovo->setObjectName(nome);
     nuovo->setToolTip(suggerimento);
     nuovo->setMinimumSize(nuovo->sizeHint() + QSize(20, 8));
@@ -41,7 +43,7 @@ QPushButton* bottone(const QString& nome, const QString& testo, const QString& s
 
 } // namespace
 
-Finestra::Finestra(const QString& unita, const QString& cartellaProgrammi, Apri apri)
+SceltaAzienda::SceltaAzienda(const QString& unita, const QString& cartellaProgrammi, Apri apri)
     : m_percorsi(unita, QString()), m_cartellaProgrammi(cartellaProgrammi), m_apri(std::move(apri)) {
     setWindowTitle(u"Borlano - Aziende"_s);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -57,7 +59,7 @@ Finestra::Finestra(const QString& unita, const QString& cartellaProgrammi, Apri 
     resize(620, 420);
 
     auto* ricarica = new QShortcut(QKeySequence::Refresh, this);
-    connect(ricarica, &QShortcut::activated, this, &Finestra::aggiorna);
+    connect(ricarica, &QShortcut::activated, this, &SceltaAzienda::aggiorna);
     connect(&m_borcrea, &QProcess::finished, this, [this](int codice, QProcess::ExitStatus stato) {
         finitaDimostrazione(stato == QProcess::NormalExit && codice == 0);
     });
@@ -68,7 +70,7 @@ Finestra::Finestra(const QString& unita, const QString& cartellaProgrammi, Apri 
     cambiaUnita(unita);
 }
 
-QWidget* Finestra::costruisciTestata() {
+QWidget* SceltaAzienda::costruisciTestata() {
     auto* testata = new QWidget;
     auto* disposizione = new QVBoxLayout(testata);
     disposizione->setContentsMargins(0, 0, 0, 0);
@@ -83,7 +85,7 @@ QWidget* Finestra::costruisciTestata() {
     return testata;
 }
 
-QWidget* Finestra::costruisciElenco() {
+QWidget* SceltaAzienda::costruisciElenco() {
     m_elenco = new QTreeWidget;
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Aziende"_s);
@@ -94,20 +96,20 @@ QWidget* Finestra::costruisciElenco() {
     m_elenco->setAllColumnsShowFocus(true);
     m_elenco->header()->setSectionResizeMode(colonnaCodice, QHeaderView::ResizeToContents);
     m_elenco->setStyleSheet(u"QTreeWidget::item { padding: 5px 8px; }"_s);
-    connect(m_elenco, &QTreeWidget::itemDoubleClicked, this, &Finestra::apriScelta);
+    connect(m_elenco, &QTreeWidget::itemDoubleClicked, this, &SceltaAzienda::apriScelta);
     return m_elenco;
 }
 
-QWidget* Finestra::costruisciInvito() {
+QWidget* SceltaAzienda::costruisciInvito() {
     auto* invito = new QWidget;
     auto* testo = new QLabel(u"In questa unità non c'è ancora nessuna azienda.\n"
                              "Per provare il programma se ne può creare una dimostrativa, "
                              "con clienti, articoli e documenti di due anni."_s);
     testo->setWordWrap(true);
     testo->setAlignment(Qt::AlignCenter);
-    m_crea = bottone(u"crea"_s, u"&Crea l'azienda dimostrativa"_s,
+    m_crea = bottone(u"crea"_s, u"&Crea l'azienda dimostrativa"_s, u"inserisci"_s,
                      u"Crea l'azienda 001 in questa unità (Invio)"_s);
-    connect(m_crea, &QPushButton::clicked, this, &Finestra::creaDimostrazione);
+    connect(m_crea, &QPushButton::clicked, this, &SceltaAzienda::creaDimostrazione);
     auto* disposizione = new QVBoxLayout(invito);
     disposizione->setSpacing(16);
     disposizione->addStretch();
@@ -117,17 +119,17 @@ QWidget* Finestra::costruisciInvito() {
     return invito;
 }
 
-QWidget* Finestra::costruisciComandi() {
+QWidget* SceltaAzienda::costruisciComandi() {
     auto* comandi = new QWidget;
-    QPushButton* altra =
-        bottone(u"altraUnita"_s, u"&Altra unità..."_s, u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
-    connect(altra, &QPushButton::clicked, this, &Finestra::chiediUnita);
-    QPushButton* rileggi = bottone(u"aggiorna"_s, u"A&ggiorna"_s, u"Rilegge l'elenco (F5)"_s);
-    connect(rileggi, &QPushButton::clicked, this, &Finestra::aggiorna);
-    QPushButton* esci = bottone(u"esci"_s, u"&Esci"_s, u"Chiude la finestra (Esc)"_s);
+    QPushButton* altra = bottone(u"altraUnita"_s, u"&Altra unità..."_s, u"cerca"_s,
+                                 u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
+    connect(altra, &QPushButton::clicked, this, &SceltaAzienda::chiediUnita);
+    QPushButton* rileggi = bottone(u"aggiorna"_s, u"A&ggiorna"_s, u"aggiorna"_s, u"Rilegge l'elenco (F5)"_s);
+    connect(rileggi, &QPushButton::clicked, this, &SceltaAzienda::aggiorna);
+    QPushButton* esci = bottone(u"esci"_s, u"&Esci"_s, u"esci"_s, u"Chiude la finestra (Esc)"_s);
     connect(esci, &QPushButton::clicked, this, &QDialog::reject);
-    m_apriBottone = bottone(u"apri"_s, u"A&pri"_s, u"Apre l'azienda scelta (Invio)"_s);
-    connect(m_apriBottone, &QPushButton::clicked, this, &Finestra::apriScelta);
+    m_apriBottone = bottone(u"apri"_s, u"A&pri"_s, u"conferma"_s, u"Apre l'azienda scelta (Invio)"_s);
+    connect(m_apriBottone, &QPushButton::clicked, this, &SceltaAzienda::apriScelta);
     auto* disposizione = new QHBoxLayout(comandi);
     disposizione->setContentsMargins(0, 0, 0, 0);
     disposizione->addWidget(altra);
@@ -138,7 +140,7 @@ QWidget* Finestra::costruisciComandi() {
     return comandi;
 }
 
-void Finestra::cambiaUnita(const QString& unita) {
+void SceltaAzienda::cambiaUnita(const QString& unita) {
     m_percorsi = Percorsi(unita, QString());
     const QString nome = QDir::toNativeSeparators(m_percorsi.radiceCorrente());
     m_unita->setText(u"Unità: "_s + nome);
@@ -146,7 +148,7 @@ void Finestra::cambiaUnita(const QString& unita) {
     aggiorna();
 }
 
-void Finestra::aggiorna() {
+void SceltaAzienda::aggiorna() {
     const QTreeWidgetItem* corrente = m_elenco->currentItem();
     const QVariant scelta = corrente ? corrente->data(colonnaCodice, Qt::UserRole) : QVariant();
     m_elenco->clear();
@@ -171,21 +173,21 @@ void Finestra::aggiorna() {
     m_elenco->setFocus();
 }
 
-void Finestra::apriScelta() {
+void SceltaAzienda::apriScelta() {
     const QTreeWidgetItem* riga = m_elenco->currentItem();
     if (riga && !m_apri(m_percorsi, riga->data(colonnaCodice, Qt::UserRole).toInt()))
         QMessageBox::critical(this, u"Attenzione"_s,
                               u"Il programma non si avvia: manca borfte in "_s + m_cartellaProgrammi);
 }
 
-void Finestra::chiediUnita() {
+void SceltaAzienda::chiediUnita() {
     const QString scelta = QFileDialog::getExistingDirectory(this, u"Cartella che contiene suprok"_s,
                                                              m_percorsi.radiceCorrente());
     if (!scelta.isEmpty())
         cambiaUnita(scelta);
 }
 
-void Finestra::creaDimostrazione() {
+void SceltaAzienda::creaDimostrazione() {
     m_crea->setEnabled(false);
     m_crea->setText(u"Creo l'azienda..."_s);
     const Comando comando = comandoDimostrazione(m_cartellaProgrammi, m_percorsi.radiceCorrente());
@@ -193,7 +195,7 @@ void Finestra::creaDimostrazione() {
     m_borcrea.start(comando.programma, comando.argomenti, QIODevice::ReadOnly);
 }
 
-void Finestra::finitaDimostrazione(bool riuscita) {
+void SceltaAzienda::finitaDimostrazione(bool riuscita) {
     m_crea->setEnabled(true);
     m_crea->setText(u"&Crea l'azienda dimostrativa"_s);
     if (!riuscita) {
