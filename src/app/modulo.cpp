@@ -1,0 +1,30 @@
+#include "app/modulo.h"
+
+#include "common/avvio.h"
+
+namespace bor {
+
+std::unique_ptr<Modulo> Modulo::avvia(const QString& rigaComando, Percorsi percorsi, Porte porte) {
+    const Avvio avvio = controllaAvvio(rigaComando);
+    if (avvio.esito == EsitoAvvio::SuiteVecchia)
+        porte.operatore.messaggio(
+            QStringLiteral("Questo modulo non è compatibile con la versione di Borlano in esecuzione"),
+            QStringLiteral("Attenzione"), Icona::Esclamazione);
+    if (avvio.esito != EsitoAvvio::Valido)
+        return nullptr;
+    return std::unique_ptr<Modulo>(new Modulo(avvio.codiceazienda, std::move(percorsi), porte));
+}
+
+Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
+    : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda),
+      m_contesto{m_sessione,     m_archivio,    m_impostazioni,   m_tabelle, porte.operatore,
+                 porte.orologio, porte.sistema, porte.navigatore, m_timbro},
+      m_borfte(m_contesto, {}) {
+    m_sessione.codiceazienda = codiceazienda;
+    m_impostazioni = caricaimpostazioni(m_archivio, m_sessione);
+    m_archivio.apri();
+    m_tabelle = leggiTabelle(m_archivio);
+    m_borfte.carica();
+}
+
+} // namespace bor

@@ -1,0 +1,45 @@
+// The whole program without a window: start-up, and everything a run consists of.
+#pragma once
+
+#include "archive/contesto.h"
+#include "document/documento.h"
+#include "register/borfte.h"
+
+#include <memory>
+
+namespace bor {
+
+class Modulo {
+public:
+    /// The ports that the outside world is reached through; they outlive the module.
+    struct Porte {
+        Operatore& operatore;
+        Orologio& orologio;
+        Sistema& sistema;
+        Navigatore& navigatore;
+    };
+
+    /// From the command line to a filled register. Nothing when this is no start by the suite's launcher;
+    /// only an older launcher is told so to the operator.
+    static std::unique_ptr<Modulo> avvia(const QString& rigaComando, Percorsi percorsi, Porte porte);
+
+    Contesto& contesto() { return m_contesto; }
+    Borfte& borfte() { return m_borfte; }
+    Documento& documento() { return m_documento; }
+
+private:
+    Modulo(double codiceazienda, Percorsi percorsi, Porte porte);
+
+    Percorsi m_percorsi;
+    Disco m_disco;
+    Sessione m_sessione;
+    Timbro m_timbro;
+    Archivio m_archivio;
+    Impostazioni m_impostazioni;
+    Tabelle m_tabelle;
+    Contesto m_contesto;
+    Documento m_documento;
+    Borfte m_borfte;
+};
+
+} // namespace bor

@@ -1,0 +1,36 @@
+// The register on screen.
+#pragma once
+
+#include "ui/vista.h"
+
+class QProgressBar;
+class QTableView;
+
+namespace bor {
+
+class Borfte;
+class ModelloElenco;
+
+class VistaBorfte : public Vista {
+public:
+    explicit VistaBorfte(Borfte& form, QWidget* parent = nullptr);
+
+    void attiva() override;
+    void lascia() override;
+    QString titolo() const override;
+
+private:
+    QWidget* creaOpzioni();
+    QWidget* creaElenco();
+    QWidget* creaComandi();
+    void aggiornaElenco();
+    void apri();
+
+    Borfte& m_form;
+    ModelloElenco* m_modello;
+    QTableView* m_elenco = nullptr;
+    QProgressBar* m_barra = nullptr;
+    int m_versione = -1;
+};
+
+} // namespace bor
