@@ -10,7 +10,7 @@
 
 namespace bor {
 
-Q_LOGGING_CATEGORY(logArchivio, "bor.archive")
+Q_LOGGING_CATEGORY(logArchivio, "bor.archive", QtInfoMsg)
 
 Disco::~Disco() = default;
 

@@ -13,7 +13,7 @@ FileTesto::FileTesto(const QString& percorso) {
     if (m_aperto)
         m_bytes = file.readAll();
     else
-        qCInfo(logArchivio, "no settings file %s", qPrintable(percorso));
+        qCDebug(logArchivio, "no settings file %s", qPrintable(percorso));
 }
 
 bool FileTesto::oltreFine() {

@@ -1,6 +1,7 @@
 #include "ui/barraintestazioni.h"
 
 #include <QHeaderView>
+#include <QShortcut>
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
@@ -17,7 +18,7 @@ BarraIntestazioni::BarraIntestazioni(QTableView* griglia, const std::vector<Coma
         const QString intestazione =
             griglia->model()->headerData(comando.colonna, Qt::Horizontal, Qt::DisplayRole).toString();
         bottone->setAccessibleName(comando.didascalia + u": "_s + intestazione);
-        bottone->setShortcut(comando.tasto);
+        new QShortcut(comando.tasto, this, [bottone] { bottone->click(); });
         bottone->setToolTip(u"Ordina l'elenco (%1)"_s.arg(comando.tasto.toString(QKeySequence::NativeText)));
         bottone->setFocusPolicy(Qt::NoFocus);
         bottone->setAutoRaise(true);

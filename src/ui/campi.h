@@ -57,6 +57,9 @@ public:
     /// `icona` names a file of `src/ui/icone` without its ending.
     BottoneComando(const QString& nome, const QString& didascalia, const QString& icona,
                    const QKeySequence& tasto, QWidget* parent = nullptr);
+
+protected:
+    bool event(QEvent* evento) override;
 };
 
 /// A caption that belongs to a field and, with "&", gives it a key.

@@ -1,4 +1,6 @@
 // Entry of the test programs that show windows: offscreen unless the caller chose a platform.
+#include "ui/aspetto.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -7,7 +9,7 @@ int main(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    const QApplication applicazione(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication applicazione(argc, argv);
+    bor::applicaAspetto(applicazione);
     return RUN_ALL_TESTS();
 }

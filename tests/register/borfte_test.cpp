@@ -1,0 +1,215 @@
+#include "register/borfte.h"
+#include "support/azienda.h"
+
+#include <gtest/gtest.h>
+
+namespace bor {
+namespace {
+
+QStringList lista(std::initializer_list<const char16_t*> testi) {
+    QStringList l;
+    for (const char16_t* t : testi)
+        l.append(QString::fromUtf16(t));
+    return l;
+}
+
+QStringList colonna(const Borfte& form, Colonna quale) {
+    QStringList testi;
+    for (int r = 0; r < form.elenco().quante(); ++r)
+        testi.append(form.testo(r, quale));
+    return testi;
+}
+
+class RegistroTest : public testing::Test {
+protected:
+    void apri() {
+        m_prova = std::make_unique<ContestoDiProva>(azienda);
+        m_form = std::make_unique<Borfte>(m_prova->contesto, [this] { return sospese; });
+        m_form->carica();
+    }
+    Borfte& form() { return *m_form; }
+    ContestoDiProva& prova() { return *m_prova; }
+
+    AziendaDiProva azienda;
+    bool sospese = false;
+
+private:
+    std::unique_ptr<ContestoDiProva> m_prova;
+    std::unique_ptr<Borfte> m_form;
+};
+
+TEST_F(RegistroTest, MostraIDocumentiComeStannoSuFile) {
+    const int rossi = azienda.cliente(QStringLiteral("Rossi Forniture Srl"));
+    azienda.documento(documentoDi(rossi, QStringLiteral("1"), 1000, 220));
+    CoppiaFte nota = documentoDi(rossi, QStringLiteral("2/A"), 100, 22);
+    nota.fte.tipo = 1;
+    nota.f2e.esen[3] = 0.5;
+    azienda.documento(nota);
+    CoppiaFte eliminata = documentoDi(rossi, QStringLiteral("3"), 0, 0);
+    eliminata.fte.annullata = 1;
+    eliminata.f2e.pdf.set(u"\\suprok\\pdf\\ftr3.pdf");
+    eliminata.f2e.fpa = 12.0;
+    azienda.documento(eliminata);
+    CoppiaFte vecchia = documentoDi(99, QStringLiteral("4"), 1, 0);
+    vecchia.f2e.pdf.set(u"non valido");
+    vecchia.f2e.marca = 0;
+    azienda.documento(vecchia);
+    apri();
+
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"3", u"4"}));
+    EXPECT_EQ(form().testo(0, Colonna::DataRegistrazione), QStringLiteral("15/03/2015"));
+    EXPECT_EQ(colonna(form(), Colonna::Numero), lista({u"1", u"2/A", u"3", u"4"}));
+    EXPECT_EQ(colonna(form(), Colonna::Cliente),
+              lista({u"Rossi Forniture Srl", u"Rossi Forniture Srl", u"Fattura eliminata", u""}));
+    EXPECT_EQ(colonna(form(), Colonna::Importo), lista({u"1.220,00", u"-122,50", u"", u"1,00"}));
+    EXPECT_EQ(colonna(form(), Colonna::Pa), lista({u"", u"", u"PA", u""}));
+    EXPECT_EQ(colonna(form(), Colonna::Pdf), lista({u"", u"", u"PDF", u""}));
+    EXPECT_EQ(form().righeGriglia(), 25);
+    EXPECT_EQ(form().testo(24, Colonna::Cliente), QString());
+
+    form().cambiaFiltro(FiltroFatture::SoloPa);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"3"}));
+    form().cambiaFiltro(FiltroFatture::Normali);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"4"}));
+}
+
+TEST_F(RegistroTest, UnRiferimentoPaGuastoTornaAZeroSuFileENienteAltroCambia) {
+    CoppiaFte guasta = documentoDi(1, QStringLiteral("1"), 10, 0);
+    guasta.f2e.fpa = 1e20;
+    for (std::size_t i = 0; i < guasta.f2e.resy4.bytes.size(); ++i)
+        guasta.f2e.resy4.bytes[i] = static_cast<char>(i);
+    azienda.documento(guasta);
+    const QByteArray prima = azienda.leggi(QStringLiteral("borlano.f2e"));
+    apri();
+    QByteArray attesa = prima;
+    attesa.replace(579, 8, QByteArray(8, '\0'));
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.f2e")), attesa);
+}
+
+TEST_F(RegistroTest, ArchiviRovinatiDannoCelleVuoteENonVengonoScritti) {
+    azienda.documento(documentoDi(-5, QStringLiteral("1"), 10, 0));
+    Tot conteggio = vuoto<Tot>();
+    conteggio.numero = 40;
+    QByteArray tot(12 * 7, '\0');
+    tot.replace(12 * 6, 12, QByteArray(reinterpret_cast<const char*>(&conteggio), 12));
+    azienda.scrivi(QStringLiteral("borlano.tot"), tot);
+    const QByteArray mozza = azienda.leggi(QStringLiteral("borlano.fte")).left(300);
+    azienda.scrivi(QStringLiteral("borlano.fte"), mozza);
+    azienda.scrivi(QStringLiteral("borlano.f2e"), QByteArray(838 + 17, '\xFF'));
+    apri();
+    EXPECT_EQ(form().elenco().quante(), 40);
+    EXPECT_EQ(form().testo(0, Colonna::Numero), QStringLiteral("1"));
+    EXPECT_EQ(form().testo(39, Colonna::DataDocumento), QString());
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), mozza);
+
+    conteggio.numero = -3;
+    tot.replace(12 * 6, 12, QByteArray(reinterpret_cast<const char*>(&conteggio), 12));
+    azienda.scrivi(QStringLiteral("borlano.tot"), tot);
+    form().rileggi();
+    EXPECT_EQ(form().elenco().quante(), 0);
+}
+
+TEST_F(RegistroTest, OrdinaPerRegistrazionePerDataEPerCliente) {
+    const int zeta = azienda.cliente(QStringLiteral("Zeta"));
+    const int alfa = azienda.cliente(QStringLiteral("alfa"));
+    const int beta = azienda.cliente(QStringLiteral("Beta"));
+    const auto aggiungi = [&](int cliente, QStringView datareg) {
+        CoppiaFte c = documentoDi(cliente, QStringLiteral("1"), 1, 0);
+        c.fte.datareg.set(datareg);
+        azienda.documento(c);
+    };
+    aggiungi(zeta, u"20150301");
+    aggiungi(alfa, u"20141231");
+    aggiungi(beta, u"20150301");
+    aggiungi(beta, u"        ");
+    apri();
+    form().ordina(1);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"2", u"1", u"3", u"4"}));
+    form().ordina(4);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"3", u"4", u"1", u"2"}));
+    form().ordina(0);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"3", u"4"}));
+    form().ordina(2);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"3", u"4"}));
+}
+
+TEST_F(RegistroTest, LaVistaPreferitaRestaNelleImpostazioni) {
+    for (int i = 1; i <= 24; ++i)
+        azienda.documento(documentoDi(1, QString::number(i), i, 0));
+    apri();
+    EXPECT_EQ(form().selvis(), 0);
+    EXPECT_EQ(form().primaRigaVisibile(), 0);
+    form().cambiaVisua(1);
+    form().cambiaSelvis(2);
+    // The grid keeps 26 rows with its header, of which the fourth is the first to be seen.
+    EXPECT_EQ(form().primaRigaVisibile(), 3);
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.gnr")).left(2), QByteArray("\x0c\0", 2));
+    apri();
+    EXPECT_EQ(form().selvis(), 2);
+    EXPECT_EQ(form().visua(), 1);
+}
+
+TEST_F(RegistroTest, ApreDocumentiEPdf) {
+    const int cliente = azienda.cliente(QStringLiteral("Rossi"));
+    CoppiaFte conPdf = documentoDi(cliente, QStringLiteral("1"), 10, 0);
+    conPdf.f2e.pdf.set(u"\\suprok\\pdf\\FTR1.pdf");
+    azienda.documento(conPdf);
+    CoppiaFte eliminata = documentoDi(cliente, QStringLiteral("2"), 10, 0);
+    eliminata.fte.annullata = 1;
+    azienda.documento(eliminata);
+    apri();
+    prova().sistema.esitoApri = 2;
+    form().apri(0, 7);
+    ASSERT_EQ(prova().sistema.aperti.size(), 1);
+    EXPECT_TRUE(prova().sistema.aperti[0].endsWith(QStringLiteral("/suprok/PDF/FTR1.pdf")));
+    EXPECT_EQ(prova().operatore.messaggi.back().testo,
+              QStringLiteral("Si è verificato l'errore 2 - File PDF non trovato"));
+    form().apri(1, 4);
+    EXPECT_EQ(prova().operatore.messaggi.back().testo, QStringLiteral("Fattura annullata"));
+    form().apri(20, 4);
+    EXPECT_TRUE(prova().navigatore.mostrati.isEmpty());
+    form().apri(0, 4);
+    EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftea});
+    EXPECT_EQ(prova().sessione.recordfattura, 1);
+    EXPECT_EQ(prova().sessione.recordcliente, cliente);
+}
+
+TEST_F(RegistroTest, UnDocumentoNuovoVuoleUnCliente) {
+    apri();
+    form().nuovoDocumento(0);
+    EXPECT_EQ(prova().operatore.messaggi.back().testo, QStringLiteral("Nessuna anagrafica memorizzata"));
+    EXPECT_TRUE(prova().navigatore.mostrati.isEmpty());
+    azienda.cliente(QStringLiteral("Rossi"));
+    form().nuovoDocumento(1);
+    EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftem});
+    EXPECT_EQ(prova().sessione.tipodocumento, 1);
+}
+
+TEST_F(RegistroTest, UscireChiedeSoloConRigheNonRegistrate) {
+    apri();
+    sospese = true;
+    prova().operatore.rispostaSolita = false;
+    form().esci();
+    EXPECT_FALSE(prova().navigatore.terminato);
+    EXPECT_EQ(prova().operatore.domande.back().testo,
+              QStringLiteral("Alcuni documenti nuovi hanno righe non ancora registrate. Uscire comunque?"));
+    sospese = false;
+    form().esci();
+    EXPECT_TRUE(prova().navigatore.terminato);
+    EXPECT_EQ(prova().operatore.domande.size(), 1);
+}
+
+TEST_F(RegistroTest, IColoriSonoQuelliDelleImpostazioni) {
+    azienda.documento(documentoDi(1, QStringLiteral("1"), 1, 0));
+    apri();
+    EXPECT_EQ(form().colore(0, 3), 16777215);
+    EXPECT_EQ(form().colore(1, 3), 16579315);
+    prova().impostazioni.gnr.listacolorata.set(u"0");
+    form().cellaCorrente(0, 2);
+    form().rileggi();
+    EXPECT_EQ(form().colore(0, 2), 0xFCFAF3);
+    EXPECT_EQ(form().colore(0, 3), std::nullopt);
+}
+
+} // namespace
+} // namespace bor

@@ -1,0 +1,165 @@
+#include "register/borfte.h"
+#include "support/azienda.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace bor {
+namespace {
+
+struct RiordinoTest : testing::Test {
+    AziendaDiProva azienda;
+
+    void documento(const QString& numero, QStringView datareg, double protocollo, bool eliminato = false) {
+        CoppiaFte c = documentoDi(1, numero, 1, 0);
+        c.fte.datareg.set(datareg);
+        c.fte.protocollo = protocollo;
+        c.fte.annullata = eliminato ? 1 : 0;
+        c.f2e.pdf.set(numero);
+        azienda.documento(c);
+    }
+
+    /// Document numbers in record order; both halves must tell the same.
+    static QStringList numeri(ContestoDiProva& prova) {
+        QStringList n;
+        for (int i = 1; i <= prova.archivio.leggiTot(Conta::Fte).numero; ++i) {
+            const CoppiaFte c = prova.archivio.leggi(i);
+            n.append(c.fte.numero.trimmed());
+            EXPECT_EQ(c.f2e.pdf.trimmed(), n.back());
+        }
+        return n;
+    }
+
+    void riordinaPer(ContestoDiProva& prova, TipoRiordino tipo) {
+        Borfte form(prova.contesto, {});
+        form.carica();
+        form.scegliRiordino();
+        form.riordino(tipo);
+    }
+};
+
+TEST_F(RiordinoTest, TieneLOrdineDeiPariNumeroETogliGliEliminati) {
+    documento(QStringLiteral("12/B"), u"20150103", 3);
+    documento(QStringLiteral("9"), u"20150101", 1, true);
+    documento(QStringLiteral("12/A"), u"20150102", 2);
+    documento(QStringLiteral("3"), u"20150104", 10);
+    const QByteArray prima = azienda.leggi(QStringLiteral("borlano.fte"));
+    ContestoDiProva prova(azienda);
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    EXPECT_EQ(prova.operatore.domande.back().testo,
+              QStringLiteral("Confermi il riordino per numero di fattura?"));
+    EXPECT_EQ(numeri(prova).join(u' '), QStringLiteral("3 12/B 12/A"));
+    const QByteArray dopo = azienda.leggi(QStringLiteral("borlano.fte"));
+    EXPECT_EQ(dopo.size(), prima.size());
+    EXPECT_EQ(dopo.sliced(3 * 522), prima.sliced(3 * 522)) << "the tail keeps its old bytes";
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.$$$")), prima);
+
+    riordinaPer(prova, TipoRiordino::PerData);
+    EXPECT_EQ(numeri(prova).join(u' '), QStringLiteral("12/A 12/B 3"));
+    riordinaPer(prova, TipoRiordino::PerProtocollo);
+    EXPECT_EQ(numeri(prova).join(u' '), QStringLiteral("12/A 12/B 3"));
+    EXPECT_TRUE(prova.operatore.messaggi.isEmpty());
+}
+
+TEST_F(RiordinoTest, UnRifiutoNonToccaNullaERiportaIBottoni) {
+    documento(QStringLiteral("2"), u"20150101", 1, true);
+    const QByteArray fte = azienda.leggi(QStringLiteral("borlano.fte"));
+    const QByteArray tot = azienda.leggi(QStringLiteral("borlano.tot"));
+    ContestoDiProva prova(azienda);
+    prova.operatore.rispostaSolita = false;
+    Borfte form(prova.contesto, {});
+    form.carica();
+    form.scegliRiordino();
+    EXPECT_EQ(form.etichetta(), QStringLiteral("Seleziona il tipo di riordino da eseguire"));
+    form.apri(0, 1);
+    EXPECT_TRUE(prova.operatore.messaggi.isEmpty()) << "no document opens while the choice is pending";
+    form.riordino(TipoRiordino::PerData);
+    EXPECT_FALSE(form.sceltaRiordino());
+    EXPECT_EQ(form.etichetta(), QStringLiteral("Inserisci"));
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), fte);
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.tot")), tot);
+}
+
+TEST_F(RiordinoTest, IDatiMaiInizializzatiEsconoVuotiConLaMarca) {
+    documento(QStringLiteral("1"), u"20150101", 1);
+    azienda.scrivi(QStringLiteral("borlano.f2e"), QByteArray(838, 'x'));
+    ContestoDiProva prova(azienda);
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    const QByteArray f2e = azienda.leggi(QStringLiteral("borlano.f2e"));
+    EXPECT_EQ(f2e.left(2), QByteArray("\xE7\x03"));
+    EXPECT_EQ(f2e.sliced(2, 96), QByteArray(96, '\0'));
+    EXPECT_EQ(f2e.sliced(98, 8), QByteArray(8, ' '));
+}
+
+TEST_F(RiordinoTest, UnAltroComputerFermaIlRiordinoConIlSuoMessaggio) {
+    documento(QStringLiteral("2"), u"20150101", 1);
+    documento(QStringLiteral("1"), u"20150101", 1);
+    const QByteArray prima = azienda.leggi(QStringLiteral("borlano.fte"));
+    // Another program has the archive open until told to end.
+    std::array<int, 2> pronto{};
+    std::array<int, 2> fine{};
+    ASSERT_EQ(::pipe(pronto.data()), 0);
+    ASSERT_EQ(::pipe(fine.data()), 0);
+    const pid_t altro = ::fork();
+    if (altro == 0) {
+        const ContestoDiProva suo(azienda);
+        char c = 0;
+        (void)!::write(pronto[1], &c, 1);
+        (void)!::read(fine[0], &c, 1);
+        ::_exit(0);
+    }
+    char c = 0;
+    ASSERT_EQ(::read(pronto[0], &c, 1), 1);
+    ContestoDiProva prova(azienda);
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    ASSERT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(
+        prova.operatore.messaggi[0].testo,
+        QStringLiteral("Si è verificato l'errore 70 durante la procedura di duplicazione del file indici. "
+                       "Probabilmente qualche applicazione non è stata chiusa correttamente oppure qualche "
+                       "computer della rete sta utilizzando Borlano. Verificate ed eventualmente riavviate "
+                       "Windows."));
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), prima);
+    EXPECT_EQ(prova.operatore.attese, 0);
+    (void)!::write(fine[1], &c, 1);
+    ::waitpid(altro, nullptr, 0);
+
+    ContestoDiProva daCapo(azienda);
+    riordinaPer(daCapo, TipoRiordino::PerNumero);
+    EXPECT_TRUE(daCapo.operatore.messaggi.isEmpty());
+    ContestoDiProva escluso(azienda);
+    EXPECT_FALSE(escluso.archivio.fte.aperto()) << "after a reorder the files stay taken until the run ends";
+}
+
+TEST_F(RiordinoTest, UnDiscoPienoLasciaLeCopieEIlMessaggio) {
+    class DiscoPieno : public Disco {
+    public:
+        int ancora = 1 << 20;
+
+    protected:
+        bool scriviBytes(int descrittore, qint64 posizione, QByteArrayView bytes) override {
+            if (ancora-- <= 0) {
+                errno = ENOSPC;
+                return false;
+            }
+            return Disco::scriviBytes(descrittore, posizione, bytes);
+        }
+    };
+    documento(QStringLiteral("2"), u"20150101", 1);
+    documento(QStringLiteral("1"), u"20150101", 1);
+    const QByteArray prima = azienda.leggi(QStringLiteral("borlano.fte"));
+    DiscoPieno disco;
+    ContestoDiProva prova(azienda, disco);
+    disco.ancora = 1; // the counter can still be written, the records no longer
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    ASSERT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_TRUE(prova.operatore.messaggi[0].testo.startsWith(QStringLiteral(
+        "Si è verificato l'errore 61 durante la procedura di salvataggio dei dati riordinati.")));
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.$$$")), prima);
+}
+
+} // namespace
+} // namespace bor

@@ -1,0 +1,83 @@
+#include "register/borfte.h"
+#include "support/azienda.h"
+#include "ui/gesti.h"
+#include "ui/vistaborfte.h"
+
+#include <QTableView>
+
+namespace bor {
+namespace {
+
+class VistaRegistroTest : public testing::Test {
+protected:
+    VistaRegistroTest() {
+        const int rossi = azienda.cliente(QStringLiteral("Rossi Forniture Srl"));
+        const int bianchi = azienda.cliente(QStringLiteral("Bianchi Édith & Figli"));
+        for (int i = 1; i <= 30; ++i) {
+            CoppiaFte c = documentoDi(i % 2 ? rossi : bianchi, QString::number(i), 100.0 * i, 22.0 * i);
+            if (i % 5 == 0)
+                c.f2e.pdf.set(u"\\suprok\\pdf\\x.pdf");
+            if (i % 7 == 0)
+                c.f2e.fpa = 3.0;
+            azienda.documento(c);
+        }
+        prova = std::make_unique<ContestoDiProva>(azienda);
+        form = std::make_unique<Borfte>(prova->contesto, nullptr);
+        form->carica();
+        vista = std::make_unique<VistaBorfte>(*form);
+        mostra(*vista);
+        griglia = controllo<QTableView>(*vista, QStringLiteral("elenco"));
+    }
+
+    QString cella(int riga, int colonna) const {
+        return griglia->model()->index(riga, colonna).data().toString();
+    }
+
+    AziendaDiProva azienda;
+    std::unique_ptr<ContestoDiProva> prova;
+    std::unique_ptr<Borfte> form;
+    std::unique_ptr<VistaBorfte> vista;
+    QTableView* griglia = nullptr;
+};
+
+TEST_F(VistaRegistroTest, DallaTastieraSiSceglieSiOrdinaESiApre) {
+    foto(*vista, QStringLiteral("registro"));
+    EXPECT_EQ(fuoco(*vista), QStringLiteral("elenco"));
+    EXPECT_EQ(cella(0, 5), QStringLiteral("122,00"));
+    tasto(*vista, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(cella(0, 4), QStringLiteral("Bianchi Édith & Figli"));
+    EXPECT_EQ(cella(0, 0), QStringLiteral("2"));
+    tasto(*vista, Qt::Key_Down);
+    tasto(*vista, Qt::Key_Return);
+    EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
+    EXPECT_EQ(prova->sessione.recordfattura, 4);
+}
+
+TEST_F(VistaRegistroTest, FiltroEOpzioniRiempionoDiNuovo) {
+    clic(*vista, QStringLiteral("visua(1)"));
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.gnr")).at(0), 10);
+    EXPECT_EQ(griglia->currentIndex().row(), 29);
+    EXPECT_TRUE(griglia->visualRect(griglia->currentIndex()).intersects(griglia->viewport()->rect()));
+    clic(*vista, QStringLiteral("srx(1)"));
+    EXPECT_EQ(cella(0, 0), QStringLiteral("1"));
+}
+
+TEST_F(VistaRegistroTest, IlRiordinoCambiaIBottoni) {
+    auto* fattura = controllo(*vista, QStringLiteral("bottone(3)"));
+    auto* perNumero = controllo(*vista, QStringLiteral("bottone(7)"));
+    EXPECT_FALSE(perNumero->isVisible());
+    tasto(*vista, Qt::Key_F6);
+    EXPECT_TRUE(perNumero->isVisible());
+    EXPECT_FALSE(fattura->isVisible());
+    EXPECT_EQ(testoDi(*vista, QStringLiteral("Label3")),
+              QStringLiteral("Seleziona il tipo di riordino da eseguire"));
+    foto(*vista, QStringLiteral("registro_riordino"));
+    tasto(*vista, Qt::Key_F9);
+    EXPECT_TRUE(fattura->isVisible());
+    EXPECT_EQ(prova->operatore.domande.size(), 1);
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_TRUE(prova->navigatore.terminato);
+}
+
+} // namespace
+} // namespace bor
