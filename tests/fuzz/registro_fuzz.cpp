@@ -1,0 +1,61 @@
+// An archive of hostile bytes and counts: the register shows it, sorts it and reorders it without harm.
+#include "register/borfte.h"
+#include "support/azienda.h"
+
+#include <QLoggingCategory>
+
+#include <cstdint>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Mostly counts near what the files hold, and the largest one.
+std::int16_t conteggio(std::uint8_t byte) {
+    return byte == 127 ? std::int16_t{32767} : static_cast<std::int8_t>(byte);
+}
+
+void guarda(bor::Borfte& registro) {
+    for (int riga = -1; riga <= qMin(registro.righeGriglia(), 100); ++riga)
+        for (int colonna = 0; colonna < bor::colonneElenco; ++colonna) {
+            (void)registro.testo(riga, static_cast<bor::Colonna>(colonna));
+            (void)registro.colore(riga, colonna);
+        }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti) {
+    QLoggingCategory::setFilterRules(u"bor.*=false"_s);
+    if (quanti < 3)
+        return 0;
+    // A short input, repeated, still makes some records, the last of them torn.
+    QByteArray bytes(reinterpret_cast<const char*>(dati) + 2, static_cast<qsizetype>(quanti) - 2);
+    bytes = bytes.repeated(4000 / bytes.size() + 1);
+
+    const bor::AziendaDiProva azienda;
+    for (const QString& estensione : {u"fte"_s, u"f2e"_s, u"cli"_s})
+        azienda.scrivi(u"borlano."_s + estensione, bytes);
+    bor::ContestoDiProva contesto(azienda);
+    bor::Tot contatore{};
+    contatore.numero = conteggio(dati[0]);
+    contesto.archivio.scriviTot(bor::Conta::Fte, contatore);
+    contatore.numero = conteggio(dati[1]);
+    contesto.archivio.scriviTot(bor::Conta::Cli, contatore);
+
+    bor::Borfte registro(contesto.contesto, [] { return false; });
+    registro.carica();
+    guarda(registro);
+    for (int colonna = 0; colonna < bor::colonneElenco; ++colonna)
+        registro.ordina(colonna);
+    registro.cambiaFiltro(bor::FiltroFatture::SoloPa);
+    guarda(registro);
+    registro.cambiaSelvis(1);
+    registro.apri(0, static_cast<int>(bor::Colonna::Numero));
+    registro.apri(0, static_cast<int>(bor::Colonna::NomePdf));
+    for (const auto tipo :
+         {bor::TipoRiordino::PerNumero, bor::TipoRiordino::PerData, bor::TipoRiordino::PerProtocollo})
+        registro.riordino(tipo);
+    guarda(registro);
+    return 0;
+}
