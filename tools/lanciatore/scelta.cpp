@@ -23,10 +23,10 @@ namespace {
 constexpr int colonnaCodice = 0;
 constexpr int colonnaNome = 1;
 
-QLabel* etichetta(const QString& testo, double ingrandimento) {
+QLabel* titolo(const QString& testo) {
     auto* label = new QLabel(testo);
     QFont carattere = label->font();
-    carattere.setPointSizeF(carattere.pointSizeF() * ingrandimento);
+    carattere.setPointSizeF(carattere.pointSizeF() * 1.6);
     label->setFont(carattere);
     return label;
 }
@@ -70,12 +70,17 @@ SceltaAzienda::SceltaAzienda(const QString& unita, const QString& cartellaProgra
     cambiaUnita(unita);
 }
 
+SceltaAzienda::~SceltaAzienda() {
+    // A company half made would be worse than a window that closes a moment later.
+    m_borcrea.waitForFinished();
+}
+
 QWidget* SceltaAzienda::costruisciTestata() {
     auto* testata = new QWidget;
     auto* disposizione = new QVBoxLayout(testata);
     disposizione->setContentsMargins(0, 0, 0, 0);
     disposizione->setSpacing(2);
-    disposizione->addWidget(etichetta(u"Scegli l'azienda"_s, 1.6));
+    disposizione->addWidget(titolo(u"Scegli l'azienda"_s));
     m_unita = new QLabel;
     m_unita->setObjectName(u"unita"_s);
     m_unita->setTextInteractionFlags(Qt::TextSelectableByMouse);

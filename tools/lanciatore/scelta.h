@@ -21,6 +21,7 @@ public:
     using Apri = std::function<bool(const Percorsi& percorsi, int codiceazienda)>;
 
     SceltaAzienda(const QString& unita, const QString& cartellaProgrammi, Apri apri);
+    ~SceltaAzienda() override;
 
     void cambiaUnita(const QString& unita);
     void aggiorna();
