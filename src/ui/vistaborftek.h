@@ -1,0 +1,44 @@
+// The lines of a fee bill on screen.
+#pragma once
+
+#include "document/borftek.h"
+#include "ui/vista.h"
+
+#include <array>
+
+class QGridLayout;
+class QLineEdit;
+class QListWidget;
+class QScrollBar;
+
+namespace bor {
+
+class VistaBorftek : public Vista {
+public:
+    explicit VistaBorftek(Borftek& form, QWidget* parent = nullptr);
+
+    void attiva() override;
+    void lascia() override;
+    QString titolo() const override;
+
+protected:
+    void wheelEvent(QWheelEvent* evento) override;
+
+private:
+    static constexpr std::size_t campiPerRiga = 5;
+
+    QWidget* creaRighe();
+    void creaRiga(QGridLayout* griglia, int riga);
+    QWidget* creaPrestazioni();
+    QWidget* creaTotali();
+    QWidget* creaComandi();
+    void lega(int riga, Borftek::Campo campo, QLineEdit* casella);
+    void vai(Borftek::Posto posto);
+
+    Borftek& m_form;
+    std::array<std::array<QLineEdit*, campiPerRiga>, Borftek::righeSchermo> m_campi{};
+    QScrollBar* m_cursore = nullptr;
+    QListWidget* m_prestazioni = nullptr;
+};
+
+} // namespace bor
