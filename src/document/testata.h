@@ -42,6 +42,7 @@ struct DatiCliente {
     QString email;                   ///< `Text2(16)`
     std::array<QString, 3> vettore;  ///< `Text2(17)` to `(19)`
     std::array<QString, 2> nota;     ///< `Text2(20)`, `(21)`
+    int pagamento = -1;              ///< `Combo1`: row of the payment table less 1
     QString banca;                   ///< `Text2(25)`
     QString coordinate;              ///< `Text`
     ContoTesti contocliente;         ///< `Text2(30)` to `(32)`
@@ -49,7 +50,8 @@ struct DatiCliente {
     ContoTesti contoiva;             ///< `Text2(36)` to `(38)`
     ContoTesti contoesenti;          ///< `Text2(39)` to `(41)`
 
-    /// The fields of a customer record, trimmed; a deleted customer's name without the mark in front of it.
+    /// The fields of a customer record, trimmed; blank where nothing was ever written. A deleted customer's
+    /// name comes without the mark in front of it.
     static DatiCliente da(const Cli& cliente);
 };
 

@@ -1,6 +1,7 @@
 #include "register/borfte.h"
 
 #include "document/apripdf.h"
+#include "register/griglia.h"
 
 #include <algorithm>
 
@@ -11,7 +12,6 @@ namespace bor {
 namespace {
 
 const QString titoloAttenzione = u"Attenzione"_s;
-constexpr int righePiene = 25; ///< rows that fill the window, blank ones included
 constexpr int righeSotto = 22; ///< a list that opens at its end shows this many rows below the first
 
 int primoRecord(int selvis, int numero) {
@@ -50,10 +50,6 @@ QString testoFase(FaseRiordino fase) {
         break;
     }
     return u" durante la procedura di salvataggio dei dati riordinati."_s;
-}
-
-int coloreDa(double valore) {
-    return valore >= 0 && valore <= 0xFFFFFF ? static_cast<int>(valore) : 0xFFFFFF;
 }
 
 } // namespace
@@ -264,7 +260,7 @@ void Borfte::caricalista() {
 }
 
 bool Borfte::colorata() const {
-    return m_contesto.impostazioni.gnr.listacolorata.text() == u"1";
+    return listaColorata(m_contesto.impostazioni.gnr);
 }
 
 QString Borfte::testo(int riga, Colonna colonna) const {
@@ -272,11 +268,8 @@ QString Borfte::testo(int riga, Colonna colonna) const {
 }
 
 std::optional<int> Borfte::colore(int riga, int colonna) const {
-    if (colorata()) {
-        const Gnr& gnr = m_contesto.impostazioni.gnr;
-        // Rows count from 1 on screen, so the first one is odd.
-        return coloreDa(riga % 2 == 1 ? gnr.colorelista1 : gnr.colorelista2);
-    }
+    if (colorata())
+        return coloreRiga(m_contesto.impostazioni.gnr, riga);
     if (m_cellaColorata && m_cellaColorata->cella == std::array{riga, colonna})
         return m_cellaColorata->colore;
     return std::nullopt;

@@ -1,10 +1,9 @@
 #include "register/elencofatture.h"
 
 #include "common/date.h"
-#include "common/numeri.h"
+#include "register/griglia.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace bor {
 
@@ -33,34 +32,6 @@ bool nominato(const Text<60>& pdf) {
         return codice > 32 && codice < 255;
     });
 }
-
-/// The whole cell is a number.
-bool numerica(QStringView cella) {
-    if (cella.startsWith(u'-'))
-        cella = cella.sliced(1);
-    return !cella.isEmpty() && cella.count(u'.') <= 1 && cella != u"." &&
-           std::ranges::all_of(cella, [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; });
-}
-
-/// A cell as a sort compares it: numbers by value and before any text, texts by character.
-struct ChiaveOrdine {
-    bool testuale = false;
-    double numero = 0;
-    QString testo;
-
-    explicit ChiaveOrdine(const QString& cella) : testuale(!numerica(cella)) {
-        if (testuale)
-            testo = cella;
-        else
-            numero = valore(cella);
-    }
-
-    bool operator<(const ChiaveOrdine& altra) const {
-        if (testuale != altra.testuale)
-            return altra.testuale;
-        return testuale ? testo < altra.testo : numero < altra.numero;
-    }
-};
 
 } // namespace
 
@@ -115,18 +86,7 @@ QString ElencoFatture::nomeCliente(const Riga& riga) const {
 }
 
 void ElencoFatture::ordina(Colonna colonna) {
-    std::vector<ChiaveOrdine> chiavi;
-    chiavi.reserve(m_righe.size());
-    for (int i = 0; i < quante(); ++i)
-        chiavi.emplace_back(testo(i, colonna, {}));
-    std::vector<std::size_t> ordine(m_righe.size());
-    std::iota(ordine.begin(), ordine.end(), std::size_t{0});
-    std::ranges::stable_sort(ordine, [&](std::size_t a, std::size_t b) { return chiavi[a] < chiavi[b]; });
-    std::vector<Riga> ordinate;
-    ordinate.reserve(m_righe.size());
-    for (const std::size_t i : ordine)
-        ordinate.push_back(m_righe[i]);
-    m_righe = std::move(ordinate);
+    ordinaRighe(m_righe, [this, colonna](int riga) { return testo(riga, colonna, {}); });
 }
 
 QString ElencoFatture::testo(int riga, Colonna colonna, const Valuta& valuta) const {

@@ -1,0 +1,164 @@
+#include "document/borftem.h"
+
+#include "common/numeri.h"
+#include "document/clienti.h"
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+constexpr std::size_t righeRegime = 12;
+
+/// One column of a table whose rows count from 1, as the items of a list.
+template <std::size_t Righe, std::size_t Colonne>
+QStringList colonna(const TabellaTesti<Righe, Colonne>& tabella, std::size_t quale) {
+    QStringList testi;
+    for (std::size_t riga = 1; riga < Righe; ++riga)
+        testi.append(tabella[riga][quale].trimmed());
+    return testi;
+}
+
+QString testoRegime(const std::array<QString, 4>& aliquota) {
+    QString testo = u"Iva"_s + aliquota[0] + u'%';
+    constexpr std::array<QStringView, 4> sigle = {u"", u"R.A.", u"C.I.", u"C.P."};
+    for (std::size_t i = 1; i < sigle.size(); ++i) {
+        if (valore(aliquota[i]) != 0)
+            testo.append(u" - "_s).append(sigle[i]).append(aliquota[i]).append(u'%');
+    }
+    return testo;
+}
+
+} // namespace
+
+Borftem::Borftem(Contesto& contesto, Documento& documento) : m_contesto(contesto), m_documento(documento) {}
+
+void Borftem::attiva() {
+    Sessione& sessione = m_contesto.sessione;
+    if (sessione.modoselezione == 99) {
+        sessione.modoselezione = 0;
+        cerca();
+        return;
+    }
+    m_numero = m_contesto.archivio.leggiTot(Conta::Cli).numero;
+    m_poscliente = 1;
+    if (!sessione.testataletta) {
+        if (sessione.recordfattura == 0)
+            m_documento.testata = {};
+        mostraCliente();
+    } else if (sessione.recordcliente > 0) {
+        // The bar moves without showing: what was typed over the customer's data stays. Only a customer that
+        // was looked at and not chosen gives way to the document's own, also when the index does not hold
+        // him.
+        m_poscliente = std::max(posizionecliente(m_contesto.archivio, sessione.recordcliente), 1);
+        if (m_recordcorrente != sessione.recordcliente)
+            prendi(sessione.recordcliente);
+    }
+    sessione.testataletta = true;
+}
+
+RiquadroTestata Borftem::riquadro() const {
+    // The document form offers the lines of every stored document, and with them its transport or practice
+    // data; a new one has none before it is saved.
+    if (m_contesto.sessione.recordfattura == 0)
+        return RiquadroTestata::Contabili;
+    return m_contesto.sessione.tipoparcella != 0 ? RiquadroTestata::Pratica : RiquadroTestata::Spedizione;
+}
+
+void Borftem::prendi(int record) {
+    m_recordcorrente = record;
+    prendiCliente(m_documento, m_contesto.archivio, record);
+}
+
+void Borftem::mostraCliente() {
+    prendi(m_contesto.archivio.src.leggi(m_poscliente).recordcli);
+}
+
+void Borftem::cambiaPosizione(int posizione) {
+    if (m_numero < 2)
+        return;
+    m_poscliente = posizione;
+    mostraCliente();
+}
+
+void Borftem::cambiaNome(const QString& testo) {
+    m_nome = testo;
+}
+
+void Borftem::cerca() {
+    const int trovata = cercacliente(m_contesto.archivio, m_nome);
+    if (trovata > 0)
+        m_poscliente = trovata;
+    else
+        m_contesto.operatore.messaggio(u"Anagrafica non trovata"_s, u"Attenzione"_s, Icona::Esclamazione);
+    mostraCliente();
+    m_nome.clear();
+}
+
+void Borftem::lista() {
+    m_contesto.sessione.modoselezione = 7;
+    m_contesto.navigatore.mostra(Schermo::Borsel);
+}
+
+void Borftem::cambiaVettore(int posizione) {
+    m_vettore = posizione;
+    // The row is that of the transport cause in `Combo3`, not the one just clicked: both lists have the same
+    // rows, and offices have filled their tables for it.
+    const int riga = m_documento.testata.trasporto.causale + 1;
+    const auto& vettori = m_contesto.tabelle.vettori;
+    if (riga < 1 || riga >= std::ssize(vettori))
+        return;
+    constexpr std::size_t primaColonna = 2;
+    for (std::size_t k = 0; k < m_documento.testata.cliente.vettore.size(); ++k) {
+        const QString testo = vettori[static_cast<std::size_t>(riga)][primaColonna + k].trimmed();
+        if (testo != u"*")
+            m_documento.testata.cliente.vettore[k] = testo;
+    }
+}
+
+void Borftem::avanti() {
+    if (!puoProseguire())
+        return;
+    m_contesto.sessione.righelette = false;
+    m_contesto.sessione.recordcliente = m_recordcorrente;
+    m_contesto.navigatore.mostra(Schermo::Borftea);
+}
+
+void Borftem::lascia() {
+    const Sessione& sessione = m_contesto.sessione;
+    if (puoProseguire()) {
+        avanti();
+    } else if (sessione.recordfattura == 0) {
+        m_contesto.navigatore.mostra(Schermo::Borfte);
+    } else {
+        if (m_recordcorrente != sessione.recordcliente)
+            prendi(sessione.recordcliente);
+        m_contesto.navigatore.mostra(Schermo::Borftea);
+    }
+}
+
+QStringList Borftem::pagamenti() const {
+    return colonna(m_contesto.tabelle.tipopagamenti, 0);
+}
+
+QStringList Borftem::causali() const {
+    return colonna(m_contesto.tabelle.vettori, 0);
+}
+
+QStringList Borftem::aspetti() const {
+    return colonna(m_contesto.tabelle.vettori, 1);
+}
+
+QStringList Borftem::vettori() const {
+    return colonna(m_contesto.tabelle.vettori, 2);
+}
+
+QStringList Borftem::regimi() const {
+    QStringList testi;
+    for (std::size_t riga = 1; riga <= righeRegime; ++riga)
+        testi.append(testoRegime(m_contesto.tabelle.aliquote[riga]));
+    return testi;
+}
+
+} // namespace bor

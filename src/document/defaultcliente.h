@@ -1,0 +1,14 @@
+// What a new document takes from its customer; used when the document form opens for one.
+#pragma once
+
+#include "document/documento.h"
+
+namespace bor {
+
+struct Contesto;
+
+/// Deferred VAT (only where the company's regime allows it), spesometro, bank receipts, e-mail, payment type
+/// and the agent's rate, all from `documento.cliente`.
+void prendiDefaults(Documento& documento, const Contesto& contesto);
+
+} // namespace bor

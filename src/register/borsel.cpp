@@ -1,0 +1,119 @@
+#include "register/borsel.h"
+
+#include "document/borftem.h"
+#include "register/griglia.h"
+
+#include <algorithm>
+
+namespace bor {
+
+namespace {
+
+constexpr std::size_t massimoRighe = 31999; ///< a grid has 32,000 rows, one of them the headings
+
+} // namespace
+
+Borsel::Borsel(Contesto& contesto, Borftem& chiamante) : m_contesto(contesto), m_chiamante(chiamante) {}
+
+void Borsel::attiva() {
+    m_selnome = m_chiamante.nome().trimmed();
+    caricaclienti();
+}
+
+void Borsel::caricaclienti() {
+    const Attesa attesa(m_contesto.operatore);
+    const Archivio& archivio = m_contesto.archivio;
+    const int numero = archivio.leggiTot(Conta::Cli).numero;
+    std::vector<std::int16_t> indice;
+    archivio.src.scorri(1, numero, [&](int, const Src& voce) {
+        indice.push_back(voce.recordcli);
+        return true;
+    });
+    const std::vector<Riga> clienti = leggiClienti(indice.empty() ? 0 : *std::ranges::max_element(indice));
+    const QString filtro = maiuscolo(m_selnome).trimmed();
+    m_righe.clear();
+    for (const std::int16_t record : indice) {
+        // An entry that points nowhere shows as a blank customer.
+        Riga riga =
+            record > 0 && record < std::ssize(clienti) ? clienti[static_cast<std::size_t>(record)] : Riga();
+        riga.record = record;
+        const bool passa =
+            !riga.eliminato && (filtro.isEmpty() || maiuscolo(riga.ragione1.trimmed()).contains(filtro));
+        if (passa && m_righe.size() < massimoRighe)
+            m_righe.push_back(riga);
+    }
+    m_contesto.sessione.righelista = quanti() + 1;
+    ++m_versione;
+}
+
+/// The customers by their record number, up to the last one wanted or on file.
+std::vector<Borsel::Riga> Borsel::leggiClienti(int ultimo) const {
+    const RecordFile<Cli>& file = m_contesto.archivio.cli;
+    // A record cut off by the end of the file counts for what is left of it.
+    const auto suFile = static_cast<int>(file.lunghezza() / qint64{sizeof(Cli)} + 1);
+    const int letti = std::clamp(ultimo, 0, suFile);
+    std::vector<Riga> clienti(static_cast<std::size_t>(letti) + 1);
+    file.scorri(1, letti, [&clienti](int n, const Cli& cli) {
+        clienti[static_cast<std::size_t>(n)] = {cli.sede.ragione1, cli.sede.ragione2, cli.sede.indirizzo,
+                                                cli.sede.citta,    cli.partitaiva,    0,
+                                                cli.eliminato != 0};
+        return true;
+    });
+    return clienti;
+}
+
+void Borsel::ordina(ColonnaCliente colonna) {
+    ordinaRighe(m_righe, [this, colonna](int riga) { return testo(riga, colonna); });
+    ++m_versione;
+}
+
+void Borsel::scegli(int riga) {
+    if (record(riga) <= 0)
+        return;
+    m_selnome = testo(riga, ColonnaCliente::Nominativo);
+    m_chiamante.cambiaNome(m_selnome.trimmed());
+    m_contesto.sessione.modoselezione = 99;
+    m_contesto.navigatore.mostra(Schermo::Borftem);
+}
+
+void Borsel::esci() {
+    m_chiamante.cambiaNome({});
+    m_contesto.sessione.modoselezione = 0;
+    m_contesto.navigatore.mostra(Schermo::Borftem);
+}
+
+int Borsel::righeGriglia() const {
+    return std::max(quanti(), righePiene);
+}
+
+QString Borsel::testo(int riga, ColonnaCliente colonna) const {
+    if (!esiste(riga))
+        return {};
+    const Riga& r = m_righe[static_cast<std::size_t>(riga)];
+    switch (colonna) {
+    case ColonnaCliente::Nominativo:
+        return puliscitesto(r.ragione1.text());
+    case ColonnaCliente::Nominativo2:
+        return puliscitesto(r.ragione2.text());
+    case ColonnaCliente::Indirizzo:
+        return puliscitesto(r.indirizzo.text());
+    case ColonnaCliente::Citta:
+        return puliscitesto(r.citta.text());
+    case ColonnaCliente::PartitaIva:
+        return puliscitesto(r.partitaiva.text());
+    }
+    return {};
+}
+
+int Borsel::record(int riga) const {
+    return esiste(riga) ? m_righe[static_cast<std::size_t>(riga)].record : 0;
+}
+
+std::optional<int> Borsel::colore(int riga) const {
+    const Gnr& gnr = m_contesto.impostazioni.gnr;
+    if (!listaColorata(gnr))
+        return std::nullopt;
+    return coloreRiga(gnr, riga);
+}
+
+} // namespace bor
