@@ -94,9 +94,10 @@ int main(int argc, char* argv[]) {
     QStringList argomenti;
     for (int i = 0; i < argc; ++i)
         argomenti.append(QString::fromLocal8Bit(argv[i]));
-    parser.parse(argomenti);
-    // Without a window there is no need for a display.
-    if (parser.isSet(u"azienda"_s) || parser.isSet(u"dimostrazione"_s)) {
+    // What opens no window needs no display: a start by code, the help, a wrong option.
+    const bool valide = parser.parse(argomenti);
+    if (!valide || parser.isSet(u"help"_s) || parser.isSet(u"azienda"_s) ||
+        parser.isSet(u"dimostrazione"_s)) {
         const QCoreApplication applicazione(argc, argv);
         parser.process(applicazione);
         return avviaSubito(parser);
