@@ -1,0 +1,242 @@
+#include "posting/borftec.h"
+
+#include "common/numeri.h"
+#include "document/avvisi.h"
+#include "document/conti.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+constexpr qsizetype inizioNome = 12; ///< position of the name in a row of the account list
+
+QString voceConto(const Con& conto) {
+    const QString codice = zeriDavanti(puliscitesto(conto.codice.text()), 8);
+    return pezzo(codice, 1, 2) + u' ' + pezzo(codice, 3, 2) + u' ' + pezzo(codice, 5, 4) + u' ' +
+           puliscitesto(conto.descrizione.text());
+}
+
+QString& casella(RigaMovimento& riga, Borftec::Campo campo) {
+    switch (campo) {
+    case Borftec::Campo::Mastro:
+        return riga.conto.mastro;
+    case Borftec::Campo::Conto:
+        return riga.conto.conto;
+    case Borftec::Campo::Sottoconto:
+        return riga.conto.sottoconto;
+    case Borftec::Campo::Dare:
+        return riga.dare;
+    case Borftec::Campo::Avere:
+        break;
+    }
+    return riga.avere;
+}
+
+} // namespace
+
+Borftec::Borftec(Contesto& contesto, const Documento& documento)
+    : m_contesto(contesto), m_documento(documento) {}
+
+void Borftec::attiva() {
+    m_conti.clear();
+    m_contoScelto = -1;
+    m_rigacorrente = 0;
+    const Archivio& archivio = m_contesto.archivio;
+    archivio.con.scorri(1, archivio.leggiTot(Conta::Con).numero, [this](int, const Con& conto) {
+        m_conti.append(voceConto(conto));
+        return true;
+    });
+    m_conti.sort();
+}
+
+QString Borftec::titolo() const {
+    return m_contesto.sessione.modificamovimento ? u"Modifica movimento contabile"_s
+                                                 : u"Estremi movimento contabile"_s;
+}
+
+QString Borftec::testo(int i, Campo campo) const {
+    RigaMovimento copia = riga(i);
+    return casella(copia, campo);
+}
+
+void Borftec::cambia(int i, Campo campo, const QString& testo) {
+    m_rigacorrente = i;
+    casella(riga(i), campo) = campo >= Campo::Dare ? QString(testo).replace(u',', u'.') : testo;
+    if (campo >= Campo::Dare)
+        return;
+    const ContoTesti& conto = riga(i).conto;
+    const QString inizio = QStringList{conto.mastro, conto.conto, conto.sottoconto}.join(u' ').trimmed();
+    const auto trovato =
+        std::ranges::find_if(m_conti, [&](const QString& voce) { return voce.startsWith(inizio); });
+    if (!inizio.isEmpty() && trovato != m_conti.end())
+        m_contoScelto = static_cast<int>(trovato - m_conti.begin());
+}
+
+QString Borftec::descrizioneConto(int i) const {
+    const double codice = valore(riga(i).conto.unito());
+    if (codice <= 0)
+        return {};
+    const auto trovato = std::ranges::find_if(m_conti, [codice](const QString& voce) {
+        return valore(pezzo(voce, 1, 2) + pezzo(voce, 4, 2) + pezzo(voce, 7, 4)) == codice;
+    });
+    return trovato == m_conti.end() ? QString() : pezzo(*trovato, inizioNome);
+}
+
+Borftec::Posto Borftec::invio(int i, Campo campo) {
+    if (campo != Campo::Avere)
+        return {i, static_cast<Campo>(static_cast<int>(campo) + 1)};
+    return {(i + 1) % righe, Campo::Mastro};
+}
+
+void Borftec::cerca(const QString& testo) {
+    const QString cercato = maiuscolo(testo);
+    const auto trovato = std::ranges::find_if(m_conti, [&](const QString& voce) {
+        return maiuscolo(pezzo(voce, inizioNome, cercato.size())) == cercato;
+    });
+    if (!cercato.isEmpty() && trovato != m_conti.end())
+        m_contoScelto = static_cast<int>(trovato - m_conti.begin());
+}
+
+std::optional<Borftec::Posto> Borftec::prendiConto(int indice) {
+    if (indice < 0 || indice >= m_conti.size() || valore(m_conti[indice].left(2)) <= 0)
+        return std::nullopt;
+    m_contoScelto = indice;
+    const QString& voce = m_conti[indice];
+    riga(m_rigacorrente).conto = {pezzo(voce, 1, 2), pezzo(voce, 4, 2), pezzo(voce, 7, 4)};
+    return Posto{m_rigacorrente, Campo::Dare};
+}
+
+void Borftec::togliRiga() {
+    if (m_rigacorrente < 0 || m_rigacorrente >= righe - 1)
+        return;
+    auto& r = m_movimento.righe;
+    std::move(r.begin() + m_rigacorrente + 1, r.end(), r.begin() + m_rigacorrente);
+    r.back() = {};
+}
+
+void Borftec::inserisciRiga() {
+    if (m_rigacorrente < 0 || m_rigacorrente >= righe - 1)
+        return;
+    auto& r = m_movimento.righe;
+    std::move_backward(r.begin() + m_rigacorrente + 1, r.end() - 1, r.end());
+    r[static_cast<std::size_t>(m_rigacorrente) + 1] = {};
+}
+
+void Borftec::lascia() {
+    m_contesto.navigatore.mostra(Schermo::Borfte);
+}
+
+double Borftec::totaleDare() const {
+    double somma = 0;
+    for (const RigaMovimento& r : m_movimento.righe)
+        somma += valorevirgola(r.dare);
+    return somma;
+}
+
+double Borftec::totaleAvere() const {
+    double somma = 0;
+    for (const RigaMovimento& r : m_movimento.righe)
+        somma += valorevirgola(r.avere);
+    return somma;
+}
+
+double Borftec::sbilancio() const {
+    constexpr double mezzoCentesimo = 0.005;
+    const double differenza = totaleDare() - totaleAvere();
+    return std::fabs(differenza) < mezzoCentesimo ? 0.0 : differenza;
+}
+
+void Borftec::salva() {
+    // The register fills itself again also after a movement that the checks refused: the document before it
+    // is on file.
+    m_contesto.sessione.listadaaggiornare = true;
+    if (salvamovimento())
+        m_contesto.navigatore.mostra(Schermo::Borfte);
+}
+
+bool Borftec::salvamovimento() {
+    m_movimento.data = m_movimento.data.trimmed();
+    if (!dataValida(m_movimento.data)) {
+        m_contesto.operatore.messaggio(u"La data del movimento non è valida"_s, u"Attenzione"_s, Icona::Stop);
+        return false;
+    }
+    if (!trovaConti()) {
+        m_contesto.operatore.messaggio(u"Uno o più conti selezionati non esistono"_s, u"Attenzione"_s,
+                                       Icona::Stop);
+        return false;
+    }
+    const Attesa attesa(m_contesto.operatore);
+    const int vecchiomovimento = m_contesto.sessione.modificamovimento
+                                     ? trovaMovimento(m_contesto.archivio, m_documento.coppia.fte.stamp)
+                                     : 0;
+    if (aggiornaConti(vecchiomovimento) && scriviMovimento(vecchiomovimento))
+        return true;
+    avvisaNonScritto(m_contesto);
+    return false;
+}
+
+bool Borftec::trovaConti() {
+    bool tutti = true;
+    for (int i = 0; i < righe; ++i) {
+        int& trovato = m_contoriga[static_cast<std::size_t>(i)];
+        trovato = 0;
+        // A line without amounts drops out of the movement, whatever account it names.
+        if (riga(i).senzaImporti())
+            riga(i).conto = {};
+        const QString codice = riga(i).conto.unito().trimmed();
+        if (!codice.isEmpty()) {
+            trovato = trovaconto(m_contesto.archivio, codice);
+            tutti = tutti && trovato > 0;
+        }
+    }
+    return tutti;
+}
+
+bool Borftec::aggiornaConti(int vecchiomovimento) {
+    Archivio& archivio = m_contesto.archivio;
+    if (vecchiomovimento > 0) {
+        for (const VoceGio& voce : archivio.gio.leggi(vecchiomovimento).voce) {
+            if (!applicaconto(archivio, voce))
+                return false;
+        }
+    }
+    // One read and write a line, so that two lines on one account add up.
+    for (int i = 0; i < righe; ++i) {
+        const int n = m_contoriga[static_cast<std::size_t>(i)];
+        if (n == 0)
+            continue;
+        Con conto = archivio.con.leggi(n);
+        conto.progressivodare += valorevirgola(riga(i).dare);
+        conto.progressivoavere += valorevirgola(riga(i).avere);
+        if (!archivio.con.scrivi(n, conto))
+            return false;
+    }
+    return true;
+}
+
+bool Borftec::scriviMovimento(int vecchiomovimento) {
+    Archivio& archivio = m_contesto.archivio;
+    Gio gio = vecchiomovimento > 0 ? archivio.gio.leggi(vecchiomovimento) : vuoto<Gio>();
+    m_movimento.riempi(gio);
+    gio.riferimentofattura = m_documento.coppia.fte.stamp;
+    return vecchiomovimento > 0 ? archivio.cambia(archivio.gio, Conta::Gio, vecchiomovimento, gio)
+                                : archivio.aggiungi(archivio.gio, Conta::Gio, gio) > 0;
+}
+
+bool applicaconto(Archivio& archivio, const VoceGio& voce) {
+    const QString codice = voce.conto.text();
+    const int n = valore(codice) > 0 ? trovaconto(archivio, codice) : 0;
+    if (n == 0)
+        return true;
+    Con conto = archivio.con.leggi(n);
+    Reale& progressivo = voce.segno == 0 ? conto.progressivodare : conto.progressivoavere;
+    progressivo -= voce.importo;
+    return archivio.con.scrivi(n, conto);
+}
+
+} // namespace bor

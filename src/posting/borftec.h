@@ -1,0 +1,86 @@
+// The movement editor: the operator confirms or changes the accounting movement of a document, and only then
+// is it written.
+#pragma once
+
+#include "archive/contesto.h"
+#include "document/documento.h"
+#include "posting/movimento.h"
+
+#include <optional>
+
+namespace bor {
+
+class Borftec {
+public:
+    static constexpr int righe = 10;
+
+    /// The boxes of a line, in the order of the screen.
+    enum class Campo { Mastro, Conto, Sottoconto, Dare, Avere };
+    struct Posto {
+        int riga;
+        Campo campo;
+    };
+
+    Borftec(Contesto& contesto, const Documento& documento);
+
+    /// Puts a prepared movement on screen, before it is shown.
+    void prepara(Movimento movimento) { m_movimento = std::move(movimento); }
+    void attiva();
+    QString titolo() const;
+
+    QString testo(int riga, Campo campo) const;
+    /// A change of an account also moves the list to the first account that begins so.
+    void cambia(int riga, Campo campo, const QString& testo);
+    void entra(int riga) { m_rigacorrente = riga; }
+    QString descrizioneConto(int riga) const; ///< `ds`
+    /// Where Enter leads to; from the last box of the last line back to the first.
+    static Posto invio(int riga, Campo campo);
+
+    Movimento& testi() { return m_movimento; }
+    /// Head texts: `Text1(0)`, `Text2` and `Text1(1)`.
+    const Movimento& testi() const { return m_movimento; }
+
+    /// Accounts as "MM CC SSSS descrizione".
+    const QStringList& conti() const { return m_conti; }
+    int contoScelto() const { return m_contoScelto; }
+    /// Moves the list to the first account whose name begins with the text.
+    void cerca(const QString& testo); ///< `ccerca`
+    /// Takes an account of the list into the current line; where to type next.
+    std::optional<Posto> prendiConto(int indice);
+
+    void togliRiga();     ///< `bottone(3)`
+    void inserisciRiga(); ///< `bottone(4)`
+    /// Writes the movement and returns to the register; stays on a date or account that is not valid, or on a
+    /// failed write.
+    void salva();
+    /// Returns to the register without a movement.
+    void lascia();
+
+    double totaleDare() const;
+    double totaleAvere() const;
+    /// Debit less credit; 0 when they agree to the cent.
+    double sbilancio() const;
+    QString importo(double x) const { return m_contesto.valuta().importotesto(x); }
+
+private:
+    bool salvamovimento();
+    bool trovaConti();
+    bool aggiornaConti(int vecchiomovimento);
+    bool scriviMovimento(int vecchiomovimento);
+    RigaMovimento& riga(int i) { return m_movimento.righe[static_cast<std::size_t>(i)]; }
+    const RigaMovimento& riga(int i) const { return m_movimento.righe[static_cast<std::size_t>(i)]; }
+
+    Contesto& m_contesto;
+    const Documento& m_documento;
+    Movimento m_movimento;
+    std::array<int, righe> m_contoriga{}; ///< `con` record of each line
+    QStringList m_conti;
+    int m_contoScelto = -1;
+    int m_rigacorrente = 0;
+};
+
+/// Takes the amount of a replaced movement out of the balance of its account, on its own side. An account
+/// that is not in the chart is passed over. False when it could not be written.
+bool applicaconto(Archivio& archivio, const VoceGio& voce);
+
+} // namespace bor

@@ -1,0 +1,148 @@
+#include "posting/setfat.h"
+
+#include "archive/contesto.h"
+#include "common/numeri.h"
+#include "document/conti.h"
+#include "document/totali.h"
+#include "document/totaliparcella.h"
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+/// Amounts of a movement, whatever kind of document they come from.
+struct Importi {
+    double cliente = 0;
+    double ritenuta = 0;
+    double ricavi = 0;
+    double iva = 0;
+    double esenti = 0;
+};
+
+/// Accounts of a movement.
+struct Conti {
+    ContoTesti cliente;
+    ContoTesti ritenuta;
+    ContoTesti ricavi;
+    ContoTesti iva;
+    ContoTesti esenti;
+};
+
+/// The first column of an entry of the accounting settings.
+const QString& impostazione(const Contesto& contesto, std::size_t voce) {
+    return contesto.tabelle.contabili[voce][0];
+}
+
+Conti contiDi(const Documento& documento, const Contesto& contesto) {
+    const DatiCliente& testata = documento.testata.cliente;
+    Conti c{testata.contocliente, {}, testata.contoricavi, testata.contoiva, testata.contoesenti};
+    if (contesto.sessione.tipoparcella == 1) {
+        c.cliente = ContoTesti::da(documento.cliente.contocliente.text());
+        c.ricavi = ContoTesti::da(documento.cliente.contoricavi.text());
+        c.iva = ContoTesti::da(documento.cliente.contoiva.text());
+        c.esenti = ContoTesti::da(documento.cliente.contoesenti.text());
+    }
+    c.ritenuta = ContoTesti::da(pezzo(impostazione(contesto, 5), 1, 8));
+    // Tax that becomes due only with the payment waits on an account of its own.
+    if (documento.coppia.fte.esigdiff.text() == u"1")
+        c.iva = ContoTesti::da(pezzo(impostazione(contesto, 8), 81, 8));
+    return c;
+}
+
+/// Replaces the first place of a mark.
+void sostituisci(QString& testo, QStringView segno, const QString& valore) {
+    const qsizetype dove = testo.indexOf(segno);
+    if (dove >= 0)
+        testo.replace(dove, segno.size(), valore);
+}
+
+QString descrizione(const Documento& documento, const Contesto& contesto) {
+    const qsizetype inizio = documento.coppia.fte.tipo == 1 ? 41 : 1;
+    QString testo = pezzo(impostazione(contesto, 15), inizio, 40).trimmed();
+    QString numero = puliscitesto(documento.estremi.numero);
+    if (contesto.impostazioni.gnr.annonumero.text() == u"1")
+        numero += u'/' + pezzo(documento.estremi.data, 7);
+    sostituisci(testo, u"$D", numero);
+    sostituisci(testo, u"$N", documento.cliente.sede.ragione1.trimmed());
+    sostituisci(testo, u"$G", documento.estremi.data);
+    sostituisci(testo, u"$P", documento.estremi.protocollo.trimmed());
+    return testo;
+}
+
+/// The stored movement, if the operator wants it back and it can be found.
+std::optional<Movimento> precedente(const Documento& documento, const Contesto& contesto) {
+    if (documento.record == 0 ||
+        !contesto.operatore.chiedi(
+            u"Se desideri modificare il movimento contabile registrato in precedenza clic su 'SI', se invece "
+            u"desideri "
+            "far generare un nuovo movimento sulla base delle nuove caratteristiche della fattura, clic su 'NO'"_s,
+            u"Modifica registrazione contabile"_s))
+        return std::nullopt;
+    int trovato = 0;
+    {
+        const Attesa attesa(contesto.operatore);
+        trovato = trovaMovimento(contesto.archivio, documento.coppia.fte.stamp);
+    }
+    if (trovato > 0)
+        return Movimento::da(contesto.archivio.gio.leggi(trovato));
+    contesto.operatore.messaggio(
+        u"Non è stato possibile recuperare il movimento contabile registrato in precedenza: "
+        "verrà generato un nuovo movimento contabile"_s,
+        u"Attenzione"_s, Icona::Stop);
+    return std::nullopt;
+}
+
+Movimento genera(const Documento& documento, const Contesto& contesto, const Importi& importi) {
+    Movimento m;
+    const bool notaCredito = documento.coppia.fte.tipo == 1;
+    const Conti conti = contiDi(documento, contesto);
+    std::size_t k = 0;
+    const auto aggiungi = [&](const ContoTesti& conto, double importo, bool inDare) {
+        m.righe[k].conto = conto;
+        (inDare ? m.righe[k].dare : m.righe[k].avere) = testoDecimale(importo);
+        ++k;
+    };
+    aggiungi(conti.cliente, importi.cliente, !notaCredito);
+    if (importi.ritenuta > 0)
+        aggiungi(conti.ritenuta, importi.ritenuta, !notaCredito);
+    if (importi.ricavi > 0)
+        aggiungi(conti.ricavi, importi.ricavi, notaCredito);
+    if (importi.iva > 0)
+        aggiungi(conti.iva, importi.iva, notaCredito);
+    if (importi.esenti > 0)
+        aggiungi(conti.esenti, importi.esenti, notaCredito);
+    m.descrizione = descrizione(documento, contesto);
+    m.data = documento.estremi.datareg;
+    return m;
+}
+
+} // namespace
+
+Movimento setfat(const Documento& documento, const Contesto& contesto) {
+    if (auto vecchio = precedente(documento, contesto))
+        return *vecchio;
+    Totali t = totali(documento);
+    if (documento.integrata != Integrata::No) {
+        // The seller's invoice is posted on its own: this movement carries the tax alone.
+        t.somma1 = 0;
+        t.somma3 = 0;
+    }
+    const double totale = t.somma2 + t.somma1 + t.somma3;
+    return genera(documento, contesto, {totale - t.ritenuta, t.ritenuta, t.somma1, t.somma2, t.somma3});
+}
+
+Movimento setpar(const Documento& documento, const Contesto& contesto) {
+    if (auto vecchio = precedente(documento, contesto))
+        return *vecchio;
+    const TotaliParcella t =
+        totaliParcella(documento.dddp, documento.testata.pratica, contesto.tabelle, contesto.valuta());
+    return genera(documento, contesto,
+                  {t.nettodocumento, t.ritenuta, t.totonorari + t.totspese + t.contributoci + t.contributocp,
+                   t.imposta, t.totanticipazioni});
+}
+
+} // namespace bor
