@@ -65,7 +65,7 @@ QSize CampoTesto::minimumSizeHint() const {
 CampoImporto::CampoImporto(const QString& nome, const QString& didascalia, QWidget* parent)
     : CampoTesto(nome, didascalia, 0, parent) {
     setAlignment(Qt::AlignRight);
-    setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * caratteriImporto);
+    m_caratteri = caratteriImporto;
     setValidator(new ValidatoreImporto(this));
 }
 

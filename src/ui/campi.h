@@ -20,8 +20,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-private:
-    int m_caratteri;
+protected:
+    int m_caratteri; ///< characters that the box is wide; 0 for as wide as it gets
 };
 
 /// A box for a number: right-aligned, takes digits, sign and point, and a typed or pasted comma becomes the

@@ -48,7 +48,7 @@ VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_fo
 QWidget* VistaBorftek::creaRighe() {
     auto* riquadro = new QGroupBox(u"Prestazioni del documento"_s);
     auto* griglia = new QGridLayout(riquadro);
-    griglia->setVerticalSpacing(3);
+    griglia->setVerticalSpacing(8);
     for (std::size_t c = 0; c < colonne.size(); ++c) {
         auto* intestazione = new QLabel(colonne[c].intestazione.toString());
         griglia->addWidget(intestazione, 0, static_cast<int>(c), c < 2 ? Qt::AlignLeft : Qt::AlignRight);

@@ -1,0 +1,204 @@
+#include "ui/vistaborftec.h"
+
+#include "ui/campi.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+using Campo = Borftec::Campo;
+
+struct Colonna {
+    Campo campo;
+    QStringView nome;
+    QStringView descrizione;
+    int caratteri;
+};
+
+constexpr std::array<Colonna, 5> colonne = {{
+    {Campo::Mastro, u"cn1", u"Mastro", 2},
+    {Campo::Conto, u"cn2", u"Conto", 2},
+    {Campo::Sottoconto, u"cn3", u"Sottoconto", 4},
+    {Campo::Dare, u"dare", u"Dare", 0},
+    {Campo::Avere, u"avere", u"Avere", 0},
+}};
+
+/// The account's name stands between its groups and the amounts.
+int colonnaGriglia(Campo campo) {
+    return campo < Campo::Dare ? static_cast<int>(campo) : static_cast<int>(campo) + 1;
+}
+
+} // namespace
+
+VistaBorftec::VistaBorftec(Borftec& form, QWidget* parent) : Vista(parent), m_form(form) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(creaTestata());
+    auto* centro = new QHBoxLayout;
+    centro->addWidget(creaRighe(), 3);
+    centro->addWidget(creaConti(), 2);
+    layout->addLayout(centro, 1);
+    layout->addWidget(creaTotali());
+    layout->addWidget(creaComandi());
+}
+
+QWidget* VistaBorftec::creaTestata() {
+    auto* riquadro = new QGroupBox(u"Estremi"_s);
+    riquadro->setObjectName(u"Frame1"_s);
+    auto* riga = new QHBoxLayout(riquadro);
+    auto* giorno = new CampoData(u"Text2"_s, u"calendario"_s, u"Data del movimento"_s);
+    auto* descrizione = new CampoTesto(u"Text1(0)"_s, u"Descrizione"_s, 40);
+    auto* riferimento = new CampoTesto(u"Text1(1)"_s, u"Riferimento"_s, 20);
+    const auto aggiungi = [&](const QString& testo, QWidget* widget, QLineEdit* campo,
+                              QString Movimento::*dato) {
+        riga->addWidget(didascalia(testo, campo));
+        riga->addWidget(widget);
+        legami.testo(
+            campo, [this, dato] { return m_form.testi().*dato; },
+            [this, dato](const QString& t) { m_form.testi().*dato = t; });
+    };
+    aggiungi(u"Data"_s, giorno, giorno->campo(), &Movimento::data);
+    aggiungi(u"Descrizione"_s, descrizione, descrizione, &Movimento::descrizione);
+    aggiungi(u"Riferimento"_s, riferimento, riferimento, &Movimento::riferimento);
+    riga->addStretch();
+    invio.catena({giorno->campo(), descrizione, riferimento});
+    invio.passo(riferimento, [this] { vai({0, Campo::Mastro}); });
+    return riquadro;
+}
+
+QWidget* VistaBorftec::creaRighe() {
+    auto* riquadro = new QGroupBox(u"Righe del movimento"_s);
+    riquadro->setObjectName(u"Frame2"_s);
+    auto* griglia = new QGridLayout(riquadro);
+    griglia->setVerticalSpacing(8);
+    griglia->addWidget(new QLabel(u"Conto"_s), 0, 0, 1, 3);
+    griglia->addWidget(new QLabel(u"Descrizione del conto"_s), 0, 3);
+    griglia->addWidget(new QLabel(u"Dare"_s), 0, 4, Qt::AlignRight);
+    griglia->addWidget(new QLabel(u"Avere"_s), 0, 5, Qt::AlignRight);
+    for (int r = 0; r < Borftec::righe; ++r)
+        creaRiga(griglia, r);
+    griglia->setRowStretch(Borftec::righe + 1, 1);
+    griglia->setColumnStretch(3, 1);
+    return riquadro;
+}
+
+void VistaBorftec::creaRiga(QGridLayout* griglia, int riga) {
+    for (const auto& [campo, radice, descrizione, caratteri] : colonne) {
+        const QString nome = u"%1(%2)"_s.arg(radice).arg(riga);
+        const QString letto = u"%1, riga %2"_s.arg(descrizione).arg(riga + 1);
+        QLineEdit* casella = caratteri > 0 ? static_cast<QLineEdit*>(new CampoTesto(nome, letto, caratteri))
+                                           : new CampoImporto(nome, letto);
+        m_campi[static_cast<std::size_t>(riga)][static_cast<std::size_t>(campo)] = casella;
+        griglia->addWidget(casella, riga + 1, colonnaGriglia(campo));
+        legami.testo(
+            casella, [this, riga, campo = campo] { return m_form.testo(riga, campo); },
+            [this, riga, campo = campo](const QString& t) { m_form.cambia(riga, campo, t); });
+        legami.entrato(casella, [this, riga] { m_form.entra(riga); });
+        invio.passo(casella, [this, riga, campo = campo] { vai(Borftec::invio(riga, campo)); });
+    }
+    auto* conto =
+        new CampoTesto(u"ds(%1)"_s.arg(riga), u"Descrizione del conto, riga %1"_s.arg(riga + 1), 40);
+    legami.testo(conto, [this, riga] { return m_form.descrizioneConto(riga); });
+    griglia->addWidget(conto, riga + 1, 3);
+}
+
+QWidget* VistaBorftec::creaConti() {
+    auto* riquadro = new QGroupBox(u"Piano dei conti"_s);
+    riquadro->setObjectName(u"Frame3"_s);
+    auto* colonna = new QVBoxLayout(riquadro);
+    m_cerca = new CampoTesto(u"ccerca"_s, u"Cerca un conto per nome"_s, 40);
+    m_cerca->setPlaceholderText(m_cerca->accessibleName());
+    connect(m_cerca, &QLineEdit::textEdited, this,
+            [this](const QString& testo) { legami.esegui([&] { m_form.cerca(testo); }); });
+    m_conti = new QListWidget;
+    m_conti->setObjectName(u"List1"_s);
+    m_conti->setAccessibleName(u"Piano dei conti"_s);
+    legami.altro([this] {
+        if (m_form.contoScelto() >= 0)
+            m_conti->setCurrentRow(m_form.contoScelto());
+    });
+    connect(m_conti, &QListWidget::itemClicked, this, [this] { prendiConto(); });
+    invio.passo(m_cerca, m_conti);
+    invio.passo(m_conti, [this] { prendiConto(); });
+    colonna->addWidget(m_cerca);
+    colonna->addWidget(m_conti);
+    return riquadro;
+}
+
+QWidget* VistaBorftec::creaTotali() {
+    auto* riquadro = new QGroupBox(u"Totali"_s);
+    auto* riga = new QHBoxLayout(riquadro);
+    const auto mostra = [&](int indice, const QString& testo, const std::function<double()>& leggi) {
+        auto* casella = new CampoTesto(u"Label1(%1)"_s.arg(indice), testo, 16);
+        casella->setAlignment(Qt::AlignRight);
+        legami.testo(casella, [this, leggi] { return m_form.importo(leggi()); });
+        riga->addWidget(didascalia(testo, casella));
+        riga->addWidget(casella);
+        riga->addSpacing(16);
+        return casella;
+    };
+    mostra(0, u"Totale dare"_s, [this] { return m_form.totaleDare(); });
+    mostra(1, u"Totale avere"_s, [this] { return m_form.totaleAvere(); });
+    auto* sbilancio = mostra(2, u"Sbilancio"_s, [this] { return m_form.sbilancio(); });
+    legami.altro([this, sbilancio] {
+        sbilancio->setStyleSheet(m_form.sbilancio() == 0.0 ? QString()
+                                                           : u"color: #C62828; font-weight: bold;"_s);
+    });
+    riga->addStretch();
+    return riquadro;
+}
+
+QWidget* VistaBorftec::creaComandi() {
+    auto* barra = new QWidget;
+    auto* layout = new QHBoxLayout(barra);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
+                             std::function<void()> azione) {
+        auto* bottone = new BottoneComando(u"bottone(%1)"_s.arg(indice), testo, icona, QKeySequence(tasto));
+        legami.comando(bottone, std::move(azione));
+        layout->addWidget(bottone);
+    };
+    comando(0, u"Esci senza registrare"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
+    comando(1, u"Registra"_s, u"salva"_s, u"F10"_s, [this] { m_form.salva(); });
+    layout->addSpacing(24);
+    comando(4, u"Inserisci riga"_s, u"inserisci"_s, u"Ctrl+Ins"_s, [this] { m_form.inserisciRiga(); });
+    comando(3, u"Elimina riga"_s, u"togli"_s, u"Ctrl+Del"_s, [this] { m_form.togliRiga(); });
+    layout->addStretch();
+    return barra;
+}
+
+void VistaBorftec::prendiConto() {
+    std::optional<Borftec::Posto> posto;
+    legami.esegui([&] { posto = m_form.prendiConto(m_conti->currentRow()); });
+    if (posto)
+        vai(*posto);
+}
+
+void VistaBorftec::vai(Borftec::Posto posto) {
+    vaiA(m_campi[static_cast<std::size_t>(posto.riga)][static_cast<std::size_t>(posto.campo)]);
+}
+
+void VistaBorftec::attiva() {
+    m_form.attiva();
+    m_cerca->clear();
+    m_conti->clear();
+    m_conti->addItems(m_form.conti());
+    legami.aggiorna();
+    vai({0, Campo::Mastro});
+}
+
+void VistaBorftec::lascia() {
+    m_form.lascia();
+}
+
+QString VistaBorftec::titolo() const {
+    return m_form.titolo();
+}
+
+} // namespace bor

@@ -1,0 +1,57 @@
+#include "posting/borftec.h"
+#include "support/azienda.h"
+#include "ui/gesti.h"
+#include "ui/vistaborftec.h"
+
+#include <QListWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+TEST(VistaMovimento, IlMovimentoSiCompletaDallaTastiera) {
+    const AziendaDiProva azienda;
+    ContestoDiProva prova(azienda);
+    for (const auto& [codice, nome] : {std::pair{u"10010001"_s, u"Clienti Italia"_s},
+                                       {u"40010001"_s, u"Ricavi merci"_s},
+                                       {u"20050001"_s, u"Iva su vendite"_s}}) {
+        Con con = vuoto<Con>();
+        con.codice.set(codice);
+        con.descrizione.set(nome);
+        prova.archivio.aggiungi(prova.archivio.con, Conta::Con, con);
+    }
+    const Documento documento;
+    Borftec form(prova.contesto, documento);
+    Movimento movimento;
+    movimento.data = u"16/03/2015"_s;
+    movimento.descrizione = u"Ft. 12 del 15/03/2015"_s;
+    movimento.righe[0] = {{u"10"_s, u"01"_s, u"0001"_s}, u"122"_s, {}};
+    movimento.righe[1] = {{u"40"_s, u"01"_s, u"0001"_s}, {}, u"100"_s};
+    form.prepara(movimento);
+    VistaBorftec vista(form);
+    mostra(vista);
+    EXPECT_EQ(vista.windowTitle(), u"Estremi movimento contabile"_s);
+    EXPECT_EQ(fuoco(vista), u"cn1(0)"_s);
+    EXPECT_EQ(testoDi(vista, u"ds(0)"_s), u"Clienti Italia"_s);
+    EXPECT_EQ(testoDi(vista, u"Label1(2)"_s), u"22,00"_s);
+
+    controllo(vista, u"cn1(2)"_s)->setFocus();
+    auto* cerca = controllo<QLineEdit>(vista, u"ccerca"_s);
+    cerca->setFocus();
+    scrivi(vista, u"iva"_s);
+    tasto(vista, Qt::Key_Return);
+    EXPECT_EQ(fuoco(vista), u"List1"_s);
+    tasto(vista, Qt::Key_Return);
+    EXPECT_EQ(fuoco(vista), u"dare(2)"_s);
+    tasto(vista, Qt::Key_Return);
+    scrivi(vista, u"22"_s);
+    EXPECT_EQ(testoDi(vista, u"Label1(2)"_s), QString());
+    foto(vista, u"movimento"_s);
+    tasto(vista, Qt::Key_F10);
+    EXPECT_EQ(prova.archivio.con.leggi(3).progressivoavere, 22);
+    EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borfte});
+}
+
+} // namespace
+} // namespace bor
