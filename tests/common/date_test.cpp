@@ -1,0 +1,51 @@
+// Dates on screen, on file, and as stamps.
+#include "common/date.h"
+
+#include <QDateTime>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+TEST(Date, ValidaSoloInFormaCompletaEConUnGiornoCheEsiste) {
+    EXPECT_EQ(dataValida(u" 29/02/2016 "), QDate(2016, 2, 29));
+    for (const QStringView t : {u"29/02/2015", u"1/2/2015", u"010215", u"31-12-2015", u"", u"31/12/2015x"})
+        EXPECT_FALSE(dataValida(t)) << qPrintable(t.toString());
+}
+
+TEST(Date, LeFormeBreviSiCompletano) {
+    EXPECT_EQ(completaData(u"311215"), u"31/12/2015"_s);
+    EXPECT_EQ(completaData(u"31121999"), u"31/12/1999"_s);
+    EXPECT_EQ(completaData(u"1/2/2015"), u"01/02/2015"_s);
+    EXPECT_EQ(completaData(u"010285"), u"01/02/1985"_s);
+    EXPECT_EQ(completaData(u"310215"), u"310215"_s);
+    EXPECT_EQ(completaData(u"domani"), u"domani"_s);
+}
+
+TEST(Date, LeDueFormeDelFileNonSiConfondono) {
+    EXPECT_EQ(dataDaAnnoMeseGiorno(u"20151231"), u"31/12/2015"_s);
+    EXPECT_EQ(dataDaGiornoMeseAnno(u"31122015"), u"31/12/2015"_s);
+    EXPECT_EQ(annoMeseGiorno(u"31/12/2015"), u"20151231"_s);
+    EXPECT_EQ(giornoMeseAnno(u"31/12/2015"), u"31122015"_s);
+    EXPECT_EQ(dataDaAnnoMeseGiorno(QString(8, QChar(0))) + dataDaGiornoMeseAnno(u"        "), QString());
+}
+
+TEST(Date, IlTimbroNonSiRipeteMai) {
+    EXPECT_EQ(contoGiorni(QDateTime(QDate(2015, 3, 15), QTime(12, 0))), 42078.5);
+    Timbro timbro;
+    const QDateTime adesso(QDate(2015, 3, 15), QTime(12, 0));
+    double ultimo = timbro.nuovo(adesso);
+    EXPECT_EQ(ultimo, 42078.5);
+    for (int i = 0; i < 1000; ++i) {
+        const double t = timbro.nuovo(adesso);
+        ASSERT_GT(t, ultimo);
+        ultimo = t;
+    }
+    EXPECT_NEAR(ultimo, 42078.5 + 1.0 / 86400, 1e-9);
+}
+
+} // namespace
+} // namespace bor
