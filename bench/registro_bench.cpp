@@ -1,0 +1,186 @@
+// The register of 32,000 documents: fill, filter, sort, reorder, and what the same bytes cost at the least.
+#include "register/borfte.h"
+#include "support/azienda.h"
+#include "ui/vistaborfte.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+using namespace bor;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int documenti = 32000;
+constexpr int clienti = 1000;
+
+/// A company of 32,000 documents and 1,000 customers, made once for all measurements.
+const AziendaDiProva& grande() {
+    static const AziendaDiProva azienda;
+    static const bool pronta = [] {
+        std::mt19937 caso(7);
+        ContestoDiProva prova(azienda);
+        Archivio& a = prova.archivio;
+        for (int n = 1; n <= clienti; ++n)
+            a.cli.scrivi(n, clienteDi(u"Cliente %1 Forniture Srl"_s.arg((n * 7919) % clienti)));
+        for (int n = 1; n <= documenti; ++n) {
+            CoppiaFte c = documentoDi(1 + static_cast<int>(caso() % clienti),
+                                      QString::number(caso() % documenti), n * 1.5, n * 0.33);
+            c.fte.datareg.set(
+                u"2015%1%2"_s.arg(1 + caso() % 12, 2, 10, u'0').arg(1 + caso() % 28, 2, 10, u'0'));
+            if (n % 10 == 0)
+                c.f2e.pdf.set(u"\\suprok\\pdf\\ftr.pdf");
+            if (n % 20 == 0)
+                c.f2e.fpa = n;
+            a.scrivi(n, c);
+        }
+        Tot tot = vuoto<Tot>();
+        tot.numero = documenti;
+        a.scriviTot(Conta::Fte, tot);
+        tot.numero = clienti;
+        a.scriviTot(Conta::Cli, tot);
+        return true;
+    }();
+    Q_UNUSED(pronta)
+    return azienda;
+}
+
+const AziendaDiProva& vuota() {
+    static const AziendaDiProva azienda;
+    return azienda;
+}
+
+void leggiTutto(const QString& percorso) {
+    QFile file(percorso);
+    file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    static QByteArray blocco(1 << 20, '\0');
+    while (file.read(blocco.data(), blocco.size()) > 0)
+        benchmark::DoNotOptimize(blocco.data());
+}
+
+void Pavimento_LetturaDeiTreFile(benchmark::State& stato) {
+    const AziendaDiProva& azienda = grande();
+    for (auto _ : stato) {
+        for (const QString& nome : {u"borlano.fte"_s, u"borlano.f2e"_s, u"borlano.cli"_s})
+            leggiTutto(azienda.percorso(nome));
+    }
+}
+
+void RiempimentoDellElenco(benchmark::State& stato) {
+    ContestoDiProva prova(grande());
+    Borfte form(prova.contesto, nullptr);
+    form.carica();
+    for (auto _ : stato)
+        form.cambiaFiltro(FiltroFatture::Tutte);
+}
+
+void FiltroSoloPa(benchmark::State& stato) {
+    ContestoDiProva prova(grande());
+    Borfte form(prova.contesto, nullptr);
+    form.carica();
+    for (auto _ : stato)
+        form.cambiaFiltro(FiltroFatture::SoloPa);
+}
+
+/// The texts of a column, sorted by the standard library alone.
+void Pavimento_Ordinamento(benchmark::State& stato) {
+    ContestoDiProva prova(grande());
+    Borfte form(prova.contesto, nullptr);
+    form.carica();
+    QStringList chiavi;
+    for (int r = 0; r < documenti; ++r)
+        chiavi.append(form.testo(r, static_cast<Colonna>(stato.range(0))));
+    for (auto _ : stato) {
+        QStringList copia = chiavi;
+        std::stable_sort(copia.begin(), copia.end());
+        benchmark::DoNotOptimize(copia);
+    }
+}
+
+void Ordinamento(benchmark::State& stato) {
+    ContestoDiProva prova(grande());
+    Borfte form(prova.contesto, nullptr);
+    form.carica();
+    const auto colonna = stato.range(0) == 9 ? 1 : static_cast<int>(stato.range(0));
+    for (auto _ : stato) {
+        stato.PauseTiming();
+        form.cambiaFiltro(FiltroFatture::Tutte);
+        stato.ResumeTiming();
+        form.ordina(colonna);
+    }
+}
+
+void Pavimento_CopiaDeiDueFile(benchmark::State& stato) {
+    const AziendaDiProva& azienda = grande();
+    for (auto _ : stato) {
+        for (const QString& nome : {u"borlano.fte"_s, u"borlano.f2e"_s}) {
+            QFile::remove(azienda.percorso(u"copia"_s));
+            QFile::copy(azienda.percorso(nome), azienda.percorso(u"copia"_s));
+        }
+    }
+    QFile::remove(azienda.percorso(u"copia"_s));
+}
+
+void RiordinoPerData(benchmark::State& stato) {
+    Disco disco;
+    for (auto _ : stato) {
+        stato.PauseTiming();
+        auto prova = std::make_unique<ContestoDiProva>(grande());
+        Tot contatore = prova->archivio.leggiTot(Conta::Fte);
+        stato.ResumeTiming();
+        const EsitoRiordino esito = riordina(prova->archivio, TipoRiordino::PerData, contatore, [](int) {});
+        stato.PauseTiming();
+        if (esito.fase != FaseRiordino::Riuscito)
+            stato.SkipWithError("the reorder failed");
+        prova.reset();
+        stato.ResumeTiming();
+    }
+}
+
+/// From the opened settings to the list painted in a window.
+void avvio(benchmark::State& stato, const AziendaDiProva& azienda) {
+    for (auto _ : stato) {
+        ContestoDiProva prova(azienda);
+        Borfte form(prova.contesto, nullptr);
+        form.carica();
+        VistaBorfte vista(form);
+        vista.resize(1280, 720);
+        vista.show();
+        vista.attiva();
+        benchmark::DoNotOptimize(vista.grab());
+    }
+}
+
+void Pavimento_AvvioSenzaDocumenti(benchmark::State& stato) {
+    avvio(stato, vuota());
+}
+
+void AvvioFinoAllElenco(benchmark::State& stato) {
+    avvio(stato, grande());
+}
+
+BENCHMARK(Pavimento_LetturaDeiTreFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(RiempimentoDellElenco)->Unit(benchmark::kMillisecond);
+BENCHMARK(FiltroSoloPa)->Unit(benchmark::kMillisecond);
+BENCHMARK(Pavimento_Ordinamento)->Arg(0)->Arg(4)->Arg(9)->Unit(benchmark::kMillisecond);
+BENCHMARK(Ordinamento)->Arg(0)->Arg(4)->Arg(9)->Unit(benchmark::kMillisecond);
+BENCHMARK(Pavimento_AvvioSenzaDocumenti)->Unit(benchmark::kMillisecond);
+BENCHMARK(AvvioFinoAllElenco)->Unit(benchmark::kMillisecond);
+BENCHMARK(Pavimento_CopiaDeiDueFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(RiordinoPerData)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication applicazione(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
