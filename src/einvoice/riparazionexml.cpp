@@ -1,0 +1,161 @@
+#include "einvoice/riparazionexml.h"
+
+#include "common/testo.h"
+
+#include <QRegularExpression>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+QChar carattereDi(Segno segno) {
+    return QChar(static_cast<char16_t>(segno));
+}
+
+bool dichiaraByteSingolo(const QByteArray& contenuto) {
+    static const QRegularExpression dichiarazione(
+        u"^<\\?xml[^>]*encoding=[\"'](windows-1252|iso-8859-1|iso-8859-15)[\"']"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return dichiarazione.match(QString::fromLatin1(contenuto.first(qMin(contenuto.size(), qsizetype(200)))))
+        .hasMatch();
+}
+
+/// Length in bytes of the UTF-8 character at `posizione`; 0 when there is none.
+qsizetype lunghezzaUtf8(QByteArrayView contenuto, qsizetype posizione) {
+    const auto primo = static_cast<unsigned char>(contenuto[posizione]);
+    const qsizetype lunghezza = primo < 0x80 ? 1 : primo < 0xE0 ? 2 : primo < 0xF0 ? 3 : 4;
+    const bool intero = posizione + lunghezza <= contenuto.size();
+    return intero && contenuto.sliced(posizione, lunghezza).isValidUtf8() ? lunghezza : 0;
+}
+
+QString decodifica(const QByteArray& contenuto) {
+    if (dichiaraByteSingolo(contenuto))
+        return daCp1252(contenuto);
+    if (contenuto.isValidUtf8())
+        return QString::fromUtf8(contenuto);
+    QString testo;
+    testo.reserve(contenuto.size());
+    const QByteArrayView byte(contenuto);
+    for (qsizetype i = 0; i < byte.size();) {
+        if (const qsizetype lunghezza = lunghezzaUtf8(byte, i); lunghezza > 0) {
+            testo += QUtf8StringView(byte.sliced(i, lunghezza)).toString();
+            i += lunghezza;
+        } else {
+            testo += carattereDi(Segno::Codifica) + daCp1252(byte.sliced(i, 1));
+            ++i;
+        }
+    }
+    return testo;
+}
+
+bool vietatoInXml(QChar c) {
+    return (c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c == QChar(0xFFFE) || c == QChar(0xFFFF);
+}
+
+/// Copies the text once from front to back, repairing on the way.
+class Riparatore {
+public:
+    explicit Riparatore(QStringView testo) : m_testo(testo) { m_uscita.reserve(testo.size()); }
+
+    QString ripara() {
+        while (m_posizione < m_testo.size()) {
+            if (!copiaTratto(u"<!--", u"-->") && !copiaTratto(u"<![CDATA[", u"]]>") &&
+                !copiaTratto(u"<?", u"?>"))
+                copiaCarattere();
+        }
+        return m_uscita;
+    }
+
+private:
+    /// Comments and the like hold no markup: over they go as they are, but for what no XML may hold.
+    bool copiaTratto(QStringView inizio, QStringView fine) {
+        if (m_dentroTag || !resto().startsWith(inizio))
+            return false;
+        const qsizetype trovata = m_testo.indexOf(fine, m_posizione + inizio.size());
+        const qsizetype dopo = trovata < 0 ? m_testo.size() : trovata + fine.size();
+        for (; m_posizione < dopo; ++m_posizione)
+            m_uscita += vietatoInXml(m_testo[m_posizione]) ? QChar(u' ') : m_testo[m_posizione];
+        return true;
+    }
+
+    void copiaCarattere() {
+        const QChar c = m_testo[m_posizione];
+        if (vietatoInXml(c))
+            sostituisci(Segno::Controllo, u" ");
+        else if (c == u'&' && !iniziaRiferimento())
+            sostituisci(Segno::ECommerciale, u"&#38;");
+        else if (c == u'<' && !iniziaTag())
+            sostituisci(Segno::Minore, u"&#60;");
+        else if (!m_dentroTag || c != carattereDi(Segno::Codifica))
+            m_uscita += c;
+        if (c == u'<')
+            m_dentroTag = iniziaTag();
+        else if (c == u'>')
+            m_dentroTag = false;
+        ++m_posizione;
+    }
+
+    void sostituisci(Segno segno, QStringView testo) {
+        if (!m_dentroTag)
+            m_uscita += carattereDi(segno);
+        m_uscita += testo;
+    }
+
+    bool iniziaRiferimento() const {
+        static const QRegularExpression riferimento(
+            u"^&(amp|lt|gt|quot|apos|#[0-9]{1,7}|#x[0-9A-Fa-f]{1,6});"_s);
+        return riferimento.match(pezzo(resto(), 1, 12)).hasMatch();
+    }
+
+    bool iniziaTag() const {
+        if (m_posizione + 1 >= m_testo.size())
+            return false;
+        const QChar seguente = m_testo[m_posizione + 1];
+        return seguente.isLetter() || seguente == u'_' || seguente == u'/' || seguente == u'!' ||
+               seguente == u'?';
+    }
+
+    QStringView resto() const { return m_testo.sliced(m_posizione); }
+
+    QStringView m_testo;
+    qsizetype m_posizione = 0;
+    bool m_dentroTag = false;
+    QString m_uscita;
+};
+
+} // namespace
+
+QString riparaXml(const QByteArray& contenuto) {
+    const QString decodificato = decodifica(contenuto);
+    QString testo = Riparatore(decodificato).ripara();
+    // After its first error the parser drops references by name, but not those by number.
+    for (const auto& [nome, numero] : {std::pair(u"&amp;"_s, u"&#38;"_s), std::pair(u"&lt;"_s, u"&#60;"_s),
+                                       std::pair(u"&gt;"_s, u"&#62;"_s), std::pair(u"&quot;"_s, u"&#34;"_s),
+                                       std::pair(u"&apos;"_s, u"&#39;"_s)})
+        testo.replace(nome, numero);
+    return testo;
+}
+
+Rilievo rilievoDelSegno(Segno segno) {
+    switch (segno) {
+    case Segno::Codifica:
+        return {.motivo =
+                    u"Il file si dichiara UTF-8, ma qui c'è una lettera scritta in un'altra codifica."_s,
+                .rimedio = u"Togliere gli accenti e i segni particolari (\"a'\" al posto di \"à\")"_s};
+    case Segno::ECommerciale:
+        return {.motivo = u"Il segno \"&\" da solo non può stare in un file XML."_s,
+                .rimedio = u"Scrivere \"e\" al posto di \"&\""_s};
+    case Segno::Minore:
+        return {.motivo = u"Il segno \"<\" non può stare in un testo di un file XML."_s,
+                .rimedio = u"Togliere il segno \"<\""_s};
+    case Segno::Controllo:
+        break;
+    }
+    return {.motivo = u"Il testo contiene caratteri non stampabili."_s, .rimedio = u"Riscrivere il testo"_s};
+}
+
+} // namespace bor
