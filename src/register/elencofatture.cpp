@@ -71,10 +71,10 @@ void ElencoFatture::leggiNomi(const Archivio& archivio) {
     int ultimo = 0;
     for (const Riga& riga : m_righe)
         ultimo = std::max<int>(ultimo, riga.cliente);
-    m_nomi.assign(static_cast<std::size_t>(ultimo) + 1, vuoto<Text<40>>());
+    m_nomi.assign(static_cast<std::size_t>(ultimo) + 1, QString());
     const auto suFile = static_cast<int>(archivio.cli.lunghezza() / qint64{sizeof(Cli)} + 1);
     archivio.cli.scorri(1, std::min(ultimo, suFile), [this](int n, const Cli& cli) {
-        m_nomi[static_cast<std::size_t>(n)] = cli.sede.ragione1;
+        m_nomi[static_cast<std::size_t>(n)] = puliscitesto(cli.sede.ragione1.text());
         return true;
     });
 }
@@ -82,7 +82,7 @@ void ElencoFatture::leggiNomi(const Archivio& archivio) {
 QString ElencoFatture::nomeCliente(const Riga& riga) const {
     if (riga.annullata)
         return QStringLiteral("Fattura eliminata");
-    return riga.cliente > 0 ? puliscitesto(m_nomi[static_cast<std::size_t>(riga.cliente)].text()) : QString();
+    return riga.cliente > 0 ? m_nomi[static_cast<std::size_t>(riga.cliente)] : QString();
 }
 
 void ElencoFatture::ordina(Colonna colonna) {

@@ -71,7 +71,7 @@ private:
 
     std::vector<Riga> m_righe;
     std::vector<Text<60>> m_pdf;
-    std::vector<Text<40>> m_nomi; ///< first name line of the customers, by record number
+    std::vector<QString> m_nomi; ///< first name line of the customers, by record number
     bool m_ultimaPdf = false;
 };
 

@@ -11,10 +11,13 @@ constexpr double codiceDiProva = 7;
 
 } // namespace
 
-AziendaDiProva::AziendaDiProva() : m_percorsi(m_cartella.path(), m_cartella.path() + QStringLiteral("/c")) {
+AziendaDiProva::AziendaDiProva()
+    : m_cartella(std::in_place), m_percorsi(m_cartella->path(), m_cartella->path() + QStringLiteral("/c")) {
     QDir().mkpath(percorso({}));
-    QDir().mkpath(m_cartella.path() + QStringLiteral("/c"));
+    QDir().mkpath(m_cartella->path() + QStringLiteral("/c"));
 }
+
+AziendaDiProva::AziendaDiProva(const QString& radice) : m_percorsi(radice, radice + QStringLiteral("/c")) {}
 
 QString AziendaDiProva::percorso(const QString& nome) const {
     return radice() + QStringLiteral("boraz0.007/") + nome;

@@ -7,16 +7,20 @@
 
 #include <QTemporaryDir>
 
+#include <optional>
+
 namespace bor {
 
 /// A drive with the empty folders of company 7.
 class AziendaDiProva {
 public:
     AziendaDiProva();
+    /// The company 7 that already lies on this drive; nothing is removed at the end.
+    explicit AziendaDiProva(const QString& radice);
 
     /// Path of this machine in the company's folder, e.g. `percorso("borlano.fte")`.
     QString percorso(const QString& nome) const;
-    QString radice() const { return m_cartella.path() + QStringLiteral("/suprok/suprok/"); }
+    QString radice() const { return m_percorsi.radiceCorrente() + QStringLiteral("/suprok/suprok/"); }
     QByteArray leggi(const QString& nome) const;
     void scrivi(const QString& nome, const QByteArray& bytes) const;
 
@@ -29,7 +33,7 @@ public:
     const Percorsi& percorsi() const { return m_percorsi; }
 
 private:
-    QTemporaryDir m_cartella;
+    std::optional<QTemporaryDir> m_cartella;
     Percorsi m_percorsi;
     Disco m_disco;
 };
