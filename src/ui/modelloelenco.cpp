@@ -1,8 +1,7 @@
 #include "ui/modelloelenco.h"
 
 #include "register/borfte.h"
-
-#include <QColor>
+#include "ui/griglie.h"
 
 #include <array>
 
@@ -30,11 +29,6 @@ constexpr std::array<Intestazione, colonneElenco> intestazioni = {{
 
 const Intestazione& intestazione(int colonna) {
     return intestazioni[static_cast<std::size_t>(colonna)];
-}
-
-/// Colours of the archive are 0x00BBGGRR.
-QColor coloreQt(int bgr) {
-    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
 }
 
 } // namespace
@@ -68,7 +62,7 @@ QVariant ModelloElenco::data(const QModelIndex& indice, int ruolo) const {
         return QVariant(intestazione(colonna).allineamento | Qt::AlignVCenter);
     case Qt::BackgroundRole:
         if (const auto colore = m_form.colore(riga, colonna))
-            return coloreQt(*colore);
+            return coloreArchivio(*colore);
         return {};
     default:
         return {};

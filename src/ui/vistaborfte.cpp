@@ -3,6 +3,7 @@
 #include "register/borfte.h"
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
+#include "ui/griglie.h"
 #include "ui/modelloelenco.h"
 
 #include <QButtonGroup>
@@ -98,25 +99,9 @@ QWidget* VistaBorfte::creaElenco() {
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Registro delle fatture emesse"_s);
     m_elenco->setModel(m_modello);
-    m_elenco->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_elenco->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_elenco->setTabKeyNavigation(false);
-    m_elenco->setWordWrap(false);
-    m_elenco->verticalHeader()->hide();
-    m_elenco->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_elenco->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
-    m_elenco->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    auto* testata = m_elenco->horizontalHeader();
-    constexpr double ingrandimento = 1.2;
-    for (int i = 0; i < std::ssize(larghezze); ++i)
-        testata->resizeSection(i, static_cast<int>(larghezze[static_cast<std::size_t>(i)] * ingrandimento *
-                                                   logicalDpiX() / 1440));
-    testata->setSectionResizeMode(static_cast<int>(Colonna::Pdf), QHeaderView::Stretch);
-    testata->setHighlightSections(false);
+    preparaElenco(m_elenco, larghezze, static_cast<int>(Colonna::Pdf));
     m_elenco->hideColumn(static_cast<int>(Colonna::NomePdf));
     m_elenco->hideColumn(static_cast<int>(Colonna::Chiave));
-    m_elenco->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_elenco, &QTableView::doubleClicked, this, [this] { apri(); });
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) { m_form.cellaCorrente(cella.row(), cella.column()); });

@@ -1,0 +1,67 @@
+// The customer and the head of a document on screen.
+#pragma once
+
+#include "document/borftem.h"
+#include "ui/vista.h"
+
+#include <array>
+#include <vector>
+
+class QComboBox;
+class QGridLayout;
+class QGroupBox;
+class QHBoxLayout;
+class QLineEdit;
+class QRadioButton;
+class QScrollBar;
+
+namespace bor {
+
+class VistaBorftem : public Vista {
+public:
+    explicit VistaBorftem(Borftem& form, QWidget* parent = nullptr);
+
+    void attiva() override;
+    void lascia() override;
+    QString titolo() const override;
+
+protected:
+    /// In `nome` the keys of a list move the customer bar.
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    /// Fields in the order in which Enter walks them.
+    using Percorso = std::vector<QWidget*>;
+
+    QWidget* creaSede(Percorso& percorso);
+    QWidget* creaDatiCommerciali(Percorso& percorso);
+    QWidget* creaContabili();
+    QWidget* creaSpedizione();
+    QWidget* creaPratica();
+    QWidget* creaRicerca();
+    QWidget* creaComandi();
+    void creaCursore(QHBoxLayout* barra);
+    void creaMezzo(QGridLayout* griglia, int numero, Percorso& percorso);
+    void collegaPercorsi(const Percorso& cliente);
+
+    /// A box for one text of the head.
+    QLineEdit* campo(Percorso& percorso, const QString& nome, const QString& didascalia, int caratteri,
+                     QString& dove);
+    QComboBox* lista(Percorso& percorso, const QString& nome, const QString& didascalia,
+                     const QStringList& voci, int& dove);
+    QComboBox* lista(Percorso& percorso, const QString& nome, const QString& didascalia,
+                     const QStringList& voci, std::function<int()> leggi, std::function<void(int)> scrivi);
+    /// One account: three boxes from `Text2(indice)` on.
+    void conto(QGridLayout* griglia, int numero, Percorso& percorso, int indice, const QString& didascalia,
+               ContoTesti& dove);
+    QGroupBox* riquadro(const QString& nome, const QString& titolo, RiquadroTestata quale);
+    Percorso& percorso(RiquadroTestata quale) { return m_percorsi[static_cast<std::size_t>(quale)]; }
+
+    Borftem& m_form;
+    std::array<Percorso, 3> m_percorsi; ///< by `RiquadroTestata`
+    std::array<QRadioButton*, 3> m_mezzo{};
+    QLineEdit* m_nome = nullptr;
+    QScrollBar* m_cursore = nullptr;
+};
+
+} // namespace bor

@@ -1,0 +1,110 @@
+#include "ui/vistaborsel.h"
+
+#include "register/borsel.h"
+#include "ui/barraintestazioni.h"
+#include "ui/campi.h"
+#include "ui/griglie.h"
+#include "ui/modelloclienti.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTableView>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+/// Widths of the columns 0 to 3 in 1/1440 inch; the last one takes the rest.
+constexpr std::array<int, 4> larghezze = {3700, 3000, 3000, 3000};
+
+} // namespace
+
+VistaBorsel::VistaBorsel(Borsel& form, QWidget* parent)
+    : Vista(parent), m_form(form), m_modello(new ModelloClienti(form, this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(4);
+    QWidget* ricerca = creaRicerca();
+    QWidget* elenco = creaElenco();
+    layout->addWidget(ricerca);
+    layout->addWidget(elenco, 1);
+    auto* indice =
+        new BottoneComando(u"indice"_s, u"Torna senza scegliere"_s, u"indietro"_s, QKeySequence(u"Ctrl+Q"_s));
+    legami.comando(indice, [this] { m_form.esci(); });
+    layout->addWidget(indice);
+    legami.altro([this] { aggiornaElenco(); });
+}
+
+QWidget* VistaBorsel::creaRicerca() {
+    auto* barra = new QWidget;
+    auto* layout = new QHBoxLayout(barra);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const QString testo = u"Nominativo (o parte di esso):"_s;
+    m_selnome = new CampoTesto(u"selnome"_s, testo);
+    legami.testo(
+        m_selnome, [this] { return m_form.nome(); },
+        [this](const QString& nome) { m_form.cambiaNome(nome); });
+    invio.passo(m_selnome, [this] {
+        legami.esegui([this] { m_form.caricaclienti(); });
+        vaiA(m_elenco);
+    });
+    layout->addWidget(didascalia(testo, m_selnome));
+    layout->addWidget(m_selnome);
+    layout->addStretch();
+    return barra;
+}
+
+QWidget* VistaBorsel::creaElenco() {
+    m_elenco = new QTableView;
+    m_elenco->setObjectName(u"elenco"_s);
+    m_elenco->setAccessibleName(u"Clienti"_s);
+    m_elenco->setModel(m_modello);
+    preparaElenco(m_elenco, larghezze, static_cast<int>(ColonnaCliente::PartitaIva));
+    connect(m_elenco, &QTableView::doubleClicked, this, [this] { scegli(); });
+    invio.passo(m_elenco, [this] { scegli(); });
+
+    std::vector<BarraIntestazioni::Comando> comandi;
+    for (int i = 0; i < colonneCliente; ++i)
+        comandi.push_back({i, u"Riordina"_s, QKeySequence(u"Ctrl+%1"_s.arg(i + 1))});
+    auto* riquadro = new QWidget;
+    auto* layout = new QVBoxLayout(riquadro);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(new BarraIntestazioni(m_elenco, comandi, [this](int i) {
+        legami.esegui([&] { m_form.ordina(static_cast<ColonnaCliente>(i)); });
+    }));
+    layout->addWidget(m_elenco);
+    return riquadro;
+}
+
+void VistaBorsel::attiva() {
+    m_form.attiva();
+    legami.aggiorna();
+    vaiA(m_elenco);
+}
+
+void VistaBorsel::lascia() {
+    m_form.esci();
+}
+
+QString VistaBorsel::titolo() const {
+    return u"Selezione cliente"_s;
+}
+
+void VistaBorsel::aggiornaElenco() {
+    if (m_versione == m_form.versione())
+        return;
+    m_versione = m_form.versione();
+    m_modello->rinnova();
+    m_elenco->setCurrentIndex(m_modello->index(0, 0));
+    m_elenco->scrollToTop();
+}
+
+void VistaBorsel::scegli() {
+    legami.esegui([this] { m_form.scegli(m_elenco->currentIndex().row()); });
+}
+
+} // namespace bor

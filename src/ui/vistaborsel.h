@@ -1,0 +1,35 @@
+// The customer picker on screen.
+#pragma once
+
+#include "ui/vista.h"
+
+class QLineEdit;
+class QTableView;
+
+namespace bor {
+
+class Borsel;
+class ModelloClienti;
+
+class VistaBorsel : public Vista {
+public:
+    explicit VistaBorsel(Borsel& form, QWidget* parent = nullptr);
+
+    void attiva() override;
+    void lascia() override;
+    QString titolo() const override;
+
+private:
+    QWidget* creaRicerca();
+    QWidget* creaElenco();
+    void aggiornaElenco();
+    void scegli();
+
+    Borsel& m_form;
+    ModelloClienti* m_modello;
+    QLineEdit* m_selnome = nullptr;
+    QTableView* m_elenco = nullptr;
+    int m_versione = -1;
+};
+
+} // namespace bor
