@@ -1,0 +1,177 @@
+#include "borcrea/creaazienda.h"
+
+#include "borcrea/documenti.h"
+#include "borcrea/foglio.h"
+#include "common/numeri.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace bor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::size_t clientiPerMisure = 1000;
+
+/// Ports for a run without anybody to talk to: what is worked out here asks nothing.
+class SenzaOperatore : public Operatore {
+public:
+    void messaggio(const QString&, const QString&, Icona) override {}
+    bool chiedi(const QString&, const QString&, Icona) override { return false; }
+    void attesa(bool) override {}
+    void lasciaEventi() override {}
+    QString scegliFile(const QString&, const QString&) override { return {}; }
+};
+
+class SenzaSistema : public Sistema {
+public:
+    int apri(const QString&) override { return 2; }
+    bool avvia(const QString&, const QStringList&) override { return false; }
+};
+
+class SenzaSchermi : public Navigatore {
+public:
+    void mostra(Schermo) override {}
+    void termina() override {}
+};
+
+/// A fixed day, so that the same texts make the same bytes on any day.
+class GiornoFermo : public Orologio {
+public:
+    QDateTime adesso() const override { return {QDate(2015, 12, 31), QTime(12, 0)}; }
+};
+
+/// The making of one company, in a drive of its own that becomes the real one at the end.
+class Cantiere {
+public:
+    Cantiere(const NuovaAzienda& richiesta, const QString& unitaProvvisoria, Problemi& problemi)
+        : m_richiesta(richiesta), m_problemi(problemi), m_percorsi(unitaProvvisoria, QString()),
+          m_archivio(m_percorsi, m_disco, richiesta.codice) {}
+
+    void costruisci();
+
+private:
+    void prendiTesto(const QString& nome, const QString& dove, bool necessario);
+    void scriviServizi();
+    bool scriviArchivio();
+
+    const NuovaAzienda& m_richiesta;
+    Problemi& m_problemi;
+    Percorsi m_percorsi;
+    Disco m_disco;
+    Archivio m_archivio;
+};
+
+void Cantiere::prendiTesto(const QString& nome, const QString& dove, bool necessario) {
+    const QString percorso = m_richiesta.sorgente + u'/' + nome;
+    if (!necessario && !QFile::exists(percorso))
+        return;
+    const QStringList linee = leggiLinee(percorso, nome, m_problemi);
+    if (!m_disco.scriviFile(m_archivio.reale(dove), inCp1252(linee.join(u"\r\n"_s) + u"\r\n"_s)))
+        m_problemi.append({nome, 0, u"non si può scrivere nell'unità."_s});
+}
+
+void Cantiere::scriviServizi() {
+    constexpr qsizetype massimo = 100;
+    const Foglio foglio(m_richiesta.sorgente, u"servizi.csv"_s,
+                        u"descrizione anticipazioni spese onorari"_s.split(u' '), m_problemi);
+    QStringList linee;
+    for (const RigaFoglio& riga : foglio.righe()) {
+        linee << riga.obbligatorio(u"descrizione", 50) << testoDecimale(riga.numero(u"anticipazioni"))
+              << testoDecimale(riga.numero(u"spese")) << testoDecimale(riga.numero(u"onorari")) << QString();
+    }
+    if (foglio.righe().size() > massimo)
+        foglio.righe()[massimo].problema(u"i servizi possono essere al massimo 100."_s);
+    linee.resize(massimo * 5);
+    if (!m_disco.scriviFile(m_archivio.reale(m_archivio.borlano(u"tpr")),
+                            inCp1252(linee.join(u"\r\n"_s) + u"\r\n"_s)))
+        m_problemi.append({u"servizi.csv"_s, 0, u"non si può scrivere nell'unità."_s});
+}
+
+/// Copies of the customers up to the number that a measurement wants.
+void moltiplica(std::vector<Cli>& clienti) {
+    const std::size_t originali = clienti.size();
+    for (std::size_t i = originali; originali > 0 && i < clientiPerMisure; ++i) {
+        Cli copia = clienti[i % originali];
+        copia.sede.ragione1.set(copia.sede.ragione1.trimmed().left(35) + u' ' +
+                                QString::number(i / originali + 1));
+        clienti.push_back(copia);
+    }
+}
+
+bool Cantiere::scriviArchivio() {
+    Anagrafiche anagrafiche = leggiAnagrafiche(m_richiesta.sorgente, m_problemi);
+    if (m_richiesta.documenti > 0)
+        moltiplica(anagrafiche.clienti);
+    m_archivio.apri();
+    if (!scriviAnagrafiche(m_archivio, anagrafiche))
+        return false;
+    SenzaOperatore operatore;
+    SenzaSistema sistema;
+    SenzaSchermi schermi;
+    GiornoFermo orologio;
+    Timbro timbro;
+    Sessione sessione;
+    sessione.codiceazienda = m_richiesta.codice;
+    Impostazioni impostazioni = caricaimpostazioni(m_archivio, sessione);
+    const Tabelle tabelle = leggiTabelle(m_archivio);
+    const Contesto contesto{sessione, m_archivio, impostazioni, tabelle, operatore,
+                            orologio, sistema,    schermi,      timbro};
+    auto documenti = leggiDocumenti(m_richiesta.sorgente, anagrafiche, contesto, m_problemi);
+    // What is wrong is told without writing lines files that nobody will see.
+    if (!m_problemi.isEmpty())
+        return true;
+    return scriviDocumenti(m_archivio, documenti) && ripetiDocumenti(m_archivio, m_richiesta.documenti);
+}
+
+void Cantiere::costruisci() {
+    QDir().mkpath(m_archivio.reale(m_archivio.file(u"")));
+    prendiTesto(u"borlano.int"_s, m_archivio.borlano(u"int"), true);
+    prendiTesto(u"borlano.tab"_s, m_archivio.borlano(u"tab"), true);
+    prendiTesto(u"borlano.trb"_s, m_archivio.borlano(u"trb"), false);
+    prendiTesto(u"borlano.eur"_s, radiceSuite.toString() + u"borlano.eur"_s, false);
+    prendiTesto(u"borlano.tbl"_s, radiceSuite.toString() + u"borlano.tbl"_s, false);
+    scriviServizi();
+    if (!scriviArchivio())
+        m_problemi.append({m_richiesta.unita, 0, u"l'archivio non si può scrivere."_s});
+    m_archivio.chiudi();
+}
+
+/// Moves what was made to the real drive; the company's folder last, since it makes the company exist.
+bool consegna(const Percorsi& da, const Percorsi& a, int codice) {
+    QDir().mkpath(a.reale(radiceSuite).value_or(QString()));
+    for (const QString& nome : {u"borlano.eur"_s, u"borlano.tbl"_s}) {
+        const QString meta = a.reale(radiceSuite.toString() + nome).value_or(QString());
+        const QString file = da.reale(radiceSuite.toString() + nome).value_or(QString());
+        if (!QFile::exists(meta) && QFile::exists(file) && !QFile::rename(file, meta))
+            return false;
+    }
+    const QString cartella = cartellaAzienda(codice);
+    QDir().mkpath(a.reale(u"\\suprok\\pdf").value_or(QString()));
+    return QDir().rename(da.reale(cartella).value_or(QString()), a.reale(cartella).value_or(QString()));
+}
+
+} // namespace
+
+Problemi creaAzienda(const NuovaAzienda& richiesta) {
+    Problemi problemi;
+    if (!QDir(richiesta.sorgente).exists())
+        return {{richiesta.sorgente, 0, u"la cartella dei testi non esiste."_s}};
+    const Percorsi unita(richiesta.unita, QString());
+    const QString cartella = unita.reale(cartellaAzienda(richiesta.codice)).value_or(QString());
+    if (QFileInfo::exists(cartella))
+        return {{cartella, 0, u"l'azienda %1 esiste già, non viene toccata."_s.arg(richiesta.codice)}};
+    if (!QDir().mkpath(richiesta.unita))
+        return {{richiesta.unita, 0, u"la cartella non si può creare."_s}};
+    const QTemporaryDir provvisoria(richiesta.unita + u"/borcrea-XXXXXX"_s);
+    if (!provvisoria.isValid())
+        return {{richiesta.unita, 0, u"nella cartella non si può scrivere."_s}};
+    Cantiere(richiesta, provvisoria.path(), problemi).costruisci();
+    if (problemi.isEmpty() && !consegna(Percorsi(provvisoria.path(), QString()), unita, richiesta.codice))
+        problemi.append({cartella, 0, u"la cartella dell'azienda non si può creare."_s});
+    return problemi;
+}
+
+} // namespace bor
