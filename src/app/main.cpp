@@ -3,6 +3,8 @@
 #include "ui/aspetto.h"
 #include "ui/finestra.h"
 #include "ui/vistaborfte.h"
+#include "ui/vistaborftem.h"
+#include "ui/vistaborsel.h"
 
 #include <QApplication>
 
@@ -21,6 +23,8 @@ int main(int argc, char* argv[]) {
     if (!modulo)
         return 0;
     finestra.aggiungi(Schermo::Borfte, new VistaBorfte(modulo->borfte()));
+    finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo->borftem()));
+    finestra.aggiungi(Schermo::Borsel, new VistaBorsel(modulo->borsel()));
     finestra.show();
     finestra.mostra(Schermo::Borfte);
     return QApplication::exec();

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "document/borftem.h"
 #include "document/documento.h"
 #include "register/borfte.h"
+#include "register/borsel.h"
 
 #include <memory>
 
@@ -25,6 +27,8 @@ public:
 
     Contesto& contesto() { return m_contesto; }
     Borfte& borfte() { return m_borfte; }
+    Borftem& borftem() { return m_borftem; }
+    Borsel& borsel() { return m_borsel; }
     Documento& documento() { return m_documento; }
 
 private:
@@ -40,6 +44,8 @@ private:
     Contesto m_contesto;
     Documento m_documento;
     Borfte m_borfte;
+    Borftem m_borftem;
+    Borsel m_borsel;
 };
 
 } // namespace bor
