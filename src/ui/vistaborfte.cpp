@@ -3,8 +3,7 @@
 #include "register/borfte.h"
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
-#include "ui/griglie.h"
-#include "ui/modelloelenco.h"
+#include "ui/griglia.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -25,8 +24,19 @@ namespace bor {
 
 namespace {
 
-/// Widths of the columns 0 to 6 in 1/1440 inch; column 7 takes the rest, 8 and 9 are out of sight.
-constexpr std::array<int, 7> larghezze = {1000, 1000, 1000, 1000, 7230, 1300, 800};
+/// Shown in the order of `Colonna`.
+constexpr std::array<ColonnaGriglia, colonneElenco> colonne = {{
+    {u"Registr.", 1000, Qt::AlignRight},
+    {u"Data", 1000},
+    {u"Fattura", 1000},
+    {u"Data", 1000},
+    {u"Cliente", 7230},
+    {u"Importo", 1300, Qt::AlignRight},
+    {u"PA", 800, Qt::AlignHCenter},
+    {u"PDF", ColonnaGriglia::elastica, Qt::AlignHCenter},
+    {},
+    {},
+}};
 
 /// A group of options, one of which is chosen; the buttons are named `nome(0)` and so on.
 QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList& didascalie, Legami& legami,
@@ -51,7 +61,13 @@ QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList
 } // namespace
 
 VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
-    : Vista(parent), m_form(form), m_modello(new ModelloElenco(form, this)) {
+    : Vista(parent), m_form(form),
+      m_modello(new ModelloGriglia(
+          colonne,
+          {[&form] { return form.righeGriglia(); },
+           [&form](int riga, int colonna) { return form.testo(riga, static_cast<Colonna>(colonna)); },
+           [&form](int riga, int colonna) { return form.colore(riga, colonna); }},
+          this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
     QWidget* opzioniVista = creaOpzioni();
@@ -99,9 +115,7 @@ QWidget* VistaBorfte::creaElenco() {
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Registro delle fatture emesse"_s);
     m_elenco->setModel(m_modello);
-    preparaElenco(m_elenco, larghezze, static_cast<int>(Colonna::Pdf));
-    m_elenco->hideColumn(static_cast<int>(Colonna::NomePdf));
-    m_elenco->hideColumn(static_cast<int>(Colonna::Chiave));
+    preparaElenco(m_elenco, colonne);
     connect(m_elenco, &QTableView::doubleClicked, this, [this] { apri(); });
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) { m_form.cellaCorrente(cella.row(), cella.column()); });

@@ -9,7 +9,7 @@ class QTableView;
 namespace bor {
 
 class Borfte;
-class ModelloElenco;
+class ModelloGriglia;
 
 class VistaBorfte : public Vista {
 public:
@@ -27,7 +27,7 @@ private:
     void apri();
 
     Borfte& m_form;
-    ModelloElenco* m_modello;
+    ModelloGriglia* m_modello;
     QTableView* m_elenco = nullptr;
     QProgressBar* m_barra = nullptr;
     int m_versione = -1;

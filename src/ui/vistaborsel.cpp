@@ -3,8 +3,7 @@
 #include "register/borsel.h"
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
-#include "ui/griglie.h"
-#include "ui/modelloclienti.h"
+#include "ui/griglia.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,13 +17,25 @@ namespace bor {
 
 namespace {
 
-/// Widths of the columns 0 to 3 in 1/1440 inch; the last one takes the rest.
-constexpr std::array<int, 4> larghezze = {3700, 3000, 3000, 3000};
+/// Shown in the order of `ColonnaCliente`.
+constexpr std::array<ColonnaGriglia, colonneCliente> colonne = {{
+    {u"Nominativo", 3700},
+    {u"", 3000},
+    {u"Indirizzo", 3000},
+    {u"Città", 3000},
+    {u"Partita iva", ColonnaGriglia::elastica},
+}};
 
 } // namespace
 
 VistaBorsel::VistaBorsel(Borsel& form, QWidget* parent)
-    : Vista(parent), m_form(form), m_modello(new ModelloClienti(form, this)) {
+    : Vista(parent), m_form(form),
+      m_modello(new ModelloGriglia(
+          colonne,
+          {[&form] { return form.righeGriglia(); },
+           [&form](int riga, int colonna) { return form.testo(riga, static_cast<ColonnaCliente>(colonna)); },
+           [&form](int riga, int) { return form.colore(riga); }},
+          this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
     QWidget* ricerca = creaRicerca();
@@ -62,7 +73,7 @@ QWidget* VistaBorsel::creaElenco() {
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Clienti"_s);
     m_elenco->setModel(m_modello);
-    preparaElenco(m_elenco, larghezze, static_cast<int>(ColonnaCliente::PartitaIva));
+    preparaElenco(m_elenco, colonne);
     connect(m_elenco, &QTableView::doubleClicked, this, [this] { scegli(); });
     invio.passo(m_elenco, [this] { scegli(); });
 

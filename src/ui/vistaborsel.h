@@ -9,7 +9,7 @@ class QTableView;
 namespace bor {
 
 class Borsel;
-class ModelloClienti;
+class ModelloGriglia;
 
 class VistaBorsel : public Vista {
 public:
@@ -26,7 +26,7 @@ private:
     void scegli();
 
     Borsel& m_form;
-    ModelloClienti* m_modello;
+    ModelloGriglia* m_modello;
     QLineEdit* m_selnome = nullptr;
     QTableView* m_elenco = nullptr;
     int m_versione = -1;

@@ -1,0 +1,54 @@
+// The grids that list records: their columns, and the rows of a form as they show them, of which nothing is
+// copied.
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include <functional>
+#include <optional>
+#include <span>
+
+class QTableView;
+
+namespace bor {
+
+struct ColonnaGriglia {
+    static constexpr int elastica = -1; ///< takes the room that the other columns leave
+    static constexpr int nascosta = 0;
+
+    QStringView intestazione;
+    int larghezza = nascosta; ///< 1/1440 inch
+    Qt::Alignment allineamento = Qt::AlignLeft;
+};
+
+/// Where the cells come from. Rows and columns count from 0.
+struct CelleGriglia {
+    std::function<int()> righe; ///< blank filler rows included
+    std::function<QString(int riga, int colonna)> testo;
+    /// Background as the archive has it, 0x00BBGGRR; nothing for the grid's own.
+    std::function<std::optional<int>(int riga, int colonna)> colore;
+};
+
+class ModelloGriglia : public QAbstractTableModel {
+public:
+    /// `colonne` outlives the model.
+    ModelloGriglia(std::span<const ColonnaGriglia> colonne, CelleGriglia celle, QObject* parent = nullptr);
+
+    /// The list was filled or sorted.
+    void rinnova();
+
+    int rowCount(const QModelIndex& padre = {}) const override;
+    int columnCount(const QModelIndex& padre = {}) const override;
+    QVariant data(const QModelIndex& indice, int ruolo) const override;
+    QVariant headerData(int sezione, Qt::Orientation orientamento, int ruolo) const override;
+
+private:
+    std::span<const ColonnaGriglia> m_colonne;
+    CelleGriglia m_celle;
+    int m_righe = 0;
+};
+
+/// Makes a grid that has its model a list of whole rows to choose from, with the widths of its columns.
+void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne);
+
+} // namespace bor
