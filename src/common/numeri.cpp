@@ -169,6 +169,11 @@ QString testoCasella(double x) {
     return x == 0.0 ? QString() : testoDecimale(x);
 }
 
+QString testoStampa(double x) {
+    const QString testo = testoDecimale(x);
+    return (testo.startsWith(u'-') ? testo : u' ' + testo) + u' ';
+}
+
 QString testoFisso(double x, int decimaliVoluti) {
     return componi(x, decimaliVoluti, u'.', false);
 }

@@ -27,6 +27,10 @@ QString testoDecimale(double x);
 /// `testoDecimale`, but empty for 0, as boxes of the screens show amounts.
 QString testoCasella(double x);
 
+/// The number as the suite prints it into its text files: a leading blank where it has no sign, a trailing
+/// blank.
+QString testoStampa(double x);
+
 /// The number with exactly `decimali` places, its 15-digit decimal form rounded half away from zero, with a
 /// decimal point and no grouping.
 QString testoFisso(double x, int decimali);

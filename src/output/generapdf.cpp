@@ -1,0 +1,101 @@
+#include "output/generapdf.h"
+
+#include "archive/contesto.h"
+#include "common/numeri.h"
+#include "output/layout.h"
+#include "output/rapporto.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+const QString titoloAttenzione = u"Attenzione"_s;
+const QString senzaPosta = u"***"_s;
+
+QString programma(const Contesto& contesto) {
+    return contesto.archivio.reale(radiceSuite.toString() + u"borxpdf"_s);
+}
+
+QString layoutStrumento(const Documento& documento, const Contesto& contesto) {
+    return contesto.archivio.borlano(documento.parcella() ? u"lxp" : u"lxf");
+}
+
+QString nomePdf(const Documento& documento, const TestiPdf& testi) {
+    const QString numero = testoDecimale(valore(documento.estremi.numero));
+    return testi.cartella() + (documento.parcella() ? u"\\par"_s : u"\\ftr"_s) + numero + u".pdf"_s;
+}
+
+/// One address, with nothing in it that could be taken for a second argument, recipient or header.
+bool indirizzo(const QString& testo) {
+    return testo.count(u'@') == 1 && std::ranges::none_of(testo, [](QChar c) {
+               return c.unicode() <= 32 || c.unicode() == 127 || QStringView(u",;\"<>").contains(c);
+           });
+}
+
+bool avviaStrumento(const Contesto& contesto, const QStringList& argomenti) {
+    const bool avviato = contesto.sistema.avvia(programma(contesto), argomenti);
+    if (!avviato)
+        contesto.operatore.messaggio(
+            u"Non è possibile eseguire il programma invio del documento a mezzo internet."_s,
+            titoloAttenzione, Icona::Stop);
+    return avviato;
+}
+
+} // namespace
+
+void generapdf(Documento& documento, const Contesto& contesto) {
+    if (valore(contesto.impostazioni.eur[6]) == 0.0 ||
+        !contesto.operatore.chiedi(
+            u"Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?"_s, titoloAttenzione))
+        return;
+    const TestiPdf testi = caricaTestiPdf(contesto.archivio);
+    const QString pdf = nomePdf(documento, testi);
+    const QString destinatario = documento.estremi.postael ? documento.cliente.email.trimmed() : senzaPosta;
+    if (documento.estremi.postael && !indirizzo(destinatario)) {
+        contesto.operatore.messaggio(
+            u"L'indirizzo di posta elettronica del cliente non è valido: \"%1\". Il documento non è stato inviato."_s
+                .arg(destinatario),
+            titoloAttenzione, Icona::Stop);
+        return;
+    }
+    if (pdf.contains(u',') || contesto.archivio.reale(pdf).isEmpty()) {
+        contesto.operatore.messaggio(
+            u"La cartella dei documenti PDF non è valida: \"%1\""_s.arg(testi.cartella()), titoloAttenzione,
+            Icona::Stop);
+        return;
+    }
+    QStringList parti = {layoutStrumento(documento, contesto), fileRapporto.toString(), pdf, destinatario};
+    const QString testo = testi.testo(documento.parcella());
+    if (!testo.isEmpty())
+        parti.append(testo);
+    if (avviaStrumento(contesto, {parti.join(u',')}))
+        documento.estremi.pdf = pdf;
+}
+
+void anteprima(const Documento& documento, const Contesto& contesto) {
+    avviaStrumento(contesto,
+                   {u"--anteprima"_s, layoutStrumento(documento, contesto) + u',' + fileRapporto.toString()});
+}
+
+void scegliPdf(Documento& documento, const Contesto& contesto) {
+    const QString scelto = contesto.operatore.scegliFile(u"Documento in formato PDF"_s, u"*.pdf"_s).trimmed();
+    QString nome = contesto.archivio.percorsi().dos(scelto).value_or(QString());
+    if (!scelto.isEmpty() && nome.isEmpty()) {
+        contesto.operatore.messaggio(
+            u"Il file \"%1\" non si trova in un'unità della procedura: copiatelo prima nella cartella dei PDF."_s
+                .arg(scelto),
+            titoloAttenzione, Icona::Stop);
+        return;
+    }
+    if (!nome.toUpper().contains(u"PDF") || nome.contains(u'*'))
+        return;
+    if (nome.size() > 1 && nome[1] == u':')
+        nome.remove(0, 2);
+    documento.estremi.pdf = nome;
+}
+
+} // namespace bor

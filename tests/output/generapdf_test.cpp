@@ -1,0 +1,86 @@
+// Starting the PDF tool, and attaching a PDF by hand.
+#include "output/generapdf.h"
+#include "support/azienda.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+class PdfTest : public testing::Test {
+protected:
+    PdfTest() {
+        prova.impostazioni.eur[6] = u"1"_s;
+        documento.estremi.numero = u"12/A"_s;
+        documento.cliente.email.set(u"conti@rossi.example");
+    }
+    QString argomento() const { return prova.sistema.avviati.value(0).value(1); }
+
+    AziendaDiProva azienda;
+    ContestoDiProva prova{azienda};
+    Documento documento;
+};
+
+TEST_F(PdfTest, LaRigaDiComandoELNomeNelDocumento) {
+    generapdf(documento, prova.contesto);
+    ASSERT_EQ(prova.sistema.avviati.size(), 1);
+    EXPECT_TRUE(prova.sistema.avviati[0][0].endsWith(u"/suprok/suprok/borxpdf"_s));
+    EXPECT_EQ(argomento(),
+              u"\\suprok\\suprok\\boraz0.007\\borlano.lxf,c:\\bordoc.rto,\\suprok\\pdf\\ftr12.pdf,***"_s);
+    EXPECT_EQ(documento.estremi.pdf, u"\\suprok\\pdf\\ftr12.pdf"_s);
+
+    azienda.scrivi(u"borlano.pdf"_s,
+                   "\\docs\r\nogg\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\nIn allegato, la parcella.\r\n");
+    documento.coppia.fte.parcella = 1;
+    documento.estremi.postael = true;
+    prova.sistema.avviati.clear();
+    generapdf(documento, prova.contesto);
+    EXPECT_EQ(argomento(), u"\\suprok\\suprok\\boraz0.007\\borlano.lxp,c:\\bordoc.rto,\\docs\\par12.pdf,"
+                           "conti@rossi.example,In allegato, la parcella."_s);
+}
+
+TEST_F(PdfTest, IndirizziCheNonSonoUnoSoloNonPartono) {
+    documento.estremi.postael = true;
+    for (const QStringView cattivo :
+         {u"a@b.it,c@d.it", u"a@b.it;c@d.it", u"a b@c.it", u"a@b.it\ncc", u"niente", u""}) {
+        documento.cliente.email.set(cattivo);
+        generapdf(documento, prova.contesto);
+        EXPECT_TRUE(prova.operatore.messaggi.back().testo.startsWith(u"L'indirizzo di posta"_s));
+    }
+    EXPECT_TRUE(prova.sistema.avviati.isEmpty());
+    EXPECT_EQ(documento.estremi.pdf, QString());
+}
+
+TEST_F(PdfTest, SpentoRifiutatoONonAvviatoNonLasciaNomi) {
+    prova.sistema.esitoAvvia = false;
+    generapdf(documento, prova.contesto);
+    EXPECT_EQ(prova.operatore.messaggi.back().testo,
+              u"Non è possibile eseguire il programma invio del documento a mezzo internet."_s);
+    prova.operatore.rispostaSolita = false;
+    generapdf(documento, prova.contesto);
+    prova.impostazioni.eur[6] = u"0"_s;
+    prova.operatore.domande.clear();
+    generapdf(documento, prova.contesto);
+    EXPECT_TRUE(prova.operatore.domande.isEmpty());
+    EXPECT_EQ(documento.estremi.pdf, QString());
+}
+
+TEST_F(PdfTest, UnPdfSceltoAManoPerdeLUnita) {
+    prova.operatore.fileScelto = azienda.percorsi().radiceCorrente() + u"/suprok/PDF/x.pdf"_s;
+    scegliPdf(documento, prova.contesto);
+    EXPECT_EQ(documento.estremi.pdf, u"\\suprok\\PDF\\x.pdf"_s);
+    prova.operatore.fileScelto = azienda.percorsi().radiceCorrente() + u"/c/y.pdf"_s;
+    scegliPdf(documento, prova.contesto);
+    EXPECT_EQ(documento.estremi.pdf, u"\\c\\y.pdf"_s) << "the current drive comes first";
+    prova.operatore.fileScelto = azienda.percorsi().radiceCorrente() + u"/suprok/x.txt"_s;
+    scegliPdf(documento, prova.contesto);
+    prova.operatore.fileScelto = u"/altrove/z.pdf"_s;
+    scegliPdf(documento, prova.contesto);
+    EXPECT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(documento.estremi.pdf, u"\\c\\y.pdf"_s);
+}
+
+} // namespace
+} // namespace bor
