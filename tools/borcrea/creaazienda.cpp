@@ -134,7 +134,8 @@ void Cantiere::costruisci() {
     prendiTesto(u"borlano.eur"_s, radiceSuite.toString() + u"borlano.eur"_s, false);
     prendiTesto(u"borlano.tbl"_s, radiceSuite.toString() + u"borlano.tbl"_s, false);
     scriviServizi();
-    if (!scriviArchivio())
+    const auto fpa = leggiFpaAzienda(m_richiesta.sorgente, m_problemi);
+    if ((fpa && !scriviFpa(m_archivio, u"borlano.fpa"_s, *fpa)) || !scriviArchivio())
         m_problemi.append({m_richiesta.unita, 0, u"l'archivio non si può scrivere."_s});
     m_archivio.chiudi();
 }
@@ -149,7 +150,8 @@ bool consegna(const Percorsi& da, const Percorsi& a, int codice) {
             return false;
     }
     const QString cartella = cartellaAzienda(codice);
-    QDir().mkpath(a.reale(u"\\suprok\\pdf").value_or(QString()));
+    for (const QString& nome : {u"\\suprok\\pdf"_s, u"\\suprok\\xml"_s})
+        QDir().mkpath(a.reale(nome).value_or(QString()));
     return QDir().rename(da.reale(cartella).value_or(QString()), a.reale(cartella).value_or(QString()));
 }
 

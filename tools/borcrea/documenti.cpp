@@ -209,6 +209,27 @@ QHash<QString, Chiave> leggiChiavi(const Foglio& foglio, const Anagrafiche& a) {
     return chiavi;
 }
 
+/// Gives the documents for a public administration their data.
+void leggiFpa(const QString& cartella, const QHash<QString, std::size_t>& posti,
+              std::vector<DocumentoPronto>& documenti, Problemi& problemi) {
+    const Foglio foglio(cartella, u"fpa.csv"_s, colonneFpa(), problemi);
+    for (const RigaFoglio& riga : foglio.righe()) {
+        const QString chiave = riga.obbligatorio(u"documento", 20);
+        const auto posto = posti.constFind(chiave);
+        if (posto == posti.constEnd() || !documenti[*posto].documento.fatturaPa()) {
+            riga.problema(u"documento: \"%1\" non ha un numero fpa in documenti.csv."_s.arg(chiave));
+            continue;
+        }
+        const Documento& d = documenti[*posto].documento;
+        Fpa fpa = leggiFpaDocumento(riga);
+        fpa.numerodoc.set(d.estremi.numero);
+        fpa.datadoc.set(d.estremi.data);
+        fpa.coddestinatario = d.cliente.clix2;
+        fpa.esigdifferita.set(d.estremi.esig ? u"1" : u"0");
+        documenti[*posto].fpa = fpa;
+    }
+}
+
 } // namespace
 
 std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagrafiche& anagrafiche,
@@ -221,10 +242,14 @@ std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagr
     const QHash<QString, Chiave> chiavi = leggiChiavi(foglio, anagrafiche);
     const Righe righe = leggiRighe(cartella, anagrafiche, chiavi, problemi);
     std::vector<DocumentoPronto> documenti;
+    QHash<QString, std::size_t> posti;
     for (const RigaFoglio& riga : foglio.righe()) {
-        const Chiave chiave = chiavi.value(riga.testo(u"documento", 20));
+        const QString documento = riga.testo(u"documento", 20);
+        const Chiave chiave = chiavi.value(documento);
+        posti.insert(documento, documenti.size());
         documenti.push_back(leggiDocumento(riga, chiave, righe, anagrafiche, contesto));
     }
+    leggiFpa(cartella, posti, documenti, problemi);
     return documenti;
 }
 

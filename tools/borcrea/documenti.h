@@ -4,6 +4,7 @@
 
 #include "archive/contesto.h"
 #include "borcrea/anagrafiche.h"
+#include "borcrea/datifpa.h"
 #include "document/documento.h"
 
 #include <vector>
@@ -14,10 +15,11 @@ namespace bor {
 struct DocumentoPronto {
     Documento documento;
     bool eliminato = false;
+    std::optional<Fpa> fpa; ///< electronic invoice data to store with it
 };
 
-/// Reads `documenti.csv`, `righe.csv` and `prestazioni.csv`. The customers, agents and settings are already
-/// on file in `contesto`; totals, withholding, commission and instalments follow from the lines.
+/// Reads `documenti.csv`, `righe.csv`, `prestazioni.csv` and `fpa.csv`. The customers, agents and settings
+/// are already on file in `contesto`; totals, withholding, commission and instalments follow from the lines.
 std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagrafiche& anagrafiche,
                                             const Contesto& contesto, Problemi& problemi);
 

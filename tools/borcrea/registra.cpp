@@ -102,6 +102,9 @@ bool scriviDocumenti(Archivio& archivio, std::vector<DocumentoPronto>& documenti
         if (!archivio.scrivi(d.record, d.coppia) ||
             (!documenti[i].eliminato && !scriviFileRighe(archivio, d)))
             return false;
+        if (documenti[i].fpa &&
+            !scriviFpa(archivio, u"fpa"_s + testoDecimale(double{d.coppia.f2e.fpa}), *documenti[i].fpa))
+            return false;
         tot.numero = static_cast<std::int16_t>(d.record);
         tot.ultimonumero = static_cast<std::int16_t>(valoreIntero(d.estremi.numero));
         tot.progressivo = fte.nfile;
