@@ -46,7 +46,7 @@ void affianca(QGridLayout* griglia, int numero, const QString& testo, const std:
 
 QGridLayout* grigliaIn(QGroupBox* riquadro) {
     auto* griglia = new QGridLayout(riquadro);
-    griglia->setVerticalSpacing(3);
+    griglia->setVerticalSpacing(6);
     griglia->setColumnStretch(1, 1);
     return griglia;
 }
