@@ -1,17 +1,20 @@
 #include "app/modulo.h"
+#include "app/schermi.h"
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
 #include "ui/finestra.h"
-#include "ui/vistaborfte.h"
-#include "ui/vistaborftem.h"
-#include "ui/vistaborsel.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 int main(int argc, char* argv[]) {
     using namespace bor;
     QApplication applicazione(argc, argv);
     applicaAspetto(applicazione);
+    QTranslator italiano;
+    if (italiano.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&italiano);
 
     OperatoreQt operatore;
     OrologioQt orologio;
@@ -22,9 +25,7 @@ int main(int argc, char* argv[]) {
                                       Percorsi::predefiniti(), {operatore, orologio, sistema, finestra});
     if (!modulo)
         return 0;
-    finestra.aggiungi(Schermo::Borfte, new VistaBorfte(modulo->borfte()));
-    finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo->borftem()));
-    finestra.aggiungi(Schermo::Borsel, new VistaBorsel(modulo->borsel()));
+    aggiungiSchermi(finestra, *modulo);
     finestra.show();
     finestra.mostra(Schermo::Borfte);
     return QApplication::exec();

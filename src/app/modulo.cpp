@@ -19,7 +19,8 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
     : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda),
       m_contesto{m_sessione,     m_archivio,    m_impostazioni,   m_tabelle, porte.operatore,
                  porte.orologio, porte.sistema, porte.navigatore, m_timbro},
-      m_borfte(m_contesto, {}), m_borftem(m_contesto, m_documento), m_borsel(m_contesto, m_borftem) {
+      m_borfte(m_contesto, {}), m_borftem(m_contesto, m_documento), m_borsel(m_contesto, m_borftem),
+      m_borftek(m_contesto, m_documento), m_borftec(m_contesto, m_documento) {
     m_sessione.codiceazienda = codiceazienda;
     m_impostazioni = caricaimpostazioni(m_archivio, m_sessione);
     m_archivio.apri();

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "document/borftek.h"
 #include "document/borftem.h"
 #include "document/documento.h"
+#include "posting/borftec.h"
 #include "register/borfte.h"
 #include "register/borsel.h"
 
@@ -29,6 +31,8 @@ public:
     Borfte& borfte() { return m_borfte; }
     Borftem& borftem() { return m_borftem; }
     Borsel& borsel() { return m_borsel; }
+    Borftek& borftek() { return m_borftek; }
+    Borftec& borftec() { return m_borftec; }
     Documento& documento() { return m_documento; }
 
 private:
@@ -46,6 +50,8 @@ private:
     Borfte m_borfte;
     Borftem m_borftem;
     Borsel m_borsel;
+    Borftek m_borftek;
+    Borftec m_borftec;
 };
 
 } // namespace bor

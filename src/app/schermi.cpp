@@ -1,0 +1,21 @@
+#include "app/schermi.h"
+
+#include "app/modulo.h"
+#include "ui/finestra.h"
+#include "ui/vistaborfte.h"
+#include "ui/vistaborftec.h"
+#include "ui/vistaborftek.h"
+#include "ui/vistaborftem.h"
+#include "ui/vistaborsel.h"
+
+namespace bor {
+
+void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
+    finestra.aggiungi(Schermo::Borfte, new VistaBorfte(modulo.borfte()));
+    finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));
+    finestra.aggiungi(Schermo::Borsel, new VistaBorsel(modulo.borsel()));
+    finestra.aggiungi(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
+    finestra.aggiungi(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
+}
+
+} // namespace bor

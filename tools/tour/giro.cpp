@@ -1,0 +1,67 @@
+#include "tour/giro.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTest>
+#include <QWindow>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+QWidget* Giro::controllo(const QString& nome) {
+    // Screens share control names: the one in view is meant.
+    for (QWidget* widget : m_finestra.findChildren<QWidget*>(nome)) {
+        if (widget->isVisible())
+            return widget;
+    }
+    fallito(u"manca il controllo "_s + nome);
+    return nullptr;
+}
+
+void Giro::premi(const QString& nome) {
+    if (auto* bottone = qobject_cast<QAbstractButton*>(controllo(nome)))
+        bottone->click();
+    QApplication::processEvents();
+}
+
+void Giro::vaiSu(const QString& nome) {
+    if (QWidget* widget = controllo(nome))
+        widget->setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+}
+
+void Giro::tasto(Qt::Key quale, Qt::KeyboardModifiers modi) {
+    QTest::keyClick(m_finestra.windowHandle(), quale, modi);
+    QApplication::processEvents();
+}
+
+void Giro::scrivi(const QString& testo) {
+    for (const QChar c : testo) {
+        QKeyEvent giu(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        if (QWidget* fuoco = QApplication::focusWidget())
+            QApplication::sendEvent(fuoco, &giu);
+    }
+    QApplication::processEvents();
+}
+
+void Giro::riga(const QString& testo) {
+    scrivi(testo);
+    tasto(Qt::Key_Return);
+}
+
+void Giro::foto(const QString& nome) {
+    QApplication::processEvents();
+    if (!m_finestra.grab().save(m_cartella.filePath(nome + u".png"_s)))
+        fallito(u"non si può scrivere "_s + nome);
+}
+
+void Giro::fallito(const QString& motivo) {
+    std::fprintf(stderr, "tour: %s\n", qPrintable(motivo));
+    m_riuscito = false;
+}
+
+} // namespace bor

@@ -1,0 +1,40 @@
+// A walk through the screens of the program, as a person would take it, with a picture of each.
+#pragma once
+
+#include "app/modulo.h"
+#include "ui/finestra.h"
+
+#include <QDir>
+
+namespace bor {
+
+/// Keys, clicks and pictures on the program's window. A control that is missing, or a picture that cannot be
+/// saved, is told on standard error and remembered.
+class Giro {
+public:
+    Giro(Finestra& finestra, const QDir& cartella) : m_finestra(finestra), m_cartella(cartella) {}
+
+    /// Presses the button of this control name.
+    void premi(const QString& nome);
+    void vaiSu(const QString& nome);
+    void tasto(Qt::Key tasto, Qt::KeyboardModifiers modi = Qt::NoModifier);
+    /// Types into the field with the focus.
+    void scrivi(const QString& testo);
+    /// Types and goes on with Enter.
+    void riga(const QString& testo);
+    void foto(const QString& nome);
+    bool riuscito() const { return m_riuscito; }
+
+private:
+    QWidget* controllo(const QString& nome);
+    void fallito(const QString& motivo);
+
+    Finestra& m_finestra;
+    QDir m_cartella;
+    bool m_riuscito = true;
+};
+
+/// All stops of the tour, on a fresh demo company.
+void percorri(Giro& giro);
+
+} // namespace bor

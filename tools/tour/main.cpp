@@ -1,0 +1,71 @@
+// Plays the tour of the screens on a demo company of its own and saves a picture of each. The first argument
+// is the folder of the pictures.
+#include "app/schermi.h"
+#include "borcrea/creaazienda.h"
+#include "common/avvio.h"
+#include "tour/giro.h"
+#include "ui/adattatori.h"
+#include "ui/aspetto.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Answers yes to everything and says nothing: nobody sits before the tour.
+class OperatoreDelGiro : public bor::OperatoreQt {
+public:
+    void messaggio(const QString& testo, const QString&, bor::Icona) override {
+        std::fprintf(stderr, "tour: %s\n", qPrintable(testo));
+    }
+    bool chiedi(const QString&, const QString&, bor::Icona) override { return true; }
+};
+
+/// The tour always happens on the same day, so that its pictures do not change by themselves.
+class GiornoDelGiro : public bor::Orologio {
+public:
+    QDateTime adesso() const override { return {QDate(2015, 12, 30), QTime(10, 0)}; }
+};
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication applicazione(argc, argv);
+    bor::applicaAspetto(applicazione);
+    QCommandLineParser opzioni;
+    opzioni.addPositionalArgument(u"cartella"_s, u"Dove salvare le immagini."_s);
+    opzioni.process(applicazione);
+    const QDir cartella(opzioni.positionalArguments().value(0, u"."_s));
+    cartella.mkpath(u"."_s);
+
+    const QTemporaryDir unita;
+    const bor::Problemi problemi = bor::creaAzienda({QStringLiteral(BOR_DEMO_DIR), unita.path(), 1});
+    if (!problemi.empty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(problemi.front().testo()));
+        return 1;
+    }
+    OperatoreDelGiro operatore;
+    GiornoDelGiro orologio;
+    bor::SistemaQt sistema;
+    bor::Finestra finestra;
+    const auto modulo =
+        bor::Modulo::avvia(bor::rigaAvvio(1), bor::Percorsi(unita.path(), unita.path() + u"/c"_s),
+                           {operatore, orologio, sistema, finestra});
+    bor::aggiungiSchermi(finestra, *modulo);
+    finestra.show();
+    finestra.activateWindow();
+    if (!QTest::qWaitForWindowActive(&finestra))
+        return 1;
+    finestra.mostra(bor::Schermo::Borfte);
+    bor::Giro giro(finestra, cartella);
+    bor::percorri(giro);
+    return giro.riuscito() ? 0 : 1;
+}
