@@ -176,6 +176,26 @@ TEST_F(CreaAzienda, ElencaOgniErroreENonScriveNulla) {
     EXPECT_EQ(elenco(unita()), QStringList());
 }
 
+TEST_F(CreaAzienda, RifiutaDatiFpaSenzaDocumentoECampiDellAziendaSconosciuti) {
+    scrivi("fpa.csv", "documento;tipodocpa\n1;TD01\n");
+    scrivi("fpa_azienda.csv", "campo;valore\nidpaese;ITA\ncolore;blu\n");
+    EXPECT_EQ(crea(), "fpa_azienda.csv, riga 2: valore: \"ITA\" ha 3 caratteri, ne sono ammessi 2.\n"
+                      "fpa_azienda.csv, riga 3: campo: \"colore\" non esiste.\n"
+                      "fpa.csv, riga 2: documento: \"1\" non ha un numero fpa in documenti.csv.\n");
+}
+
+TEST_F(CreaAzienda, LasciaLeImpostazioniComuniCheCiSono) {
+    QDir().mkpath(unita() + u"/SUPROK/suprok"_s);
+    QFile eur(unita() + u"/SUPROK/suprok/BORLANO.EUR"_s);
+    ASSERT_TRUE(eur.open(QIODevice::WriteOnly));
+    eur.write("0,1936.27,ITL,EUR,2\r\n");
+    eur.close();
+    scrivi("borlano.eur", "1,1936.27,ITL,EUR,2\n");
+    ASSERT_EQ(crea(), "");
+    EXPECT_EQ(leggiFile(eur.fileName()), "0,1936.27,ITL,EUR,2\r\n");
+    EXPECT_EQ(leggiFile(unita() + u"/SUPROK/suprok/boraz0.007/borlano.int"_s), "Prova S.r.l.\r\n");
+}
+
 TEST_F(CreaAzienda, NonToccaUnAziendaCheEsiste) {
     ASSERT_EQ(crea(), "");
     const QStringList prima = elenco(unita());

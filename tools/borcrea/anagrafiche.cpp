@@ -1,9 +1,11 @@
 #include "borcrea/anagrafiche.h"
 
+#include "borcrea/bianco.h"
 #include "borcrea/controlli.h"
 #include "borcrea/foglio.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace bor {
 
@@ -79,8 +81,7 @@ void commerciali(const RigaFoglio& riga, Cli& cli) {
 }
 
 Cli cliente(const RigaFoglio& riga, const std::vector<Con>& conti) {
-    Cli cli;
-    std::ranges::fill(std::as_writable_bytes(std::span(&cli, 1)), std::byte{' '});
+    Cli cli = bianco<Cli>();
     cli.clix7 = 0;
     sede(riga, QString(), cli.sede);
     sede(riga, u"a"_s, cli.amministrazione);
@@ -105,7 +106,7 @@ Prx testoAggiunto(const RigaFoglio& riga) {
     Prx prx = vuoto<Prx>();
     if (riga.vuoto(u"testo"))
         return prx;
-    const QStringList righe = riga.testo(u"testo", INT_MAX).split(u'|');
+    const QStringList righe = riga.testo(u"testo", senzaLimite).split(u'|');
     if (righe.size() > static_cast<qsizetype>(prx.riga.size()))
         riga.problema(u"testo: ci sono %1 righe, ne sono ammesse dieci."_s.arg(righe.size()));
     for (std::size_t i = 0; i < prx.riga.size(); ++i) {
@@ -190,12 +191,10 @@ void leggiAgenti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
         u"codice ragione1 indirizzo cap citta telefono partitaiva codicefiscale provvigione"_s.split(u' ');
     const Foglio foglio(cartella, u"agenti.csv"_s, colonne, problemi);
     for (const RigaFoglio& riga : foglio.righe()) {
-        Age age;
-        std::ranges::fill(std::as_writable_bytes(std::span(&age, 1)), std::byte{' '});
+        Age age = bianco<Age>();
         age.agex3 = 0;
         // The head of an agent's record is that of a customer.
-        Cli anagrafica = vuoto<Cli>();
-        std::ranges::fill(std::as_writable_bytes(std::span(&anagrafica, 1)), std::byte{' '});
+        Cli anagrafica = bianco<Cli>();
         sede(riga, QString(), anagrafica.sede);
         anagrafica.telefono[0].set(riga.testo(u"telefono", 15));
         fiscali(riga, anagrafica);

@@ -55,6 +55,7 @@ public:
 private:
     void prendiTesto(const QString& nome, const QString& dove, bool necessario);
     void scriviServizi();
+    void controllaQuanti(const Anagrafiche& a, std::size_t documenti);
     bool scriviArchivio();
 
     const NuovaAzienda& m_richiesta;
@@ -101,6 +102,20 @@ void moltiplica(std::vector<Cli>& clienti) {
     }
 }
 
+/// Record numbers are 16 bits wide on file.
+void Cantiere::controllaQuanti(const Anagrafiche& a, std::size_t documenti) {
+    const std::pair<QString, std::size_t> file[] = {{u"clienti.csv"_s, a.clienti.size()},
+                                                    {u"articoli.csv"_s, a.articoli.size()},
+                                                    {u"conti.csv"_s, a.conti.size()},
+                                                    {u"agenti.csv"_s, a.agenti.size()},
+                                                    {u"documenti.csv"_s, documenti}};
+    for (const auto& [nome, quanti] : file) {
+        if (quanti > std::size_t{Archivio::massimo})
+            m_problemi.append(
+                {nome, 0, u"ci sono %1 righe, ne sono ammesse %2."_s.arg(quanti).arg(Archivio::massimo)});
+    }
+}
+
 bool Cantiere::scriviArchivio() {
     Anagrafiche anagrafiche = leggiAnagrafiche(m_richiesta.sorgente, m_problemi);
     if (m_richiesta.documenti > 0)
@@ -121,6 +136,7 @@ bool Cantiere::scriviArchivio() {
                             orologio, sistema,    schermi,      timbro};
     auto documenti = leggiDocumenti(m_richiesta.sorgente, anagrafiche, contesto, m_problemi);
     // What is wrong is told without writing lines files that nobody will see.
+    controllaQuanti(anagrafiche, documenti.size());
     if (!m_problemi.isEmpty())
         return true;
     return scriviDocumenti(m_archivio, documenti) && ripetiDocumenti(m_archivio, m_richiesta.documenti);

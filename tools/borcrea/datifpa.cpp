@@ -1,5 +1,6 @@
 #include "borcrea/datifpa.h"
 
+#include "borcrea/bianco.h"
 #include "borcrea/foglio.h"
 
 #include <QFile>
@@ -9,12 +10,6 @@ namespace bor {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-Fpa blanco() {
-    Fpa fpa;
-    std::ranges::fill(std::as_writable_bytes(std::span(&fpa, 1)), std::byte{' '});
-    return fpa;
-}
 
 /// Calls `f(name, field)` for each field of the company's image that a person fills.
 template <class F>
@@ -90,7 +85,7 @@ std::optional<Fpa> leggiFpaAzienda(const QString& cartella, Problemi& problemi) 
     if (!QFile::exists(cartella + u'/' + nome))
         return std::nullopt;
     const Foglio foglio(cartella, nome, {u"campo"_s, u"valore"_s}, problemi);
-    Fpa fpa = blanco();
+    Fpa fpa = bianco<Fpa>();
     fpa.statoquadri.set(QString::number(Fpa::compilato));
     for (const RigaFoglio& riga : foglio.righe()) {
         const QString campo = riga.obbligatorio(u"campo", 40);
@@ -109,13 +104,13 @@ std::optional<Fpa> leggiFpaAzienda(const QString& cartella, Problemi& problemi) 
 
 QStringList colonneFpa() {
     QStringList colonne = {u"documento"_s};
-    Fpa fpa = blanco();
+    Fpa fpa = bianco<Fpa>();
     campiDocumento(fpa, [&](QStringView nome, auto&) { colonne.append(nome.toString()); });
     return colonne;
 }
 
 Fpa leggiFpaDocumento(const RigaFoglio& riga) {
-    Fpa fpa = blanco();
+    Fpa fpa = bianco<Fpa>();
     campiDocumento(fpa, [&](QStringView nome, auto& testo) {
         testo.set(riga.testo(nome, static_cast<int>(testo.bytes.size())));
     });

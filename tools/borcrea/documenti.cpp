@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int nessunaLunghezza = INT_MAX;
-
 /// The lines of each document, by the key that its table gives it.
 struct Righe {
     QHash<QString, TabellaRighe> merce;
@@ -173,7 +171,7 @@ DocumentoPronto leggiDocumento(const RigaFoglio& foglio, const Chiave& chiave, c
     DocumentoPronto pronto;
     Documento& d = pronto.documento;
     d.coppia.fte.cliente = static_cast<std::int16_t>(chiave.cliente);
-    d.coppia.fte.tipo = foglio.testo(u"tipo", nessunaLunghezza) == u"nota" ? 1 : 0;
+    d.coppia.fte.tipo = foglio.testo(u"tipo", senzaLimite) == u"nota" ? 1 : 0;
     d.coppia.fte.parcella = chiave.parcella ? 1 : 0;
     inizializza2(d.coppia.f2e);
     if (chiave.cliente > 0)
@@ -196,7 +194,7 @@ QHash<QString, Chiave> leggiChiavi(const Foglio& foglio, const Anagrafiche& a) {
     QHash<QString, Chiave> chiavi;
     for (const RigaFoglio& riga : foglio.righe()) {
         const QString documento = riga.obbligatorio(u"documento", 20);
-        const QString tipo = riga.obbligatorio(u"tipo", nessunaLunghezza);
+        const QString tipo = riga.obbligatorio(u"tipo", senzaLimite);
         const QString cliente = riga.obbligatorio(u"cliente", 15);
         if (!tipo.isEmpty() && tipo != u"fattura" && tipo != u"nota" && tipo != u"parcella")
             riga.problema(u"tipo: \"%1\" non è fattura, nota o parcella."_s.arg(tipo));

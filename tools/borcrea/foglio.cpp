@@ -58,11 +58,11 @@ QString RigaFoglio::obbligatorio(QStringView colonna, int larghezza) const {
 }
 
 bool RigaFoglio::vuoto(QStringView colonna) const {
-    return testo(colonna, INT_MAX).isEmpty();
+    return testo(colonna, senzaLimite).isEmpty();
 }
 
 int RigaFoglio::intero(QStringView colonna, int minimo, int massimo, int predefinito) const {
-    const QString valore = testo(colonna, INT_MAX);
+    const QString valore = testo(colonna, senzaLimite);
     if (valore.isEmpty())
         return predefinito;
     bool numero = false;
@@ -76,7 +76,7 @@ int RigaFoglio::intero(QStringView colonna, int minimo, int massimo, int predefi
 
 double RigaFoglio::numero(QStringView colonna, double predefinito) const {
     static const QRegularExpression forma(u"^-?[0-9]{1,12}([.,][0-9]{1,6})?$"_s);
-    QString valore = testo(colonna, INT_MAX);
+    QString valore = testo(colonna, senzaLimite);
     if (valore.isEmpty())
         return predefinito;
     if (!forma.match(valore).hasMatch()) {

@@ -8,7 +8,12 @@
 #include <QHash>
 #include <QStringList>
 
+#include <limits>
+
 namespace bor {
+
+/// Length of a text that fills no field.
+inline constexpr int senzaLimite = std::numeric_limits<int>::max();
 
 /// The lines of a text file in UTF-8. A character that the archive's code page lacks is a problem.
 QStringList leggiLinee(const QString& percorso, const QString& nome, Problemi& problemi);
