@@ -1,0 +1,139 @@
+#include "borxpdf/anteprima.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace bor::pdf {
+namespace {
+
+constexpr double kZoomMinimo = 0.25;
+constexpr double kZoomMassimo = 5;
+constexpr double kPasso = 1.25;
+constexpr int kMargine = 12; // pixels around the sheet
+
+} // namespace
+
+/// The sheet on the desk: one page at the present zoom.
+class Anteprima::Foglio : public QWidget {
+public:
+    explicit Foglio(Documento& documento) : m_documento(documento) { ridimensiona(); }
+
+    double zoom() const { return m_zoom; }
+    void setZoom(double zoom) {
+        m_zoom = std::clamp(zoom, kZoomMinimo, kZoomMassimo);
+        ridimensiona();
+    }
+    qsizetype pagina() const { return m_pagina; }
+    void setPagina(qsizetype pagina) {
+        m_pagina = pagina;
+        update();
+    }
+    /// Width in pixels of the sheet at natural size.
+    double larghezzaNaturale() const { return m_documento.modello.pagina().width() / 25.4 * logicalDpiX(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter pittore(this);
+        pittore.fillRect(rect(), Qt::white);
+        const Modello& modello = m_documento.modello;
+        pittore.scale(m_zoom * logicalDpiX() / kUnitaPollice, m_zoom * logicalDpiX() / kUnitaPollice);
+        pittore.translate(-unitaDaMillimetri(modello.taglioSinistra), -unitaDaMillimetri(modello.taglioAlto));
+        m_documento.disegnatore.disegna(pittore,
+                                        m_documento.rapporto.pagine[static_cast<std::size_t>(m_pagina)]);
+    }
+
+private:
+    void ridimensiona() {
+        const QSizeF pagina = m_documento.modello.pagina();
+        const double larghezza = larghezzaNaturale() * m_zoom;
+        setFixedSize(qRound(larghezza), qRound(larghezza * pagina.height() / pagina.width()));
+        update();
+    }
+
+    Documento& m_documento;
+    double m_zoom = 1;
+    qsizetype m_pagina = 0;
+};
+
+Anteprima::Anteprima(Documento documento)
+    : m_documento(std::move(documento)), m_foglio(new Foglio(m_documento)), m_area(new QScrollArea(this)),
+      m_didascalia(new QLabel(this)) {
+    setWindowTitle(u"Anteprima di stampa"_s);
+    m_foglio->setObjectName(u"foglio"_s);
+    m_foglio->setAccessibleName(u"Pagina stampata"_s);
+    m_didascalia->setObjectName(u"pagina"_s);
+    m_area->setWidget(m_foglio);
+    m_area->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_area->setBackgroundRole(QPalette::Dark);
+    m_area->setFocusPolicy(Qt::StrongFocus);
+    setCentralWidget(m_area);
+    preparaComandi();
+    resize(900, 700);
+    mostraPagina(0);
+    m_area->setFocus();
+}
+
+Anteprima::~Anteprima() = default;
+
+void Anteprima::preparaComandi() {
+    auto* barra = addToolBar(u"Comandi"_s);
+    barra->setMovable(false);
+    const auto comando = [&](const QString& testo, const QList<QKeySequence>& tasti, const auto& azione) {
+        QAction* nuova = barra->addAction(testo);
+        nuova->setShortcuts(tasti);
+        nuova->setToolTip(u"%1 (%2)"_s.arg(testo, tasti.first().toString(QKeySequence::NativeText)));
+        connect(nuova, &QAction::triggered, this, azione);
+    };
+    comando(u"Pagina precedente"_s, {Qt::Key_PageUp}, [this] { mostraPagina(m_foglio->pagina() - 1); });
+    comando(u"Pagina successiva"_s, {Qt::Key_PageDown}, [this] { mostraPagina(m_foglio->pagina() + 1); });
+    barra->addWidget(m_didascalia);
+    comando(u"Ingrandisci"_s, {Qt::Key_Plus, QKeySequence::ZoomIn}, [this] { ingrandisci(kPasso); });
+    comando(u"Riduci"_s, {Qt::Key_Minus, QKeySequence::ZoomOut}, [this] { ingrandisci(1 / kPasso); });
+    comando(u"Larghezza"_s, {Qt::Key_L}, [this] { adattaLarghezza(); });
+    comando(u"Chiudi"_s, {Qt::Key_Escape}, [this] { close(); });
+
+    const auto tasto = [this](Qt::Key quale, const auto& azione) {
+        auto* nuova = new QAction(this);
+        nuova->setShortcut(quale);
+        connect(nuova, &QAction::triggered, this, azione);
+        addAction(nuova);
+    };
+    tasto(Qt::Key_Home, [this] { mostraPagina(0); });
+    tasto(Qt::Key_End, [this] { mostraPagina(std::ssize(m_documento.rapporto.pagine) - 1); });
+}
+
+void Anteprima::mostraPagina(qsizetype pagina) {
+    const qsizetype pagine = std::ssize(m_documento.rapporto.pagine);
+    if (pagina < 0 || pagina >= pagine)
+        return;
+    m_foglio->setPagina(pagina);
+    m_area->verticalScrollBar()->setValue(0);
+    m_didascalia->setText(u" Pagina %1 di %2 "_s.arg(pagina + 1).arg(pagine));
+}
+
+void Anteprima::ingrandisci(double fattore) {
+    m_aLarghezza = false;
+    m_foglio->setZoom(m_foglio->zoom() * fattore);
+}
+
+void Anteprima::adattaLarghezza() {
+    m_aLarghezza = true;
+    const int libera = m_area->width() - m_area->verticalScrollBar()->sizeHint().width() - 2 * kMargine;
+    m_foglio->setZoom(libera / m_foglio->larghezzaNaturale());
+}
+
+void Anteprima::resizeEvent(QResizeEvent* evento) {
+    QMainWindow::resizeEvent(evento);
+    if (m_aLarghezza)
+        adattaLarghezza();
+}
+
+} // namespace bor::pdf

@@ -1,0 +1,56 @@
+// borxpdf: turns the report of a printed document into a PDF, mails it when asked, or shows it on screen.
+
+#include "borxpdf/anteprima.h"
+#include "borxpdf/comando.h"
+#include "common/percorsi.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Without a display the PDF and the mail go on all the same, and faults are told on standard error.
+void scegliSchermo() {
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    const bool schermo = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    qputenv("QT_QPA_PLATFORM", schermo ? "xcb;wayland;offscreen" : "offscreen");
+}
+
+void avvisa(const QString& errore) {
+    std::fprintf(stderr, "borxpdf: %s\n", errore.toUtf8().constData());
+    const QString schermo = QGuiApplication::platformName();
+    if (schermo != "offscreen"_L1 && schermo != "minimal"_L1)
+        QMessageBox::critical(nullptr, u"Attenzione"_s, errore);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    scegliSchermo();
+    const QApplication programma(argc, argv);
+    QApplication::setStyle(u"Fusion"_s);
+
+    const auto comando = bor::pdf::Comando::leggi(QApplication::arguments().sliced(1));
+    if (!comando) {
+        avvisa(u"Uso: borxpdf [--anteprima] layout,rapporto,pdf,indirizzo[,testo]"_s);
+        return 2;
+    }
+    const bor::Percorsi percorsi = bor::Percorsi::predefiniti();
+    QString errore;
+    if (comando->anteprima) {
+        if (auto documento = bor::pdf::apri(*comando, percorsi, errore)) {
+            bor::pdf::Anteprima finestra(std::move(*documento));
+            finestra.show();
+            return QApplication::exec();
+        }
+    } else if (bor::pdf::esegui(*comando, percorsi, errore)) {
+        return 0;
+    }
+    avvisa(errore);
+    return 1;
+}
