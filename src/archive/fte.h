@@ -1,4 +1,4 @@
-// The head record of an issued document. Its other half is in archive/f2e.h; docs/fte.md tells both.
+// The head record of an issued document. Its other half is in archive/f2e.h.
 #pragma once
 
 #include "archive/campi.h"
