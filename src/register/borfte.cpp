@@ -147,6 +147,7 @@ void Borfte::nuovoDocumento(int tipo) {
     sessione.testataletta = false;
     sessione.recordcliente = 0;
     sessione.recordfattura = 0;
+    sessione.recordfpa = 0;
     sessione.tipodocumento = tipo;
     m_contesto.navigatore.mostra(Schermo::Borftem);
 }

@@ -1,0 +1,24 @@
+// The text file with the detail lines and head texts of a stored document: one value a line, known only by
+// its place. Opening a document reads it, saving one writes it.
+#pragma once
+
+#include "document/documento.h"
+
+namespace bor {
+
+struct Contesto;
+class RigheInSospeso;
+
+/// Fills lines, head texts and switches of the document from its lines file; from what the run still keeps of
+/// a new one; else from a file of the older name, by number and year. A document without any has no lines,
+/// which is no failure. Where the current file is missing the next save gives the document a new one.
+void leggedoc(Documento& documento, const Contesto& contesto, const RigheInSospeso& sospese);
+
+/// Writes the document's lines file, which must have a number, over an earlier one. False when it could not
+/// be written: the earlier one is then still there.
+bool scrividoc(const Documento& documento, Archivio& archivio);
+
+/// DOS path of the document's lines file.
+QString percorsoRighe(const Archivio& archivio, const Fte& fte);
+
+} // namespace bor

@@ -1,0 +1,24 @@
+// Saves the document on screen: its records, its counter, its lines file, and what follows from it.
+#pragma once
+
+#include "document/comandiesterni.h"
+#include "document/documento.h"
+
+namespace bor {
+
+struct Contesto;
+class Registrazioni;
+class RigheInSospeso;
+
+/// Checks and stores the document. A new one gets the next record number, its movement is prepared, and its
+/// lines wait in `sospese` for the next save; one that is on file also gets its lines file and, where the
+/// operator wants it, its warehouse rows anew and its movement prepared.
+///
+/// The form stays when a check refuses a box (which the result names), when the operator does not want to go
+/// on, or when a file could not be written: then the operator was told which, the document keeps everything
+/// typed, and what was written before stays. Files are written in a fixed order, so that after a crash the
+/// records are never behind what depends on them: records, counter, lines file, warehouse, accounting.
+EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazioni& registrazioni,
+                    RigheInSospeso& sospese);
+
+} // namespace bor
