@@ -7,9 +7,9 @@ Archivio::Archivio(const Percorsi& percorsi, Disco& disco, double codiceazienda)
       cli(disco), src(disco), art(disco), sra(disco), srb(disco), con(disco), fte(disco), f2e(disco),
       mag(disco), gio(disco), age(disco), prx(disco), artBlocchi(disco) {}
 
-void Archivio::apri() {
-    const auto apriUno = [this](FileCasuale& f, QStringView estensione) {
-        f.apri(reale(borlano(estensione)));
+void Archivio::apri(Apertura apertura) {
+    const auto apriUno = [&](FileCasuale& f, QStringView estensione) {
+        f.apri(reale(borlano(estensione)), apertura);
     };
     apriUno(tot, u"tot");
     apriUno(cli, u"cli");

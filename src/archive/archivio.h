@@ -28,7 +28,7 @@ public:
 
     /// Opens every file of the company, in the order the suite fixes. A missing file is made empty; one that
     /// cannot be opened stays closed and reads as blank records.
-    void apri();
+    void apri(Apertura apertura = Apertura::Condivisa);
     void chiudi();
 
     /// DOS path of a file in the company's folder: `file(u"f12")` gives "\suprok\suprok\boraz0.007\f12".

@@ -34,7 +34,9 @@ EsitoBlocco blocca(int descrittore, short tipo, qint64 posizione) {
     return errno == EACCES || errno == EAGAIN ? EsitoBlocco::Occupato : EsitoBlocco::Impossibile;
 }
 
-int apriDescrittore(const QByteArray& nome) {
+int apriDescrittore(const QByteArray& nome, Apertura apertura) {
+    if (apertura == Apertura::SolaLettura)
+        return ::open(nome.constData(), O_RDONLY | O_CLOEXEC);
     const int scrivibile = ::open(nome.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     if (scrivibile >= 0 || (errno != EACCES && errno != EROFS))
         return scrivibile;
@@ -46,7 +48,7 @@ int apriDescrittore(const QByteArray& nome) {
 bool FileCasuale::apri(const QString& percorso, Apertura apertura) {
     chiudi();
     m_percorso = percorso;
-    m_descrittore = apriDescrittore(QFile::encodeName(percorso));
+    m_descrittore = apriDescrittore(QFile::encodeName(percorso), apertura);
     if (m_descrittore < 0) {
         qCWarning(logArchivio, "cannot open %s: %s", qPrintable(percorso), std::strerror(errno));
         return false;

@@ -11,8 +11,9 @@ namespace bor {
 class Disco;
 
 enum class Apertura {
-    Condivisa, ///< other programs may have the file open too
-    Esclusiva, ///< fails while any other program has the file open, and keeps others out
+    Condivisa,   ///< other programs may have the file open too
+    Esclusiva,   ///< fails while any other program has the file open, and keeps others out
+    SolaLettura, ///< shared, never made when it is missing, and every write fails
 };
 
 /// The bytes of such a file. Share modes are advisory locks on one byte far beyond the end of the data: a
@@ -25,9 +26,9 @@ public:
     FileCasuale(const FileCasuale&) = delete;
     FileCasuale& operator=(const FileCasuale&) = delete;
 
-    /// Opens the file of this machine, made empty when it does not exist. A file that may not be written is
-    /// opened for reading, and its writes fail. False leaves it closed: reads then give nothing and writes
-    /// fail.
+    /// Opens the file of this machine, made empty when it does not exist (unless only for reading). A file
+    /// that may not be written is opened for reading, and its writes fail. False leaves it closed: reads then
+    /// give nothing and writes fail.
     bool apri(const QString& percorso, Apertura apertura = Apertura::Condivisa);
     void chiudi();
     bool aperto() const { return m_descrittore >= 0; }

@@ -115,6 +115,12 @@ Valuta Impostazioni::valuta() const {
     return {valore(eur[1]) != 0.0, valoreIntero(eur[5]), valore(eur[2])};
 }
 
+Valuta leggiValuta(const Archivio& archivio) {
+    Impostazioni imp;
+    leggiEur(FileTesto(archivio.reale(nellaRadice(u"borlano.eur"))), imp.eur);
+    return imp.valuta();
+}
+
 Impostazioni caricaimpostazioni(Archivio& archivio, const Sessione& sessione) {
     Impostazioni imp;
     const QStringList intestazione = leggiIntestazione(archivio);

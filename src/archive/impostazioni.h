@@ -43,6 +43,9 @@ struct Impostazioni {
 /// root folder or made new, and saved; an older one is migrated and saved.
 Impostazioni caricaimpostazioni(Archivio& archivio, const Sessione& sessione);
 
+/// The currency of the books alone, for programs that only read: `caricaimpostazioni` may write a `gnr`.
+Valuta leggiValuta(const Archivio& archivio);
+
 /// Writes the `gnr` record into the company's folder, unless options are just being restored. False when that
 /// failed.
 bool salvagnr(Archivio& archivio, const Sessione& sessione, const Gnr& gnr);

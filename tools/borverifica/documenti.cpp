@@ -1,0 +1,137 @@
+#include "borverifica/verifica.h"
+
+#include "archive/fpa.h"
+#include "common/numeri.h"
+
+#include <QDir>
+#include <QHash>
+
+#include <unordered_map>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+/// What a pass over the documents compares each of them with.
+struct Confronto {
+    const Archivio& archivio;
+    std::vector<bool> clientiEliminati;     ///< by `cli` record
+    QHash<QString, qint64> file;            ///< lengths of the company's files by their names in lower case
+    std::unordered_map<double, int> righe;  ///< document by its detail-lines file, goods below 0
+    std::unordered_map<double, int> fattpa; ///< document by its electronic invoice data file
+    Discordanze trovate;
+
+    void aggiungi(Gravita gravita, const Fte& fte, int n, const QString& motivo) {
+        trovate.append({gravita, nomeDocumento(fte, n), motivo});
+    }
+    bool esiste(const QString& nome) const { return file.contains(nome.toLower()); }
+};
+
+Confronto confrontoPer(const Archivio& archivio) {
+    Confronto c{archivio, {}, {}, {}, {}, {}};
+    const int clienti = inUso(archivio, Conta::Cli, archivio.cli);
+    c.clientiEliminati.resize(static_cast<std::size_t>(clienti) + 1);
+    archivio.cli.scorri(1, clienti, [&](int n, const Cli& cli) {
+        c.clientiEliminati[static_cast<std::size_t>(n)] = cli.eliminato == 1;
+        return true;
+    });
+    const QDir cartella(archivio.reale(archivio.file(u"")));
+    for (const QFileInfo& f : cartella.entryInfoList(QDir::Files | QDir::Hidden))
+        c.file.insert(f.fileName().toLower(), f.size());
+    return c;
+}
+
+void verificaCliente(Confronto& c, const Fte& fte, int n) {
+    if (fte.cliente < 1 || fte.cliente >= std::ssize(c.clientiEliminati))
+        c.aggiungi(Gravita::Errore, fte, n, u"il cliente %1 non c'è"_s.arg(fte.cliente));
+    else if (c.clientiEliminati[static_cast<std::size_t>(fte.cliente)])
+        c.aggiungi(Gravita::Informazione, fte, n, u"il cliente %1 è stato eliminato"_s.arg(fte.cliente));
+}
+
+/// The name of the lines file from before these files were numbered: number and year of the document.
+QString vecchioNome(const Fte& fte) {
+    return (fte.parcella != 0 ? u"par"_s : u"ftr"_s) + testoDecimale(valore(fte.numero.text())) + u".a"_s +
+           fte.datadoc.text().mid(2, 2);
+}
+
+void verificaRighe(Confronto& c, const Fte& fte, int n) {
+    const bool numerato = fte.nfile > 0;
+    const QString nome = (fte.parcella != 0 ? u"p"_s : u"f"_s) + testoDecimale(double{fte.nfile});
+    if (numerato) {
+        const double chiave = fte.parcella != 0 ? double{fte.nfile} : -double{fte.nfile};
+        const auto [altro, primo] = c.righe.emplace(chiave, n);
+        if (!primo)
+            c.aggiungi(
+                Gravita::Errore, fte, n,
+                u"il file delle righe %1 è anche del documento con record %2"_s.arg(nome).arg(altro->second));
+        if (c.esiste(nome))
+            return;
+    }
+    if (c.esiste(vecchioNome(fte)))
+        return;
+    if (numerato)
+        c.aggiungi(
+            Gravita::Avviso, fte, n,
+            u"il file delle righe %1 non c'è: le righe non sono ancora registrate, o sono andate perse"_s.arg(
+                nome));
+    else
+        c.aggiungi(Gravita::Informazione, fte, n, u"non ha un file delle righe"_s);
+}
+
+void verificaFpa(Confronto& c, const Fte& fte, const F2e& f2e, int n) {
+    if (f2e.fpaGuasto()) {
+        c.aggiungi(Gravita::Errore, fte, n, u"il riferimento alla fattura elettronica è guasto"_s);
+        return;
+    }
+    if (!f2e.fatturaPa())
+        return;
+    const QString nome = u"fpa"_s + testoDecimale(f2e.fpa);
+    const auto [altro, primo] = c.fattpa.emplace(f2e.fpa, n);
+    if (!primo)
+        c.aggiungi(
+            Gravita::Errore, fte, n,
+            u"i dati della fattura elettronica %1 sono anche del documento con record %2"_s.arg(nome).arg(
+                altro->second));
+    const auto file = c.file.constFind(nome);
+    if (file == c.file.constEnd())
+        c.aggiungi(Gravita::Errore, fte, n, u"il file della fattura elettronica %1 non c'è"_s.arg(nome));
+    else if (*file < qint64{sizeof(Fpa)})
+        c.aggiungi(Gravita::Errore, fte, n,
+                   u"il file della fattura elettronica %1 è incompleto: %2 byte invece di %3"_s.arg(nome)
+                       .arg(*file)
+                       .arg(sizeof(Fpa)));
+    if (f2e.fpa > c.archivio.leggiTot(Conta::Fpa).numero)
+        c.aggiungi(
+            Gravita::Avviso, fte, n,
+            u"la fattura elettronica %1 supera il contatore: una prossima la può sovrascrivere"_s.arg(nome));
+}
+
+void verificaDocumento(Confronto& c, const Fte& fte, const F2e& f2e, int n, bool f2eSuFile) {
+    verificaCliente(c, fte, n);
+    verificaRighe(c, fte, n);
+    if (f2e.marca == F2e::marcaValida)
+        verificaFpa(c, fte, f2e, n);
+    else if (f2eSuFile)
+        c.aggiungi(Gravita::Avviso, fte, n,
+                   u"la seconda metà in borlano.f2e non è mai stata scritta (marca %1)"_s.arg(f2e.marca));
+}
+
+} // namespace
+
+Discordanze verificaDocumenti(const Archivio& archivio) {
+    Confronto c = confrontoPer(archivio);
+    const int documenti = inUso(archivio, Conta::Fte, archivio.fte);
+    const int conF2e = inUso(archivio, Conta::Fte, archivio.f2e);
+    std::vector<F2e> code(static_cast<std::size_t>(documenti));
+    archivio.f2e.leggiBlocco(1, code);
+    archivio.fte.scorri(1, documenti, [&](int n, const Fte& fte) {
+        if (fte.annullata != 1)
+            verificaDocumento(c, fte, code[static_cast<std::size_t>(n - 1)], n, n <= conF2e);
+        return true;
+    });
+    return c.trovate;
+}
+
+} // namespace bor

@@ -1,0 +1,77 @@
+// Reads a company's archive and prints what in it does not agree; writes nothing. Ends with 0 when nothing is
+// wrong, 1 when there are errors or warnings, 2 when the archive cannot be read.
+#include "borverifica/verifica.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Esito { InOrdine = 0, ConDiscordanze = 1, Illeggibile = 2 };
+
+Esito verificaAzienda(const QString& unita, int codice) {
+    const bor::Percorsi percorsi(QDir(unita).absolutePath(), QString());
+    bor::Disco disco;
+    bor::Archivio archivio(percorsi, disco, codice);
+    const QString tot = archivio.reale(archivio.borlano(u"tot"));
+    if (!QFileInfo::exists(tot)) {
+        QTextStream(stderr) << u"%1 non c'è: qui non c'è l'archivio dell'azienda %2.\n"_s.arg(tot).arg(
+            codice);
+        return Illeggibile;
+    }
+    archivio.apri(bor::Apertura::SolaLettura);
+    if (const QStringList chiusi = bor::nonLeggibili(archivio); !chiusi.isEmpty()) {
+        QTextStream(stderr)
+            << u"Non si può leggere %1: manca il permesso, o un altro programma lo tiene per sé.\n"_s.arg(
+                   chiusi.join(u", "_s));
+        return Illeggibile;
+    }
+    const bor::Discordanze trovate = bor::verifica(archivio);
+    QTextStream uscita(stdout);
+    for (const bor::Discordanza& discordanza : trovate)
+        uscita << discordanza.testo() << '\n';
+    const auto quante = [&](bor::Gravita gravita) {
+        return std::ranges::count(trovate, gravita, &bor::Discordanza::gravita);
+    };
+    const auto errori = quante(bor::Gravita::Errore);
+    const auto avvisi = quante(bor::Gravita::Avviso);
+    uscita
+        << u"Azienda %1: %2 errori, %3 avvisi, %4 informazioni.\n"_s.arg(codice).arg(errori).arg(avvisi).arg(
+               quante(bor::Gravita::Informazione));
+    return errori + avvisi == 0 ? InOrdine : ConDiscordanze;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication programma(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Legge l'archivio di un'azienda e dice che cosa non concorda, senza scrivere nulla. Da usare quando "
+        u"nessuno sta registrando documenti."_s);
+    parser.addOptions({{u"unita"_s, u"Cartella che fa da radice dell'unità."_s, u"cartella"_s, u"."_s},
+                       {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
+                       {{u"h"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s}});
+    if (!parser.parse(QCoreApplication::arguments())) {
+        QTextStream(stderr) << parser.errorText() << '\n';
+        return Illeggibile;
+    }
+    if (parser.isSet(u"aiuto"_s)) {
+        QTextStream(stdout) << parser.helpText();
+        return InOrdine;
+    }
+    bool valido = false;
+    const int codice = parser.value(u"azienda"_s).toInt(&valido);
+    if (!valido || codice < 0 || codice > 999) {
+        QTextStream(stderr) << u"--azienda: serve un numero da 0 a 999.\n"_s;
+        return Illeggibile;
+    }
+    return verificaAzienda(parser.value(u"unita"_s), codice);
+}

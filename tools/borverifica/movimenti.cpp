@@ -1,0 +1,99 @@
+#include "borverifica/verifica.h"
+
+#include "common/date.h"
+
+#include <unordered_map>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+struct PerStamp {
+    QStringList documenti; ///< live ones
+    bool documentoEliminato = false;
+    QList<int> movimenti; ///< live ones
+};
+
+using Legami = std::unordered_map<double, PerStamp>;
+
+QString nomeMovimento(const Gio& gio, int n) {
+    return u"movimento %1 del %2, \"%3\""_s.arg(n).arg(dataDaAnnoMeseGiorno(gio.data.text()),
+                                                       puliscitesto(gio.descrizione.text()));
+}
+
+void leggiDocumenti(const Archivio& archivio, Legami& legami, Discordanze& trovate) {
+    archivio.fte.scorri(1, inUso(archivio, Conta::Fte, archivio.fte), [&](int n, const Fte& fte) {
+        if (!collegato(fte.stamp)) {
+            if (fte.stamp != 0.0)
+                trovate.append({Gravita::Errore, nomeDocumento(fte, n),
+                                u"il riferimento a movimenti e magazzino è guasto"_s});
+            return true;
+        }
+        PerStamp& suo = legami[fte.stamp];
+        if (fte.annullata == 1)
+            suo.documentoEliminato = true;
+        else
+            suo.documenti.append(nomeDocumento(fte, n));
+        return true;
+    });
+}
+
+/// Whether there is any movement of a document at all: without one the company keeps its journal elsewhere.
+bool leggiMovimenti(const Archivio& archivio, Legami& legami, Discordanze& trovate) {
+    bool almenoUno = false;
+    archivio.gio.scorri(1, inUso(archivio, Conta::Gio, archivio.gio), [&](int n, const Gio& gio) {
+        if (!collegato(gio.riferimentofattura) || gio.tipomovimento == Gio::chiusura)
+            return true;
+        almenoUno = true;
+        if (gio.cancellato == 1)
+            return true;
+        PerStamp& suo = legami[gio.riferimentofattura];
+        suo.movimenti.append(n);
+        if (suo.documenti.isEmpty())
+            trovate.append({Gravita::Avviso, nomeMovimento(gio, n),
+                            suo.documentoEliminato ? u"il suo documento è stato eliminato"_s
+                                                   : u"il suo documento non c'è"_s});
+        return true;
+    });
+    return almenoUno;
+}
+
+QString numeri(const QList<int>& movimenti) {
+    QStringList testi;
+    for (const int n : movimenti)
+        testi.append(QString::number(n));
+    return testi.join(u", "_s);
+}
+
+} // namespace
+
+Discordanze verificaMovimenti(const Archivio& archivio) {
+    Discordanze trovate;
+    Legami legami;
+    leggiDocumenti(archivio, legami, trovate);
+    const bool conMovimenti = leggiMovimenti(archivio, legami, trovate);
+    archivio.fte.scorri(1, inUso(archivio, Conta::Fte, archivio.fte), [&](int n, const Fte& fte) {
+        const auto suo = legami.find(fte.stamp);
+        if (fte.annullata == 1 || suo == legami.end() || suo->second.documenti.isEmpty())
+            return true;
+        const auto& [documenti, eliminato, movimenti] = suo->second;
+        const QString nome = nomeDocumento(fte, n);
+        if (documenti.size() > 1 && documenti.first() == nome)
+            trovate.append({Gravita::Errore, nome,
+                            u"ha lo stesso riferimento a movimenti e magazzino di altri documenti: %1"_s.arg(
+                                documenti.mid(1).join(u", "_s))});
+        if (movimenti.size() > 1)
+            trovate.append({Gravita::Avviso, nome, u"ha più movimenti contabili: "_s + numeri(movimenti)});
+        if (movimenti.isEmpty() && conMovimenti)
+            trovate.append({Gravita::Avviso, nome, u"non ha un movimento contabile"_s});
+        return true;
+    });
+    if (!conMovimenti && !legami.empty())
+        trovate.append(
+            {Gravita::Informazione, u"borlano.gio"_s, u"nessun documento ha un movimento contabile"_s});
+    return trovate;
+}
+
+} // namespace bor

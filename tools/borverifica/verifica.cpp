@@ -1,0 +1,46 @@
+#include "borverifica/verifica.h"
+
+#include <QFileInfo>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+QString Discordanza::testo() const {
+    const QString parola = gravita == Gravita::Errore   ? u"ERRORE"_s
+                           : gravita == Gravita::Avviso ? u"AVVISO"_s
+                                                        : u"INFO"_s;
+    return parola.leftJustified(8) + dove + u": "_s + motivo;
+}
+
+Discordanze verifica(const Archivio& archivio) {
+    return verificaContatori(archivio) + verificaDocumenti(archivio) + verificaMovimenti(archivio) +
+           verificaConti(archivio) + verificaMagazzino(archivio) + verificaIndici(archivio) +
+           verificaNumerazione(archivio);
+}
+
+QStringList nonLeggibili(const Archivio& archivio) {
+    QStringList chiusi;
+    for (const FileCasuale* f : std::initializer_list<const FileCasuale*>{
+             &archivio.tot, &archivio.cli, &archivio.src, &archivio.art, &archivio.srb, &archivio.con,
+             &archivio.fte, &archivio.f2e, &archivio.mag, &archivio.gio, &archivio.age}) {
+        if (!f->aperto() && QFileInfo::exists(f->percorso()))
+            chiusi.append(f->percorso());
+    }
+    return chiusi;
+}
+
+bool collegato(double stamp) {
+    return std::isfinite(stamp) && stamp != 0.0;
+}
+
+QString nomeDocumento(const Fte& fte, int record) {
+    const QString genere = fte.parcella != 0 ? u"parcella"_s
+                           : fte.tipo == 1   ? u"nota di credito"_s
+                                             : u"fattura"_s;
+    return u"%1 n. %2 (record %3)"_s.arg(genere, puliscitesto(fte.numero.text())).arg(record);
+}
+
+} // namespace bor
