@@ -29,12 +29,17 @@ Totali totali(const Documento& documento) {
     return t;
 }
 
-void ricalcolaDocumento(Documento& documento, const Contesto& contesto) {
-    const Totali t = totali(documento);
+void calcolaProvvigione(Documento& documento, const Contesto& contesto) {
     Scadenze& scadenze = documento.scadenze;
-    if (!scadenze.provaliq.trimmed().isEmpty())
-        scadenze.provimp =
-            testoDecimale(contesto.valuta().percentuale(t.somma1 + t.somma3, valore(scadenze.provaliq)));
+    if (scadenze.provaliq.trimmed().isEmpty())
+        return;
+    const Totali t = totali(documento);
+    scadenze.provimp =
+        testoDecimale(contesto.valuta().percentuale(t.somma1 + t.somma3, valore(scadenze.provaliq)));
+}
+
+void ricalcolaDocumento(Documento& documento, const Contesto& contesto) {
+    calcolaProvvigione(documento, contesto);
     calcolarate(documento, contesto);
 }
 

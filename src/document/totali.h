@@ -19,8 +19,11 @@ struct Totali {
 
 Totali totali(const Documento& documento);
 
-/// After any change of an amount: the agent's commission (never on the tax) and the instalments follow. Not
-/// while a document is being filled from its records.
+/// The agent's commission from his rate, where there is one: on taxable and exempt amounts, never on the tax.
+void calcolaProvvigione(Documento& documento, const Contesto& contesto);
+
+/// After any change of an amount: the agent's commission and the instalments follow. Not while a
+/// document is being filled from its records.
 void ricalcolaDocumento(Documento& documento, const Contesto& contesto);
 
 /// Puts the VAT rows of the lines into the document. The withholding typed in its panel survives as long as

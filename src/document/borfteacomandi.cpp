@@ -1,0 +1,129 @@
+// The command bar of the document form.
+#include "common/numeri.h"
+#include "document/apripdf.h"
+#include "document/borftea.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+bool Borftea::abilitato(Comando comando) const {
+    switch (comando) {
+    case Comando::Testata:
+        return !nuovo();
+    case Comando::Salva:
+        return static_cast<bool>(m_comandi.salva);
+    case Comando::Elimina:
+        return !nuovo() && m_comandi.elimina;
+    case Comando::Stampa:
+        return static_cast<bool>(m_comandi.stampa);
+    case Comando::Anteprima:
+        return static_cast<bool>(m_comandi.anteprima);
+    case Comando::FatturaPa:
+        return m_documento.fatturaPa() && m_comandi.fatturaPa;
+    default:
+        return true;
+    }
+}
+
+void Borftea::esegui(Comando comando) {
+    if (!abilitato(comando))
+        return;
+    switch (comando) {
+    case Comando::Esci:
+        return esci();
+    case Comando::Salva:
+        return salva();
+    case Comando::Righe:
+        return righe();
+    case Comando::Pdf:
+        m_pdfVisibile = !m_pdfVisibile;
+        return;
+    case Comando::Elimina:
+        return elimina();
+    case Comando::Stampa:
+        return m_comandi.stampa();
+    case Comando::Anteprima:
+        return m_comandi.anteprima();
+    case Comando::Testata:
+        return testata();
+    case Comando::FatturaPa:
+        return m_comandi.fatturaPa();
+    }
+}
+
+void Borftea::chiudi() {
+    m_contesto.sessione.documentoletto = false;
+    m_contesto.sessione.righelette = false;
+}
+
+void Borftea::esci() {
+    chiudi();
+    m_contesto.navigatore.mostra(Schermo::Borfte);
+}
+
+void Borftea::salva() {
+    // The register shows what is on file, also where a save got only half the way.
+    m_contesto.sessione.listadaaggiornare = true;
+    const EsitoSalva esito = m_comandi.salva();
+    m_fuoco = esito.fuoco;
+    if (esito.dopo == DopoSalva::Resta)
+        return;
+    chiudi();
+    m_contesto.navigatore.mostra(esito.dopo == DopoSalva::Movimento ? Schermo::Borftec : Schermo::Borfte);
+}
+
+void Borftea::elimina() {
+    if (!m_comandi.elimina())
+        return;
+    m_contesto.sessione.listadaaggiornare = true;
+    esci();
+}
+
+void Borftea::righe() {
+    Sessione& sessione = m_contesto.sessione;
+    sessione.documentoletto = true;
+    sessione.righelette = false;
+    Fte& fte = m_documento.coppia.fte;
+    if (fte.nfile == 0.0F)
+        fte.nfile = -1.0F;
+    m_contesto.navigatore.mostra(m_documento.parcella() ? Schermo::Borftek : Schermo::Borftex);
+}
+
+void Borftea::testata() {
+    m_contesto.sessione.tipoparcella = m_documento.coppia.fte.parcella;
+    m_contesto.navigatore.mostra(Schermo::Borftem);
+}
+
+void Borftea::sceglipdf() {
+    Operatore& operatore = m_contesto.operatore;
+    const QString scelto = operatore.scegliFile(u"Documento in formato PDF"_s, u"*.pdf"_s).trimmed();
+    if (scelto.isEmpty())
+        return;
+    QString nome = m_contesto.archivio.percorsi().dos(scelto).value_or(QString());
+    if (nome.isEmpty()) {
+        operatore.messaggio(u"Il file scelto non si trova nei dischi della contabilità: copiatelo lì e "
+                            "sceglietelo di nuovo"_s,
+                            u"Attenzione"_s, Icona::Stop);
+        return;
+    }
+    // Stored without its drive, by which the computers of an office differ.
+    if (pezzo(nome, 2, 1) == u":")
+        nome = pezzo(nome, 3);
+    if (!maiuscolo(nome).contains(u"PDF"_s) || nome.contains(u'*'))
+        return;
+    if (nome.size() > caratteriPdf) {
+        operatore.messaggio(u"Il nome del file e della sua cartella superano i 60 caratteri"_s,
+                            u"Attenzione"_s, Icona::Stop);
+        return;
+    }
+    m_documento.estremi.pdf = nome;
+}
+
+void Borftea::apripdf() const {
+    ApriPDF(m_contesto, m_documento.estremi.pdf);
+}
+
+} // namespace bor

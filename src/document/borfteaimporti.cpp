@@ -1,0 +1,61 @@
+// The amounts of the document form: VAT rows, totals, and what makes the instalments follow them.
+#include "common/numeri.h"
+#include "document/borftea.h"
+#include "document/scadenze.h"
+#include "document/totali.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+void Borftea::scorri(int primariga) {
+    m_primariga = std::clamp(primariga, 1, ultimaPosizione);
+}
+
+QString Borftea::etichettaIva(int linea) const {
+    const auto riga = static_cast<std::size_t>(rigaIva(linea));
+    const QString libera = m_contesto.tabelle.esenzioni[riga][1].trimmed();
+    if (libera.size() > 1)
+        return libera;
+    const QString aliquota = m_contesto.tabelle.aliquote[riga][0].trimmed();
+    return aliquota.isEmpty() ? u"Non definito"_s : u"Aliquota iva "_s + aliquota + u'%';
+}
+
+QString Borftea::etichettaEsente(int linea) const {
+    return m_contesto.tabelle.esenzioni[static_cast<std::size_t>(rigaIva(linea))][0].trimmed();
+}
+
+QString Borftea::importo(int linea, VoceIva voce) const {
+    return testoCasella(importoIva(m_documento.coppia, voce, rigaIva(linea)));
+}
+
+void Borftea::cambiaImporto(int linea, VoceIva voce, const QString& testo) {
+    mettiImportoIva(m_documento.coppia, voce, rigaIva(linea), valorevirgola(testo));
+    ricalcolaDocumento(m_documento, m_contesto);
+}
+
+QString Borftea::totale(int indice) const {
+    const Totali t = totali(m_documento);
+    const std::array<double, 4> somme = {t.somma1, t.somma2, t.somma3, t.totaledoc};
+    return u' ' + m_contesto.valuta().importotesto(somme[static_cast<std::size_t>(indice)]);
+}
+
+void Borftea::cambiaPagamento(int posizione) {
+    m_documento.scadenze.pagamento = posizione;
+    calcolascadenze(m_documento, m_contesto);
+    calcolarate(m_documento, m_contesto);
+}
+
+void Borftea::cambiaAliquotaProvvigione(const QString& testo) {
+    m_documento.scadenze.provaliq = testo;
+    calcolaProvvigione(m_documento, m_contesto);
+}
+
+void Borftea::cambiaRitenuta(int riga, const QString& testo) {
+    m_documento.prospetti.ritenute[static_cast<std::size_t>(riga)].raimp = testo;
+    ricalcolaDocumento(m_documento, m_contesto);
+}
+
+} // namespace bor

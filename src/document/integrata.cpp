@@ -1,0 +1,29 @@
+#include "document/integrata.h"
+
+#include "archive/tabelle.h"
+#include "common/testo.h"
+#include "document/righeiva.h"
+
+#include <algorithm>
+
+namespace bor {
+
+Integrata cercaIntegrata(const CoppiaFte& coppia, const Tabelle& tabelle) {
+    const double marca = coppia.f2e.resy2;
+    if (!(marca > 0.0))
+        return Integrata::No;
+    int posizione = 1;
+    for (int r = 2; r <= righeIva; ++r) {
+        if (importoIva(coppia, VoceIva::Imposta, r) != 0.0)
+            posizione = r;
+    }
+    const auto& tipi = tabelle.tipiiva;
+    const double ultima = static_cast<double>(tipi.size() - 1);
+    const QString& tipo = tipi[static_cast<std::size_t>(std::min(marca, ultima))][1];
+    const QString segno = pezzo(tipo, posizione, 1);
+    if (segno == u"1")
+        return Integrata::ReverseCharge;
+    return segno == u"2" ? Integrata::Intracomunitaria : Integrata::No;
+}
+
+} // namespace bor

@@ -1,0 +1,278 @@
+// The document form: how it opens, and what follows from what is typed.
+#include "document/borftea.h"
+#include "support/azienda.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+using Comando = Borftea::Comando;
+using Prospetto = Borftea::Prospetto;
+
+class DocumentForm : public testing::Test {
+protected:
+    DocumentForm() {
+        Cli cli = clienteDi(u"Rossi"_s);
+        cli.riba = 1;
+        cli.pagamento = 1;
+        cli.postael.set(u"1");
+        cliente = azienda.cliente(cli);
+        contesto.tabelle.tipopagamenti[1] = {u"Trenta giorni"_s, u"001"_s};
+        contesto.tabelle.esenzioni[0][1] = u"01"_s;
+        sessione.recordcliente = cliente;
+    }
+    void nuovo(int tipo = 0) {
+        sessione.recordfattura = 0;
+        sessione.tipodocumento = tipo;
+        riapri();
+    }
+    void esistente(CoppiaFte coppia) {
+        sessione.recordfattura = azienda.documento(coppia);
+        riapri();
+    }
+    void riapri() {
+        sessione.documentoletto = sessione.righelette = false;
+        form.attiva();
+    }
+    QStringList testi() const {
+        QStringList t;
+        for (const Messaggio& m : contesto.operatore.messaggi)
+            t.append(m.testo);
+        return t;
+    }
+
+    AziendaDiProva azienda;
+    int cliente = 0;
+    ContestoDiProva contesto{azienda};
+    Sessione& sessione = contesto.sessione;
+    Documento documento;
+    EsitoSalva esito;
+    int caricati = 0;
+    ComandiEsterni comandi{.carica =
+                               [this] {
+                                   ++caricati;
+                                   documento.estremi.numero = documento.coppia.fte.numero.text().trimmed();
+                                   documento.estremi.esig = true;
+                               },
+                           .salva = [this] { return esito; },
+                           .elimina = [] { return true; },
+                           .stampa = {},
+                           .anteprima = {},
+                           .fatturaPa = [] {}};
+    Borftea form{contesto.contesto, documento, comandi};
+};
+
+TEST_F(DocumentForm, NuovoDocumento_NumeriDateECliente) {
+    azienda.documento(documentoDi(cliente, u"41"_s, 10, 2.2));
+    Tot contatore = contesto.archivio.leggiTot(Conta::Fte);
+    contatore.ultimonumero = 41;
+    contesto.archivio.scriviTot(Conta::Fte, contatore);
+    documento.testata.cliente.email = u"typed@in.head"_s;
+    documento.ddd[0].descrizione = u"of the document before"_s;
+    documento.coppia.fte.parcella = 1;
+    nuovo(1);
+    EXPECT_EQ(form.titolo(), u"Memorizzazione nota di credito emessa");
+    EXPECT_EQ(form.estremi().numero, u"42");
+    EXPECT_EQ(form.estremi().protocollo, u"2");
+    EXPECT_EQ(form.estremi().data + form.estremi().datareg, u"15/03/201515/03/2015");
+    EXPECT_TRUE(form.estremi().esig && form.estremi().postael && form.scadenze().rib);
+    EXPECT_EQ(form.scadenze().rate[0].scadenza, u"15/04/2015");
+    EXPECT_EQ(form.scadenze().rate[0].importo, u"") << "no split before there are amounts";
+    EXPECT_EQ(documento.testata.cliente.email, u"typed@in.head");
+    EXPECT_EQ(documento.ddd[0].descrizione, u"");
+    EXPECT_EQ(documento.coppia.fte.parcella, 0);
+    EXPECT_EQ(documento.coppia.f2e.marca, 999);
+    EXPECT_FALSE(form.abilitato(Comando::Elimina) || form.abilitato(Comando::Testata));
+    EXPECT_FALSE(form.abilitato(Comando::FatturaPa) || form.abilitato(Comando::Stampa));
+    const auto posto = form.prendiFuoco();
+    EXPECT_TRUE(posto && posto->campo == CampoTea::Numero);
+    EXPECT_FALSE(form.prendiFuoco());
+}
+
+TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
+    CoppiaFte coppia = documentoDi(cliente, u"7"_s, 100, 22);
+    coppia.fte.tipo = 1;
+    coppia.fte.parcella = 1;
+    esistente(coppia);
+    EXPECT_EQ(form.titolo(), u"Modifica dati nota di credito emessa");
+    EXPECT_EQ(sessione.tipodocumento, 1);
+    EXPECT_EQ(sessione.tipoparcella, 1);
+    EXPECT_TRUE(form.abilitato(Comando::Elimina) && form.abilitato(Comando::Testata));
+    EXPECT_EQ(documento.testata.cliente.sede.ragione1, u"Rossi");
+    form.attiva();
+    EXPECT_EQ(caricati, 1) << "a form still open is not filled again";
+
+    form.esegui(Comando::Righe);
+    EXPECT_EQ(documento.coppia.fte.nfile, -1.0F);
+    form.scorri(5);
+    contesto.tabelle.esenzioni[0][1].clear();
+    form.attiva();
+    EXPECT_EQ(caricati, 1);
+    EXPECT_EQ(form.primariga(), 1);
+    EXPECT_FALSE(form.estremi().esig) << "the regime forbids it";
+    form.esegui(Comando::Esci);
+    EXPECT_EQ(contesto.navigatore.mostrati, (QList{Schermo::Borftek, Schermo::Borfte}));
+    EXPECT_FALSE(sessione.documentoletto || sessione.righelette);
+
+    coppia.f2e.fpa = 3;
+    coppia.fte.parcella = 0;
+    esistente(coppia);
+    EXPECT_EQ(form.titolo(), u"Modifica dati fatturaPA emessa");
+    EXPECT_EQ(sessione.recordfpa, 3);
+    EXPECT_TRUE(form.abilitato(Comando::FatturaPa));
+    EXPECT_EQ(form.scadenze().pagamento, -1) << "what a document has does not come from the customer";
+    form.esegui(Comando::Righe);
+    EXPECT_EQ(contesto.navigatore.mostrati.last(), Schermo::Borftex);
+}
+
+TEST_F(DocumentForm, RigheIva_EtichetteScorrimentoETotali) {
+    contesto.tabelle.aliquote[1][0] = u" 22 "_s;
+    contesto.tabelle.aliquote[5][0] = u"4"_s;
+    contesto.tabelle.esenzioni[2] = {u"Art. 15"_s, u"x"_s};
+    contesto.tabelle.esenzioni[5] = {u"Art. 8"_s, u"Cessioni UE"_s};
+    nuovo();
+    EXPECT_EQ(form.etichettaIva(0), u"Aliquota iva 22%");
+    EXPECT_EQ(form.etichettaIva(1), u"Non definito") << "a caption of one character is none";
+    EXPECT_EQ(form.etichettaEsente(1), u"Art. 15");
+    EXPECT_EQ(form.etichettaIva(4), u"Cessioni UE");
+    EXPECT_EQ(form.totale(3), u" ");
+    form.cambiaImporto(1, VoceIva::Imponibile, u"1000,505"_s);
+    form.scorri(9);
+    EXPECT_EQ(form.primariga(), 5);
+    EXPECT_EQ(form.etichettaIva(0), u"Cessioni UE");
+    form.cambiaImporto(7, VoceIva::Esente, u"50"_s);
+    form.cambiaImporto(7, VoceIva::Imposta, u"2x"_s);
+    EXPECT_EQ(double{documento.coppia.fte.impon[1]}, 1000.505) << "typed amounts are not rounded";
+    EXPECT_EQ(double{documento.coppia.f2e.esen[3]}, 50);
+    EXPECT_EQ(form.importo(7, VoceIva::Esente), u"50");
+    EXPECT_EQ(form.importo(6, VoceIva::Esente), u"");
+    EXPECT_EQ(form.totale(0), u" 1.000,51");
+    EXPECT_EQ(form.totale(1), u" 2,00");
+    EXPECT_EQ(form.totale(2), u" 50,00");
+    EXPECT_EQ(form.totale(3), u" 1.052,51");
+    EXPECT_EQ(form.scadenze().rate[0].importo, u"1052.505");
+    form.cambiaRitenuta(2, u"52.5"_s);
+    EXPECT_EQ(form.scadenze().rate[0].importo, u"1000.005");
+    form.scadenze().rate[0].importo = u"900"_s;
+    form.cambiaAliquotaProvvigione(u"10"_s);
+    EXPECT_EQ(form.scadenze().provimp, u"105.05");
+    EXPECT_EQ(form.scadenze().rate[0].importo, u"900") << "a typed instalment stands";
+    contesto.tabelle.tipopagamenti[2][1] = u"001002"_s;
+    form.cambiaPagamento(1);
+    EXPECT_EQ(form.scadenze().rate[0].importo, u"500.005");
+    EXPECT_EQ(form.scadenze().rate[1].importo, u"500");
+    EXPECT_EQ(form.scadenze().rate[1].scadenza, u"15/05/2015");
+}
+
+TEST_F(DocumentForm, UscitaDallaDataDiEmissione) {
+    nuovo();
+    form.estremi().data = u"31122015"_s;
+    form.estremi().datareg = u"mai"_s;
+    form.lasciaData();
+    EXPECT_EQ(form.estremi().data, u"31/12/2015");
+    EXPECT_EQ(form.estremi().datareg, u"31/12/2015");
+    EXPECT_EQ(form.scadenze().rate[0].scadenza, u"31/01/2016");
+    EXPECT_EQ(form.prospetti().terminemese + form.prospetti().termineanno, u"122016");
+    form.estremi().data = u"31/02/2016"_s;
+    form.lasciaData();
+    EXPECT_EQ(form.scadenze().rate[0].scadenza, u"31/01/2016");
+    form.estremi().data = u"01/03/2016"_s;
+    form.lasciaData();
+    EXPECT_EQ(form.estremi().datareg, u"31/12/2015") << "a valid date stays";
+}
+
+TEST_F(DocumentForm, AvvisoSulNumeroCambiato) {
+    nuovo();
+    form.estremi().numero = u"99"_s;
+    form.lasciaNumero();
+    EXPECT_EQ(testi(), QStringList()) << "a new document has no PDF yet";
+    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    form.estremi().numero = u" 7 "_s;
+    form.lasciaNumero();
+    EXPECT_EQ(testi(), QStringList());
+    form.estremi().numero = u"8"_s;
+    form.lasciaNumero();
+    form.lasciaNumero();
+    EXPECT_EQ(
+        testi(),
+        QStringList(u"E' stato modificato il numero del documento. Nel caso abbiate generato un documento "
+                    "PDF, ristampate il documento moficato oppure selezionate un diverso file PDF"_s));
+    EXPECT_EQ(contesto.operatore.messaggi[0].icona, Icona::Stop);
+}
+
+TEST_F(DocumentForm, IvaDifferitaRifiutataDalRegime) {
+    nuovo();
+    EXPECT_TRUE(form.mostraProspetto(Prospetto::IvaDifferita));
+    EXPECT_TRUE(form.mostraProspetto(Prospetto::Ritenute));
+    contesto.tabelle.esenzioni[0][1] = u"00"_s;
+    EXPECT_FALSE(form.mostraProspetto(Prospetto::IvaDifferita));
+    EXPECT_EQ(form.prospetto(), Prospetto::Ritenute);
+    EXPECT_EQ(testi(),
+              QStringList(u"Il regime iva preselezionato non prevede l'iva ad esigibilità differita"_s));
+}
+
+TEST_F(DocumentForm, FatturaIntegrata_UltimaRigaConImposta) {
+    contesto.tabelle.tipiiva[0][1] = u"2"_s;
+    contesto.tabelle.tipiiva[16][1] = u"00100000000 1"_s;
+    contesto.tabelle.tipiiva[4][1] = u"0020000000 1"_s;
+    CoppiaFte coppia = documentoDi(cliente, u"7"_s, 100, 22);
+    coppia.fte.iva[2] = 5;
+    const auto linea = [&](double resy2) {
+        coppia.f2e.resy2 = resy2;
+        esistente(coppia);
+        return form.integrata();
+    };
+    EXPECT_EQ(linea(0), u"");
+    EXPECT_EQ(linea(0.5), u"") << "row 0 has no third character";
+    EXPECT_EQ(linea(4.9), u"Fattura integrata operazione intracomunitaria");
+    EXPECT_EQ(linea(1e300), u"Fattura integrata operazione reverse charge");
+    coppia.f2e.iva[3] = 1;
+    EXPECT_EQ(linea(4), u"Fattura integrata operazione reverse charge");
+    coppia.fte.iva[2] = 0;
+    coppia.f2e.iva[3] = 0;
+    EXPECT_EQ(linea(0.5), u"Fattura integrata operazione intracomunitaria")
+        << "row 1 without looking at its tax";
+    nuovo();
+    EXPECT_EQ(form.integrata(), u"");
+}
+
+TEST_F(DocumentForm, SceltaDelPdf) {
+    nuovo();
+    const auto scegli = [this](const QString& nome) {
+        contesto.operatore.fileScelto = azienda.radice() + nome;
+        form.sceglipdf();
+        return form.estremi().pdf;
+    };
+    EXPECT_EQ(scegli(u"ftr12.pdf"_s), u"\\suprok\\suprok\\ftr12.pdf");
+    EXPECT_EQ(scegli(u"ftr13.txt"_s), u"\\suprok\\suprok\\ftr12.pdf") << "no PDF";
+    EXPECT_EQ(testi(), QStringList());
+    scegli(QString(50, u'x') + u".pdf"_s);
+    contesto.operatore.fileScelto = u"/elsewhere/ftr12.pdf"_s;
+    form.sceglipdf();
+    EXPECT_EQ(form.estremi().pdf, u"\\suprok\\suprok\\ftr12.pdf");
+    EXPECT_EQ(testi().size(), 2);
+    contesto.operatore.fileScelto = azienda.radice() + u"../../c/a.pdf"_s;
+    form.sceglipdf();
+    EXPECT_EQ(form.estremi().pdf.toLower(), u"\\c\\a.pdf");
+}
+
+TEST_F(DocumentForm, DopoIlSalvataggio) {
+    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    form.prendiFuoco();
+    esito.fuoco = PostoTea{CampoTea::Scadenza, 3};
+    form.esegui(Comando::Salva);
+    EXPECT_TRUE(contesto.navigatore.mostrati.isEmpty() && sessione.documentoletto);
+    EXPECT_EQ(form.prendiFuoco()->indice, 3);
+    esito = {DopoSalva::Movimento, {}};
+    form.esegui(Comando::Salva);
+    EXPECT_TRUE(sessione.listadaaggiornare);
+    EXPECT_FALSE(sessione.documentoletto || sessione.righelette);
+    form.esegui(Comando::Elimina);
+    EXPECT_EQ(contesto.navigatore.mostrati, (QList{Schermo::Borftec, Schermo::Borfte}));
+}
+
+} // namespace
+} // namespace bor
