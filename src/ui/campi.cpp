@@ -132,9 +132,11 @@ BottoneComando::BottoneComando(const QString& nome, const QString& didascalia, c
     setObjectName(nome);
     setText(didascalia);
     setAccessibleName(didascalia);
-    setIcon(QIcon(u":/icone/%1.svg"_s.arg(icona)));
-    setIconSize(QSize(28, 28));
-    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    if (!icona.isEmpty()) {
+        setIcon(QIcon(u":/icone/%1.svg"_s.arg(icona)));
+        setIconSize(QSize(28, 28));
+        setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    }
     setFocusPolicy(Qt::TabFocus);
     setShortcut(tasto);
     const QString scritto = tasto.toString(QKeySequence::NativeText);

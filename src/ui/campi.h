@@ -54,7 +54,7 @@ private:
 /// A picture button: icon, caption under it, and its shortcut in the tooltip.
 class BottoneComando : public QToolButton {
 public:
-    /// `icona` names a file of `src/ui/icone` without its ending.
+    /// `icona` names a file of `src/ui/icone` without its ending; without one the button is its text.
     BottoneComando(const QString& nome, const QString& didascalia, const QString& icona,
                    const QKeySequence& tasto, QWidget* parent = nullptr);
 

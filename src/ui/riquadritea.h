@@ -1,0 +1,36 @@
+// The frames of the document form, each made by a function of its own.
+#pragma once
+
+#include "document/borftea.h"
+#include "ui/campitea.h"
+
+class QGroupBox;
+
+namespace bor {
+
+/// What a frame is made with.
+struct BancoTea {
+    Borftea& form;
+    Legami& legami;
+    PercorsoInvio& invio;
+    CampiTea campi{legami};
+};
+
+/// A frame and the ends of its Enter walk.
+struct RiquadroTea {
+    QGroupBox* gruppo;
+    QWidget* primo;
+    QWidget* ultimo;
+};
+
+RiquadroTea creaEstremi(const BancoTea& banco);
+RiquadroTea creaScadenze(const BancoTea& banco);
+RiquadroTea creaRicavi(const BancoTea& banco);
+
+// These share one place.
+RiquadroTea creaRigheIva(const BancoTea& banco);
+RiquadroTea creaIvaDifferita(const BancoTea& banco);
+RiquadroTea creaRitenute(const BancoTea& banco);
+RiquadroTea creaSpesometro(const BancoTea& banco);
+
+} // namespace bor

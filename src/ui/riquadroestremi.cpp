@@ -1,0 +1,83 @@
+// Numbers and dates of a document; the revenue items of the simplified accounts.
+#include "ui/riquadritea.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+RiquadroTea creaEstremi(const BancoTea& banco) {
+    auto* gruppo = new QGroupBox(u"Estremi del documento"_s);
+    gruppo->setObjectName(u"Frame1"_s);
+    auto* griglia = new QGridLayout(gruppo);
+    griglia->setVerticalSpacing(7);
+    Borftea& form = banco.form;
+    Estremi& estremi = form.estremi();
+
+    auto* numero = banco.campi.testo(u"Text2(0)"_s, u"Numero del documento"_s, 10, estremi.numero);
+    banco.legami.lasciato(numero, [&form] { form.lasciaNumero(); });
+    auto* emissione =
+        banco.campi.data(u"text3(1)"_s, u"calendario(1)"_s, u"Data di emissione"_s, estremi.data);
+    banco.legami.lasciato(emissione->campo(), [&form] { form.lasciaData(); });
+    auto* registrazione =
+        banco.campi.data(u"text3(2)"_s, u"calendario(2)"_s, u"Data di registrazione"_s, estremi.datareg);
+    auto* protocollo =
+        banco.campi.importo(u"Text2(3)"_s, u"Numero di protocollo personalizzato"_s, estremi.protocollo);
+    auto* registro = banco.campi.lista(u"Combo5"_s, u"Numero registro iva"_s,
+                                       u"0 1 2 3 4 5 6 7 8 9"_s.split(u' '), estremi.registro);
+    auto* esig = banco.campi.spunta(u"esig"_s, u"Documento con iva ad esigibilità differita"_s, estremi.esig);
+    banco.legami.abilitato(esig, [&form] { return form.esigAbilitato(); });
+
+    riga(griglia, 0, u"Numero del documento"_s, numero);
+    riga(griglia, 1, u"Numero registro iva"_s, registro);
+    riga(griglia, 2, u"Numero di protocollo personalizzato"_s, protocollo);
+    riga(griglia, 0, u"Data di emissione"_s, emissione, 2);
+    riga(griglia, 1, u"Data di registrazione"_s, registrazione, 2);
+    griglia->addWidget(esig, 3, 0, 1, 4, Qt::AlignHCenter);
+    griglia->setColumnStretch(3, 1);
+    for (QWidget* campo :
+         {static_cast<QWidget*>(numero), static_cast<QWidget*>(registro), static_cast<QWidget*>(protocollo)})
+        campo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+
+    banco.invio.catena({numero, emissione->campo(), registrazione->campo(), protocollo});
+    banco.invio.catena({registro, registrazione->campo()});
+    banco.invio.passo(esig, protocollo);
+    const std::array<QWidget*, 6> ordine = {
+        numero, emissione->campo(), registro, registrazione->campo(), protocollo, esig};
+    for (std::size_t i = 1; i < ordine.size(); ++i)
+        QWidget::setTabOrder(ordine[i - 1], ordine[i]);
+    return {gruppo, numero, protocollo};
+}
+
+RiquadroTea creaRicavi(const BancoTea& banco) {
+    auto* gruppo = new QGroupBox(u"Estremi contabili (bilancino di contabilità semplificata)"_s);
+    gruppo->setObjectName(u"Frame3"_s);
+    auto* griglia = new QGridLayout(gruppo);
+    griglia->setVerticalSpacing(7);
+    Estremi& estremi = banco.form.estremi();
+    const QStringList voci = banco.form.ricavi();
+    const QString principale = u"Tipo di documento (voce di ricavo principale)"_s;
+    const QString scorpora = u"Scorpora e attribusci l'importo alla diversa voce"_s;
+    auto* voce1 = banco.campi.lista(u"Combo2"_s, principale, voci, estremi.voce1);
+    auto* voce2 = banco.campi.lista(u"Combo3"_s, scorpora, voci, estremi.voce2);
+    auto* quota2 = banco.campi.importo(u"Text2(5)"_s, scorpora, estremi.quota2);
+    auto* voce3 = banco.campi.lista(u"Combo4"_s, scorpora, voci, estremi.voce3);
+    auto* quota3 = banco.campi.importo(u"Text2(6)"_s, scorpora, estremi.quota3);
+    riga(griglia, 0, principale, voce1);
+    riga(griglia, 1, scorpora, voce2);
+    riga(griglia, 2, scorpora, voce3);
+    griglia->addWidget(quota2, 1, 2);
+    griglia->addWidget(quota3, 2, 2);
+    griglia->setColumnStretch(1, 1);
+    banco.invio.catena({voce1, voce2, quota2, voce3, quota3});
+    return {gruppo, voce1, quota3};
+}
+
+} // namespace bor

@@ -1,0 +1,85 @@
+// The VAT rows of a document: eight of the twelve in view.
+#include "ui/riquadritea.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QScrollBar>
+
+#include <array>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+struct ColonnaIva {
+    VoceIva voce;
+    QStringView nome;
+    QStringView descrizione;
+    int colonna;
+};
+
+constexpr std::array<ColonnaIva, 3> colonne = {{
+    {VoceIva::Imponibile, u"impon", u"Imponibile", 1},
+    {VoceIva::Imposta, u"ivai", u"Imposta", 2},
+    {VoceIva::Esente, u"esent", u"Esenzione", 4},
+}};
+
+QLabel* etichetta(const BancoTea& banco, const QString& nome, const Legami::Leggi& leggi) {
+    auto* testo = new QLabel;
+    testo->setObjectName(nome);
+    testo->setMinimumWidth(testo->fontMetrics().averageCharWidth() * 10);
+    testo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    banco.legami.altro([testo, leggi] {
+        // The captions of a company may be longer than there is room for.
+        testo->setText(leggi());
+        testo->setToolTip(testo->text());
+    });
+    return testo;
+}
+
+} // namespace
+
+RiquadroTea creaRigheIva(const BancoTea& banco) {
+    auto* gruppo = new QGroupBox(u"Dettaglio imponibili"_s);
+    gruppo->setObjectName(u"Frame4"_s);
+    auto* griglia = new QGridLayout(gruppo);
+    griglia->setVerticalSpacing(9);
+    Borftea& form = banco.form;
+    std::vector<QWidget*> percorso;
+    for (const ColonnaIva& c : colonne)
+        griglia->addWidget(new QLabel(c.descrizione.toString()), 0, c.colonna, Qt::AlignRight);
+    for (int i = 0; i < Borftea::righeVisibili; ++i) {
+        auto* iv = etichetta(banco, indicizzato(u"iv", i), [&form, i] { return form.etichettaIva(i); });
+        auto* es = etichetta(banco, indicizzato(u"es", i), [&form, i] { return form.etichettaEsente(i); });
+        griglia->addWidget(iv, i + 1, 0);
+        griglia->addWidget(es, i + 1, 3);
+        for (const ColonnaIva& c : colonne) {
+            auto* casella =
+                new CampoImporto(indicizzato(c.nome, i), u"%1, riga %2"_s.arg(c.descrizione).arg(i + 1));
+            banco.legami.testo(
+                casella, [&form, i, voce = c.voce] { return form.importo(i, voce); },
+                [&form, i, voce = c.voce](const QString& t) { form.cambiaImporto(i, voce, t); });
+            griglia->addWidget(casella, i + 1, c.colonna);
+            percorso.push_back(casella);
+        }
+    }
+    auto* cursore = new QScrollBar(Qt::Vertical);
+    cursore->setObjectName(u"VScroll1"_s);
+    cursore->setAccessibleName(u"Prima riga visibile"_s);
+    cursore->setRange(1, Borftea::ultimaPosizione);
+    cursore->setPageStep(Borftea::righeVisibili);
+    banco.legami.cursore(
+        cursore, [&form] { return form.primariga(); }, [&form](int v) { form.scorri(v); });
+    griglia->addWidget(cursore, 1, 5, Borftea::righeVisibili, 1);
+    griglia->setColumnStretch(0, 3);
+    griglia->setColumnStretch(3, 4);
+    griglia->setRowStretch(Borftea::righeVisibili + 1, 1);
+    banco.invio.catena(percorso);
+    return {gruppo, percorso.front(), percorso.back()};
+}
+
+} // namespace bor

@@ -1,0 +1,101 @@
+// Instalments, way of payment and the agent's commission.
+#include "ui/riquadritea.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+/// The six instalments, two columns of three, with the due dates and amounts in Enter order.
+std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia, int primaRiga) {
+    constexpr int perColonna = 3;
+    constexpr int colonneRata = 4; // number, date, amount, gap
+    std::vector<QWidget*> percorso;
+    auto& rate = banco.form.scadenze().rate;
+    for (int i = 0; i < std::ssize(rate); ++i) {
+        Rata& rata = rate[static_cast<std::size_t>(i)];
+        const QString quale = u"%1' rata"_s.arg(i + 1);
+        auto* data = banco.campi.data(indicizzato(u"dsca", i), indicizzato(u"ddsca", i),
+                                      u"Data scadenza, "_s + quale, rata.scadenza);
+        auto* importo = banco.campi.importo(indicizzato(u"sca", i), u"Importo, "_s + quale, rata.importo);
+        const int colonna = i / perColonna * colonneRata;
+        const int linea = primaRiga + 1 + i % perColonna;
+        griglia->addWidget(didascalia(quale, data), linea, colonna, Qt::AlignRight | Qt::AlignVCenter);
+        griglia->addWidget(data, linea, colonna + 1);
+        griglia->addWidget(importo, linea, colonna + 2);
+        if (i % perColonna == 0) {
+            griglia->addWidget(new QLabel(u"Data scadenza"_s), primaRiga, colonna + 1);
+            griglia->addWidget(new QLabel(u"Importo"_s), primaRiga, colonna + 2, Qt::AlignRight);
+        }
+        percorso.insert(percorso.end(), {data->campo(), importo});
+    }
+    griglia->setColumnMinimumWidth(colonneRata - 1, 12);
+    return percorso;
+}
+
+QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso) {
+    auto* insieme = new QWidget;
+    auto* linea = new QHBoxLayout(insieme);
+    linea->setContentsMargins(0, 0, 0, 0);
+    Borftea& form = banco.form;
+    auto* aliquota = new CampoTesto(u"pro(0)"_s, u"Provvigione agente: Aliquota"_s, 4);
+    aliquota->setAlignment(Qt::AlignRight);
+    banco.legami.testo(
+        aliquota, [&form] { return form.scadenze().provaliq; },
+        [&form](const QString& testo) { form.cambiaAliquotaProvvigione(testo); });
+    auto* importo =
+        banco.campi.importo(u"pro(1)"_s, u"Provvigione agente: Importo"_s, form.scadenze().provimp);
+    for (QWidget* campo : {static_cast<QWidget*>(aliquota), static_cast<QWidget*>(importo)})
+        campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    linea->addWidget(new QLabel(u"Provvigione agente"_s));
+    linea->addSpacing(12);
+    linea->addWidget(didascalia(u"Aliquota"_s, aliquota));
+    linea->addWidget(aliquota);
+    linea->addSpacing(12);
+    linea->addWidget(didascalia(u"Importo"_s, importo));
+    linea->addWidget(importo);
+    linea->addStretch();
+    percorso.insert(percorso.end(), {aliquota, importo});
+    return insieme;
+}
+
+} // namespace
+
+RiquadroTea creaScadenze(const BancoTea& banco) {
+    auto* gruppo = new QGroupBox(u"Scadenze, modalità di pagamento e provvigioni"_s);
+    gruppo->setObjectName(u"Frame2"_s);
+    auto* colonna = new QVBoxLayout(gruppo);
+    colonna->setSpacing(8);
+    Borftea& form = banco.form;
+    const QString modo = u"Modalità di pagamento"_s;
+    auto* pagamento = listaTea(u"Combo1"_s, modo, form.pagamenti());
+    banco.legami.lista(
+        pagamento, [&form] { return form.scadenze().pagamento; },
+        [&form](int posizione) { form.cambiaPagamento(posizione); });
+    auto* rib = banco.campi.spunta(u"rib"_s, u"Emissione Ri.Ba."_s, form.scadenze().rib);
+    auto* testa = new QHBoxLayout;
+    testa->addWidget(didascalia(modo, pagamento));
+    testa->addWidget(pagamento, 1);
+    testa->addWidget(rib);
+    colonna->addLayout(testa);
+    auto* griglia = new QGridLayout;
+    griglia->setVerticalSpacing(7);
+    std::vector<QWidget*> percorso = creaRate(banco, griglia, 0);
+    colonna->addLayout(griglia);
+    colonna->addWidget(creaProvvigione(banco, percorso));
+    banco.invio.passo(pagamento, percorso.front());
+    banco.invio.passo(rib, percorso.front());
+    banco.invio.catena(percorso);
+    return {gruppo, percorso.front(), percorso.back()};
+}
+
+} // namespace bor

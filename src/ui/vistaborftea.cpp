@@ -1,0 +1,251 @@
+#include "ui/vistaborftea.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+using Comando = Borftea::Comando;
+using Prospetto = Borftea::Prospetto;
+
+std::size_t indice(Prospetto prospetto) {
+    return static_cast<std::size_t>(prospetto);
+}
+
+} // namespace
+
+VistaBorftea::VistaBorftea(Borftea& form, QWidget* parent) : Vista(parent), m_form(form) {
+    const BancoTea banco{form, legami, invio};
+    const RiquadroTea estremi = creaEstremi(banco);
+    const RiquadroTea scadenze = creaScadenze(banco);
+    const RiquadroTea ricavi = creaRicavi(banco);
+    auto* sinistra = new QVBoxLayout;
+    sinistra->addWidget(estremi.gruppo);
+    sinistra->addWidget(creaScelta());
+    sinistra->addWidget(creaProspetti(banco), 1);
+    auto* destra = new QVBoxLayout;
+    destra->addWidget(scadenze.gruppo);
+    destra->addWidget(ricavi.gruppo);
+    destra->addWidget(creaTotali());
+    destra->addStretch();
+    auto* centro = new QHBoxLayout;
+    centro->addLayout(sinistra, 11);
+    centro->addLayout(destra, 10);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(6);
+    layout->addLayout(centro, 1);
+    layout->addWidget(creaPdf(banco));
+    layout->addWidget(creaComandi());
+    collegaPercorso(estremi, scadenze, ricavi);
+}
+
+QWidget* VistaBorftea::creaProspetti(const BancoTea& banco) {
+    m_prospetti = {creaRigheIva(banco), creaIvaDifferita(banco), creaRitenute(banco), creaSpesometro(banco)};
+    m_pila = new QStackedWidget;
+    for (const RiquadroTea& prospetto : m_prospetti)
+        m_pila->addWidget(prospetto.gruppo);
+    legami.altro([this] { m_pila->setCurrentIndex(static_cast<int>(indice(m_form.prospetto()))); });
+    return m_pila;
+}
+
+QWidget* VistaBorftea::creaScelta() {
+    auto* barra = new QWidget;
+    auto* linea = new QHBoxLayout(barra);
+    linea->setContentsMargins(0, 0, 0, 0);
+    linea->setSpacing(4);
+    const auto aggiungi = [&](const QString& nome, const QString& testo, const QString& tasto,
+                              Prospetto prospetto) {
+        auto* bottone = new BottoneComando(nome, testo, {}, QKeySequence(tasto));
+        bottone->setCheckable(true);
+        bottone->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        legami.altro([this, bottone, prospetto] { bottone->setChecked(m_form.prospetto() == prospetto); });
+        connect(bottone, &QToolButton::clicked, this, [this, prospetto] { mostraProspetto(prospetto); });
+        linea->addWidget(bottone);
+    };
+    aggiungi(u"comando2"_s, u"Dettaglio imponibili"_s, u"Ctrl+1"_s, Prospetto::RigheIva);
+    aggiungi(u"comando4"_s, u"Ritenute d'acconto"_s, u"Ctrl+2"_s, Prospetto::Ritenute);
+    aggiungi(u"comando1"_s, u"Iva differita"_s, u"Ctrl+3"_s, Prospetto::IvaDifferita);
+    aggiungi(u"comando5"_s, u"Spesometro"_s, u"Ctrl+4"_s, Prospetto::Spesometro);
+    return barra;
+}
+
+QWidget* VistaBorftea::creaTotali() {
+    auto* riquadro = new QGroupBox(u"Totali"_s);
+    auto* griglia = new QGridLayout(riquadro);
+    const QStringList testi = {u"Imponibile"_s, u"Imposta"_s, u"Importi in esenzione iva"_s,
+                               u"Importo complessivo documento"_s};
+    for (int i = 0; i < testi.size(); ++i) {
+        auto* casella = new CampoTesto(indicizzato(u"total", i), testi[i], 24);
+        casella->setAlignment(Qt::AlignRight);
+        legami.testo(casella, [this, i] { return m_form.totale(i); });
+        riga(griglia, i, testi[i], casella);
+        if (i + 1 == testi.size()) {
+            griglia->itemAtPosition(i, 0)->widget()->setObjectName(u"Label1(14)"_s);
+            casella->setStyleSheet(u"font-weight: bold;"_s);
+        }
+    }
+    griglia->setColumnStretch(0, 1);
+    return riquadro;
+}
+
+QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
+    auto* barra = new QWidget;
+    auto* linea = new QHBoxLayout(barra);
+    linea->setContentsMargins(0, 0, 0, 0);
+    Estremi& estremi = m_form.estremi();
+    const QString documento = u"Documento in formato PDF"_s;
+    auto* pdf = banco.campi.testo(u"pdf"_s, documento, Borftea::caratteriPdf, estremi.pdf);
+    auto* etichetta = didascalia(documento, pdf);
+    etichetta->setObjectName(u"Label2"_s);
+    linea->addWidget(etichetta);
+    linea->addWidget(pdf, 1);
+
+    auto* scelta = new QWidget;
+    scelta->setObjectName(u"Picture1"_s);
+    auto* bottoni = new QHBoxLayout(scelta);
+    bottoni->setContentsMargins(0, 0, 0, 0);
+    const auto bottone = [&](int i, const QString& testo, const QString& tasto,
+                             std::function<void()> azione) {
+        auto* b = new BottoneComando(indicizzato(u"command3d2", i), testo, {}, QKeySequence(tasto));
+        legami.comando(b, std::move(azione));
+        bottoni->addWidget(b);
+        return b;
+    };
+    bottone(0, u"Scegli il file PDF"_s, u"Ctrl+O"_s, [this] { m_form.sceglipdf(); });
+    auto* apri = bottone(1, u"Apri"_s, u"Ctrl+P"_s, [this] { m_form.apripdf(); });
+    legami.abilitato(apri, [&estremi] { return !estremi.pdf.trimmed().isEmpty(); });
+    legami.visibile(scelta, [this] { return m_form.pdfVisibile(); });
+    linea->addWidget(scelta);
+    linea->addSpacing(16);
+    linea->addWidget(
+        banco.campi.spunta(u"postael"_s, u"Invia il documento per posta elettronica"_s, estremi.postael));
+    return barra;
+}
+
+void VistaBorftea::comando(QHBoxLayout* barra, int indice, Comando quale, const QString& testo,
+                           const QString& icona, const QString& tasto) {
+    auto* bottone = new BottoneComando(indicizzato(u"bottone", indice), testo, icona, QKeySequence(tasto));
+    connect(bottone, &QToolButton::clicked, this, [this, quale] { esegui(quale); });
+    legami.abilitato(bottone, [this, quale] { return m_form.abilitato(quale); });
+    barra->addWidget(bottone);
+}
+
+QWidget* VistaBorftea::creaComandi() {
+    auto* barra = new QWidget;
+    auto* linea = new QHBoxLayout(barra);
+    linea->setContentsMargins(0, 0, 0, 0);
+    comando(linea, 0, Comando::Esci, u"Esci senza salvare"_s, u"esci"_s, u"Ctrl+Q"_s);
+    comando(linea, 1, Comando::Salva, u"Salva"_s, u"salva"_s, u"F10"_s);
+    linea->addSpacing(16);
+    comando(linea, 6, Comando::Testata, u"Testata"_s, u"testata"_s, u"F2"_s);
+    comando(linea, 2, Comando::Righe, u"Righe"_s, u"righe"_s, u"F3"_s);
+    linea->addSpacing(16);
+    comando(linea, 5, Comando::Stampa, u"Stampa"_s, u"stampa"_s, u"F7"_s);
+    comando(linea, 7, Comando::Anteprima, u"Anteprima"_s, u"anteprima"_s, u"Ctrl+F7"_s);
+    comando(linea, 3, Comando::Pdf, u"PDF"_s, u"pdf"_s, u"F6"_s);
+    comando(linea, 10, Comando::FatturaPa, u"Fattura PA"_s, u"fatturapa"_s, u"F8"_s);
+    linea->addSpacing(16);
+    comando(linea, 4, Comando::Elimina, u"Elimina"_s, u"elimina"_s, u"Ctrl+F9"_s);
+    linea->addStretch();
+    auto* integrata = new QLabel;
+    integrata->setObjectName(u"Label3"_s);
+    integrata->setStyleSheet(u"color: #B00020; font-weight: 600;"_s);
+    legami.etichetta(integrata, [this] { return m_form.integrata(); });
+    legami.visibile(integrata, [this] { return !m_form.integrata().isEmpty(); });
+    linea->addWidget(integrata);
+    return barra;
+}
+
+void VistaBorftea::collegaPercorso(const RiquadroTea& estremi, const RiquadroTea& scadenze,
+                                   const RiquadroTea& ricavi) {
+    invio.passo(estremi.ultimo, [this] { vaiA(m_prospetti[indice(m_form.prospetto())].primo); });
+    for (const RiquadroTea& prospetto : m_prospetti)
+        invio.passo(prospetto.ultimo, scadenze.primo);
+    invio.passo(scadenze.ultimo, ricavi.primo);
+    invio.passo(ricavi.ultimo, controllo(u"bottone(1)"_s));
+}
+
+void VistaBorftea::mostraProspetto(Prospetto prospetto) {
+    bool mostrato = false;
+    legami.esegui([&] { mostrato = m_form.mostraProspetto(prospetto); });
+    if (mostrato)
+        vaiA(m_prospetti[indice(prospetto)].primo);
+}
+
+void VistaBorftea::esegui(Comando comando) {
+    // A command works on what the field in focus says once it is left: "311215" is a date only then.
+    QWidget* campo = focusWidget();
+    if (campo)
+        campo->clearFocus();
+    legami.esegui([&] { m_form.esegui(comando); });
+    if (campo && isVisible())
+        campo->setFocus();
+    seguiFuoco();
+}
+
+void VistaBorftea::seguiFuoco() {
+    const auto posto = m_form.prendiFuoco();
+    if (!posto)
+        return;
+    QString nome;
+    switch (posto->campo) {
+    case CampoTea::Numero:
+        nome = u"Text2(0)"_s;
+        break;
+    case CampoTea::Data:
+        nome = u"text3(1)"_s;
+        break;
+    case CampoTea::DataReg:
+        nome = u"text3(2)"_s;
+        break;
+    case CampoTea::Scadenza:
+        nome = indicizzato(u"dsca", posto->indice);
+        break;
+    }
+    vaiA(controllo(nome));
+}
+
+QWidget* VistaBorftea::controllo(const QString& nome) const {
+    return findChild<QWidget*>(nome);
+}
+
+void VistaBorftea::attiva() {
+    m_form.attiva();
+    legami.aggiorna();
+    seguiFuoco();
+}
+
+void VistaBorftea::lascia() {
+    esegui(Comando::Esci);
+}
+
+QString VistaBorftea::titolo() const {
+    return m_form.titolo();
+}
+
+void VistaBorftea::keyPressEvent(QKeyEvent* evento) {
+    const int tasto = evento->key();
+    if (tasto == Qt::Key_PageDown || tasto == Qt::Key_PageUp)
+        legami.esegui([&] { m_form.scorri(tasto == Qt::Key_PageDown ? Borftea::ultimaPosizione : 1); });
+    else
+        Vista::keyPressEvent(evento);
+}
+
+void VistaBorftea::wheelEvent(QWheelEvent* evento) {
+    if (m_form.prospetto() == Prospetto::RigheIva && m_pila->underMouse())
+        QApplication::sendEvent(controllo(u"VScroll1"_s), evento);
+}
+
+} // namespace bor
