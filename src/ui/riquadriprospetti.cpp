@@ -106,6 +106,7 @@ RiquadroTea creaRitenute(const BancoTea& banco) {
     const QString codice = u"Codice tributo"_s;
     auto* tributo = banco.campi.lista(u"Combo6"_s, codice, form.tributi(), prospetti.tributo);
     auto* piede = new QHBoxLayout;
+    piede->setSpacing(6);
     piede->addWidget(didascalia(codice, tributo));
     piede->addWidget(tributo, 1);
     griglia->addLayout(piede, ultima, 0, 1, 5);
