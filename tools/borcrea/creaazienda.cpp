@@ -13,6 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The picture that the page templates of the demo show.
+const QString fileLogo = u"logo.png"_s;
+
 constexpr std::size_t clientiPerMisure = 1000;
 
 /// Ports for a run without anybody to talk to: what is worked out here asks nothing.
@@ -147,6 +150,9 @@ void Cantiere::costruisci() {
     prendiTesto(u"borlano.int"_s, m_archivio.borlano(u"int"), true);
     prendiTesto(u"borlano.tab"_s, m_archivio.borlano(u"tab"), true);
     prendiTesto(u"borlano.trb"_s, m_archivio.borlano(u"trb"), false);
+    for (const QStringView layout : {u"lyf", u"lyp", u"lkf", u"lkp", u"lxf", u"lxp", u"pdf"})
+        prendiTesto(u"borlano."_s + layout.toString(), m_archivio.borlano(layout), false);
+    QFile::copy(m_richiesta.sorgente + u'/' + fileLogo, m_archivio.reale(radiceSuite.toString() + fileLogo));
     prendiTesto(u"borlano.eur"_s, radiceSuite.toString() + u"borlano.eur"_s, false);
     prendiTesto(u"borlano.tbl"_s, radiceSuite.toString() + u"borlano.tbl"_s, false);
     scriviServizi();
@@ -159,7 +165,7 @@ void Cantiere::costruisci() {
 /// Moves what was made to the real drive; the company's folder last, since it makes the company exist.
 bool consegna(const Percorsi& da, const Percorsi& a, int codice) {
     QDir().mkpath(a.reale(radiceSuite).value_or(QString()));
-    for (const QString& nome : {u"borlano.eur"_s, u"borlano.tbl"_s}) {
+    for (const QString& nome : {u"borlano.eur"_s, u"borlano.tbl"_s, fileLogo}) {
         const QString meta = a.reale(radiceSuite.toString() + nome).value_or(QString());
         const QString file = da.reale(radiceSuite.toString() + nome).value_or(QString());
         if (!QFile::exists(meta) && QFile::exists(file) && !QFile::rename(file, meta))
