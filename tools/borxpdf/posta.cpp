@@ -48,10 +48,11 @@ private:
     curl_slist* m_prima = nullptr;
 };
 
-/// Keeps the server's last answer, for the message to the operator.
-size_t tieniRisposta(char* dati, size_t unita, size_t quante, void* risposta) {
-    const auto lunghezza = static_cast<qsizetype>(unita * quante);
-    *static_cast<QByteArray*>(risposta) = QByteArray(dati, std::min<qsizetype>(lunghezza, 200));
+/// Keeps the server's last refusal, for the message to the operator.
+size_t tieniRifiuto(char* dati, size_t unita, size_t quante, void* rifiuto) {
+    const QByteArray risposta(dati, static_cast<qsizetype>(unita * quante));
+    if (risposta.startsWith('4') || risposta.startsWith('5'))
+        *static_cast<QByteArray*>(rifiuto) = risposta.left(200);
     return unita * quante;
 }
 
@@ -121,7 +122,7 @@ void collegamento(CURL* curl, const ImpostazioniPosta& posta) {
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
 }
 
-QString spiegazione(CURLcode esito, const QByteArray& risposta) {
+QString spiegazione(CURLcode esito, const QByteArray& rifiuto) {
     switch (esito) {
     case CURLE_COULDNT_RESOLVE_HOST:
         return u"il server di posta non si trova: controllare il nome e la rete."_s;
@@ -141,7 +142,7 @@ QString spiegazione(CURLcode esito, const QByteArray& risposta) {
     default:
         break;
     }
-    const QString parole = QString::fromUtf8(risposta).simplified();
+    const QString parole = QString::fromUtf8(rifiuto).simplified();
     return parole.isEmpty() ? u"la connessione con il server di posta si è interrotta."_s
                             : u"il server di posta ha rifiutato il messaggio: "_s + parole;
 }
@@ -190,20 +191,20 @@ bool spedisci(const ImpostazioniPosta& posta, const Messaggio& messaggio, QStrin
     Lista righe;
     intestazioni(righe, posta, messaggio);
     const Mime mime = corpo(curl.get(), messaggio);
-    QByteArray risposta;
+    QByteArray rifiuto;
 
     collegamento(curl.get(), posta);
     curl_easy_setopt(curl.get(), CURLOPT_MAIL_FROM, ('<' + posta.mittente.toLatin1() + '>').constData());
     curl_easy_setopt(curl.get(), CURLOPT_MAIL_RCPT, destinatari.prima());
     curl_easy_setopt(curl.get(), CURLOPT_HTTPHEADER, righe.prima());
     curl_easy_setopt(curl.get(), CURLOPT_MIMEPOST, mime.get());
-    curl_easy_setopt(curl.get(), CURLOPT_HEADERFUNCTION, tieniRisposta);
-    curl_easy_setopt(curl.get(), CURLOPT_HEADERDATA, &risposta);
+    curl_easy_setopt(curl.get(), CURLOPT_HEADERFUNCTION, tieniRifiuto);
+    curl_easy_setopt(curl.get(), CURLOPT_HEADERDATA, &rifiuto);
 
     const CURLcode esito = curl_easy_perform(curl.get());
     if (esito == CURLE_OK)
         return true;
-    errore = spiegazione(esito, risposta);
+    errore = spiegazione(esito, rifiuto);
     return false;
 }
 
