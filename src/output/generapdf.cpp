@@ -81,4 +81,26 @@ void anteprima(const Documento& documento, const Contesto& contesto) {
                    {u"--anteprima"_s, layoutStrumento(documento, contesto) + u',' + fileRapporto.toString()});
 }
 
+void scegliPdf(Documento& documento, const Contesto& contesto) {
+    const QString scelto = contesto.operatore.scegliFile(u"Documento in formato PDF"_s, u"*.pdf"_s).trimmed();
+    QString nome = contesto.archivio.percorsi().dos(scelto).value_or(QString());
+    if (!scelto.isEmpty() && nome.isEmpty()) {
+        contesto.operatore.messaggio(
+            u"Il file \"%1\" non si trova in un'unità della procedura: copiatelo prima nella cartella dei PDF."_s
+                .arg(scelto),
+            titoloAttenzione, Icona::Stop);
+        return;
+    }
+    if (!nome.toUpper().contains(u"PDF") || nome.contains(u'*'))
+        return;
+    if (nome.size() > 1 && nome[1] == u':')
+        nome.remove(0, 2);
+    if (nome.size() > qsizetype{sizeof(F2e::pdf)}) {
+        contesto.operatore.messaggio(u"Il nome del file e della sua cartella superano i 60 caratteri"_s,
+                                     titoloAttenzione, Icona::Stop);
+        return;
+    }
+    documento.estremi.pdf = nome;
+}
+
 } // namespace bor

@@ -16,4 +16,7 @@ void generapdf(Documento& documento, const Contesto& contesto);
 /// Shows the report file on screen as the tool would turn it into pages.
 void anteprima(const Documento& documento, const Contesto& contesto);
 
+/// Lets the operator choose a PDF for the document. Its name is stored without the drive.
+void scegliPdf(Documento& documento, const Contesto& contesto);
+
 } // namespace bor

@@ -67,5 +67,20 @@ TEST_F(PdfTest, SpentoRifiutatoONonAvviatoNonLasciaNomi) {
     EXPECT_EQ(documento.estremi.pdf, QString());
 }
 
+TEST_F(PdfTest, UnPdfSceltoAManoPerdeLUnita) {
+    prova.operatore.fileScelto = azienda.percorsi().radiceCorrente() + u"/suprok/PDF/x.pdf"_s;
+    scegliPdf(documento, prova.contesto);
+    EXPECT_EQ(documento.estremi.pdf, u"\\suprok\\PDF\\x.pdf"_s);
+    prova.operatore.fileScelto = azienda.percorsi().radiceCorrente() + u"/c/y.pdf"_s;
+    scegliPdf(documento, prova.contesto);
+    EXPECT_EQ(documento.estremi.pdf, u"\\c\\y.pdf"_s) << "the current drive comes first";
+    prova.operatore.fileScelto = azienda.percorsi().radiceCorrente() + u"/suprok/x.txt"_s;
+    scegliPdf(documento, prova.contesto);
+    prova.operatore.fileScelto = u"/altrove/z.pdf"_s;
+    scegliPdf(documento, prova.contesto);
+    EXPECT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(documento.estremi.pdf, u"\\c\\y.pdf"_s);
+}
+
 } // namespace
 } // namespace bor
