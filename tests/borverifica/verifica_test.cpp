@@ -1,0 +1,336 @@
+// The check of an archive: silent on a sound company, and one defect at a time.
+#include "archive/fpa.h"
+#include "borverifica/verifica.h"
+#include "document/conti.h"
+#include "posting/borftec.h"
+#include "posting/scarico.h"
+#include "support/azienda.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <functional>
+#include <limits>
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+class VerificaTest : public testing::Test {
+protected:
+    /// Two goods invoices with lines, movement and, the first one, a warehouse row.
+    VerificaTest() {
+        azienda.cliente(u"Rossi Mario"_s);
+        azienda.cliente(u"Bianchi"_s);
+        Art vite = articoloDi(u"VITE"_s, u"Vite"_s, 10, 1);
+        vite.barcode.set(u"80012");
+        azienda.articolo(vite);
+        conto(u"01010001", u"Clienti", 244, 0);
+        conto(u"0007010001", u"Ricavi", 0, 244);
+        Disco disco;
+        Archivio a(azienda.percorsi(), disco, 7);
+        a.apri();
+        Srb srb;
+        srb.barcode.set(u"80012");
+        srb.recordart = 1;
+        a.srb.scrivi(1, srb);
+        fattura(u"1"_s, 42078.25, 1);
+        fattura(u"2"_s, 42079.25, 2);
+        ContestoDiProva prova(azienda);
+        mettiscarico(scarico(), prova.contesto);
+        QFile::remove(azienda.percorso(u"borlano.gnr"_s));
+    }
+    Documento scarico() const {
+        Documento documento;
+        documento.coppia.fte.stamp = 42078.25;
+        documento.estremi.numero = u"1"_s;
+        documento.estremi.datareg = u"15/03/2015"_s;
+        documento.ddd[0] = {.recart = 1, .codice = u"VITE"_s, .iva = 1, .quantita = 3, .prezzo = 33.332};
+        return documento;
+    }
+    void conto(QStringView codice, QStringView descrizione, double dare, double avere) {
+        Con con = vuoto<Con>();
+        con.codice.set(codice);
+        con.descrizione.set(descrizione);
+        con.progressivodare = dare;
+        con.progressivoavere = avere;
+        modifica([&](Archivio& a) { a.aggiungi(a.con, Conta::Con, con); });
+    }
+    void fattura(const QString& numero, double stamp, float nfile) {
+        CoppiaFte coppia = documentoDi(1, numero, 100, 22);
+        coppia.fte.stamp = stamp;
+        coppia.fte.nfile = nfile;
+        azienda.documento(coppia);
+        azienda.scrivi(u"f%1"_s.arg(nfile), "1\r\n");
+        Gio gio = vuoto<Gio>();
+        gio.data.set(u"20150315");
+        gio.voce[0] = {.segno = Intero(0), .conto = testoConto(u"1010001"), .importo = Reale(122.0)};
+        gio.voce[1] = {.segno = Intero(1), .conto = testoConto(u"7010001"), .importo = Reale(122.0)};
+        gio.riferimentofattura = stamp;
+        modifica([&](Archivio& a) { a.aggiungi(a.gio, Conta::Gio, gio); });
+    }
+    static Text<8> testoConto(QStringView codice) {
+        Text<8> testo;
+        testo.set(codice);
+        return testo;
+    }
+    void modifica(const std::function<void(Archivio&)>& cambia) const {
+        Disco disco;
+        Archivio archivio(azienda.percorsi(), disco, 7);
+        archivio.apri();
+        cambia(archivio);
+    }
+    void modificaFte(int n, const std::function<void(CoppiaFte&)>& cambia) const {
+        modifica([&](Archivio& a) {
+            CoppiaFte coppia;
+            a.fte.leggi(n, coppia.fte);
+            a.f2e.leggi(n, coppia.f2e);
+            cambia(coppia);
+            a.scrivi(n, coppia);
+        });
+    }
+    QStringList rilievi() const {
+        Disco disco;
+        Archivio archivio(azienda.percorsi(), disco, 7);
+        archivio.apri(Apertura::SolaLettura);
+        QStringList testi;
+        for (const Discordanza& d : verifica(archivio))
+            testi.append(d.testo());
+        return testi;
+    }
+
+    std::string trovate() const { return rilievi().join(u'\n').toStdString(); }
+
+    AziendaDiProva azienda;
+};
+
+TEST_F(VerificaTest, DiUnAziendaSanaNonDiceNullaENonToccaNulla) {
+    QFile::remove(azienda.percorso(u"borlano.prx"_s));
+    const auto stato = [this] {
+        QMap<QString, QByteArray> file;
+        for (const QString& nome : QDir(azienda.percorso({})).entryList(QDir::Files))
+            file[nome] = azienda.leggi(nome);
+        return file;
+    };
+    const auto prima = stato();
+    EXPECT_EQ(trovate(), "");
+    EXPECT_EQ(stato(), prima);
+    EXPECT_TRUE(prima.contains(u"borlano.fte"_s));
+
+    Disco disco;
+    RecordFile<Fte> file(disco);
+    ASSERT_TRUE(file.apri(azienda.percorso(u"borlano.fte"_s), Apertura::SolaLettura));
+    EXPECT_FALSE(file.scrivi(1, vuoto<Fte>()));
+}
+
+TEST_F(VerificaTest, ContatoriELunghezze) {
+    modifica([](Archivio& a) {
+        a.scriviTot(Conta::Con, {.numero = Intero(3)});
+        a.scriviTot(Conta::Gio, {.numero = Intero(1)});
+        a.scriviTot(Conta::Age, {.numero = Intero(-5)});
+    });
+    azienda.scrivi(u"borlano.mag"_s, azienda.leggi(u"borlano.mag"_s) + "xyz");
+    EXPECT_EQ(rilievi().first(4).join(u'\n').toStdString(),
+              "ERRORE  borlano.con: il contatore dice 3 record, il file ne contiene 2\n"
+              "AVVISO  borlano.mag: il file termina con 3 byte di un record incompleto\n"
+              "INFO    borlano.gio: 1 record oltre il contatore (1): resti di un riordino o di un "
+              "salvataggio interrotto, che nessuno legge\n"
+              "ERRORE  borlano.age: il contatore è negativo (-5)");
+}
+
+TEST_F(VerificaTest, DocumentiSenzaClienteRigheOSecondaMeta) {
+    modificaFte(1, [](CoppiaFte& c) { c.fte.cliente = 9; });
+    modificaFte(2, [](CoppiaFte& c) {
+        c.fte.nfile = 3.0F;
+        c.f2e.marca = 0;
+    });
+    EXPECT_EQ(trovate(),
+              "ERRORE  fattura n. 1 (record 1): il cliente 9 non c'è\n"
+              "AVVISO  fattura n. 2 (record 2): il file delle righe f3 non c'è: le righe non sono ancora "
+              "registrate, o sono andate perse\n"
+              "AVVISO  fattura n. 2 (record 2): la seconda metà in borlano.f2e non è mai stata scritta "
+              "(marca 0)");
+}
+
+TEST_F(VerificaTest, FileDelleRigheVecchiCondivisiEAssenti) {
+    modificaFte(1, [](CoppiaFte& c) {
+        c.fte.numero.set(u"1/A");
+        c.fte.nfile = 0.0F;
+    });
+    EXPECT_EQ(trovate(), "INFO    fattura n. 1/A (record 1): non ha un file delle righe");
+    azienda.scrivi(u"FTR1.A15"_s, "1\r\n");
+    EXPECT_EQ(trovate(), "");
+    modificaFte(1, [](CoppiaFte& c) { c.fte.nfile = 2.0F; });
+    EXPECT_EQ(trovate(),
+              "ERRORE  fattura n. 2 (record 2): il file delle righe f2 è anche del documento con record 1");
+}
+
+TEST_F(VerificaTest, FattureElettroniche) {
+    modificaFte(1, [](CoppiaFte& c) { c.f2e.fpa = std::numeric_limits<double>::quiet_NaN(); });
+    modificaFte(2, [](CoppiaFte& c) { c.f2e.fpa = 4.0; });
+    EXPECT_EQ(
+        trovate(),
+        "ERRORE  fattura n. 1 (record 1): il riferimento alla fattura elettronica è guasto\n"
+        "ERRORE  fattura n. 2 (record 2): il file della fattura elettronica fpa4 non c'è\n"
+        "AVVISO  fattura n. 2 (record 2): la fattura elettronica fpa4 supera il contatore: una prossima la "
+        "può sovrascrivere");
+    modificaFte(1, [](CoppiaFte& c) { c.f2e.fpa = 4.0; });
+    modifica([](Archivio& a) { a.scriviTot(Conta::Fpa, {.numero = Intero(4)}); });
+    azienda.scrivi(u"fpa4"_s, QByteArray(sizeof(Fpa), ' '));
+    EXPECT_EQ(trovate(), "ERRORE  fattura n. 2 (record 2): i dati della fattura elettronica fpa4 "
+                         "sono anche del documento con record 1");
+}
+
+TEST_F(VerificaTest, MovimentiEDocumentiSenzaLAltro) {
+    modificaFte(1, [](CoppiaFte& c) { c.fte.stamp = 50000.5; });
+    EXPECT_EQ(trovate(), "AVVISO  movimento 1 del 15/03/2015, \"\": il suo documento non c'è\n"
+                         "AVVISO  fattura n. 1 (record 1): non ha un movimento contabile\n"
+                         "AVVISO  riga di magazzino 1 (FT 1): il suo documento non c'è o è stato eliminato");
+    modificaFte(1, [](CoppiaFte& c) { c.fte.stamp = 42079.25; });
+    EXPECT_TRUE(rilievi().contains(u"ERRORE  fattura n. 1 (record 1): ha lo stesso riferimento a movimenti e "
+                                   u"magazzino di altri documenti: "
+                                   "fattura n. 2 (record 2)"_s));
+}
+
+TEST_F(VerificaTest, ProgressiviDeiConti) {
+    modifica([](Archivio& a) {
+        Con conto = a.con.leggi(1);
+        conto.progressivodare += 1.5;
+        a.con.scrivi(1, conto);
+    });
+    EXPECT_EQ(trovate(), "ERRORE  conto 01010001 Clienti: i progressivi differiscono da quanto spiegano i "
+                         "movimenti: dare 1,50, avere 0,00");
+}
+
+TEST_F(VerificaTest, QuelloCheLEliminazioneLasciaNeiContiEDettoAParte) {
+    modifica([](Archivio& a) {
+        Gio gio = a.gio.leggi(2);
+        for (const VoceGio& voce : gio.voce)
+            stornaconto(a, voce);
+        gio.cancellato = 1;
+        a.gio.scrivi(2, gio);
+        // A movement that is only replaced leaves nothing behind.
+        Gio altro = a.gio.leggi(1);
+        applicaconto(a, altro.voce[0]);
+        altro.voce[0].conto = testoConto(u"99999999");
+        a.gio.scrivi(1, altro);
+    });
+    modificaFte(2, [](CoppiaFte& c) { c.fte.annullata = 1; });
+    EXPECT_EQ(trovate(),
+              "AVVISO  movimento 1: conti che non esistono: 99999999\n"
+              "INFO    conto 01010001 Clienti: lasciato nei progressivi da movimenti eliminati: dare "
+              "122,00, avere -122,00\n"
+              "INFO    conto 0007010001 Ricavi: lasciato nei progressivi da movimenti eliminati: dare "
+              "-122,00, avere 122,00");
+}
+
+TEST_F(VerificaTest, VendutoDegliArticoli) {
+    {
+        ContestoDiProva prova(azienda);
+        for (int giro = 0; giro < 5; ++giro) {
+            togliscarico(scarico(), prova.contesto);
+            mettiscarico(scarico(), prova.contesto);
+        }
+        EXPECT_NEAR(prova.archivio.art.leggi(1).venduto2, 100.02, 1e-6);
+        togliscarico(scarico(), prova.contesto);
+        prova.sessione.tipodocumento = 1;
+        mettiscarico(scarico(), prova.contesto);
+    }
+    // Taken back without the rounding with which they went in: what that leaves is no fault.
+    EXPECT_EQ(trovate(), "");
+    modifica([](Archivio& a) {
+        Art vite = a.art.leggi(1);
+        vite.venduto += 2;
+        a.art.scrivi(1, vite);
+    });
+    EXPECT_EQ(trovate(), "INFO    articolo VITE: venduto -1 per -99,98, le righe di magazzino dei "
+                         "documenti dicono -3 per -99,98");
+}
+
+TEST_F(VerificaTest, Indici) {
+    modifica([](Archivio& a) {
+        std::array<Src, 2> voci;
+        a.src.leggiBlocco(1, voci);
+        voci[0].recordcli = 77;
+        a.src.scrivi(1, voci[1]);
+        a.src.scrivi(2, voci[0]);
+        Srb srb = a.srb.leggi(1);
+        srb.barcode.set(u"999");
+        a.srb.scrivi(1, srb);
+    });
+    EXPECT_EQ(trovate(),
+              "ERRORE  borlano.src, voce 2: \"Bianchi\" è fuori ordine: chi lo cerca non lo trova\n"
+              "ERRORE  borlano.src, voce 2: punta al record 77, che non c'è\n"
+              "AVVISO  cliente Bianchi (record 2): manca nell'indice borlano.src\n"
+              "AVVISO  borlano.srb, voce 1: l'articolo 1 ha un altro codice a barre");
+}
+
+TEST_F(VerificaTest, NumeriDoppiEMancantiPerAnnoERegistro) {
+    const auto documento = [this](const QString& numero, QStringView data, int registro, int annullata) {
+        CoppiaFte coppia = documentoDi(1, numero, 1, 0);
+        coppia.fte.datadoc.set(data);
+        coppia.fte.registro = static_cast<std::int16_t>(registro);
+        coppia.fte.annullata = static_cast<std::int16_t>(annullata);
+        azienda.documento(coppia);
+    };
+    documento(u"002"_s, u"20150401", 0, 0);
+    documento(u"2/A"_s, u"20150401", 0, 0);
+    documento(u"2"_s, u"20150401", 1, 0);
+    documento(u"2"_s, u"20160401", 12, 0);
+    documento(u"4"_s, u"20150401", 0, 1);
+    documento(u"8"_s, u"20150401", 0, 0);
+    documento(u"9E99999"_s, u"20150401", 0, 0);
+    documento(u"3"_s, u"20150230", 0, 0);
+    EXPECT_EQ(rilievi().filter(u"non ha un file delle righe"_s).size(), 7);
+    EXPECT_EQ(rilievi().filter(QRegularExpression(u"numer|data"_s)).join(u'\n').toStdString(),
+              "AVVISO  fattura n. 3 (record 10): la data di emissione non è valida\n"
+              "ERRORE  anno 2015, registro IVA 0: numero 2 usato 2 volte: fattura n. 2 (record 2), "
+              "fattura n. 002 (record 3)\n"
+              "AVVISO  anno 2015, registro IVA 0: numeri mancanti: 3, da 5 a 7\n"
+              "INFO    anno 2015, registro IVA 0: numeri di documenti eliminati: 4");
+}
+
+TEST_F(VerificaTest, FileOstiliNonLoFermano) {
+    std::mt19937 caso(7);
+    const QStringList nomi = QDir(azienda.percorso({})).entryList({u"borlano.*"_s}, QDir::Files);
+    for (int giro = 0; giro < 200; ++giro) {
+        const QString nome = nomi[static_cast<qsizetype>(caso() % static_cast<unsigned>(nomi.size()))];
+        QByteArray bytes = azienda.leggi(nome);
+        if (giro % 5 == 0)
+            bytes.chop(static_cast<qsizetype>(caso() % 20));
+        for (int i = 0; i < 12 && !bytes.isEmpty(); ++i)
+            bytes[static_cast<qsizetype>(caso() % static_cast<unsigned>(bytes.size()))] =
+                static_cast<char>(giro % 2 == 0 ? caso() : 0xFF);
+        azienda.scrivi(nome, bytes);
+        EXPECT_NE(trovate(), "");
+    }
+}
+
+int esito(const QString& unita) {
+    QProcess programma;
+    programma.start(QStringLiteral(BORVERIFICA), {u"--unita"_s, unita, u"--azienda"_s, u"7"_s});
+    programma.waitForFinished();
+    return programma.exitStatus() == QProcess::NormalExit ? programma.exitCode() : -1;
+}
+
+TEST_F(VerificaTest, IlProgrammaDiceLEsitoAChiLoChiama) {
+    const QString unita = azienda.percorsi().radiceCorrente();
+    EXPECT_EQ(esito(unita), 0);
+    modificaFte(1, [](CoppiaFte& c) { c.fte.cliente = 9; });
+    EXPECT_EQ(esito(unita), 1);
+    {
+        Disco disco;
+        RecordFile<Fte> riordino(disco);
+        ASSERT_TRUE(riordino.apri(azienda.percorso(u"borlano.fte"_s), Apertura::Esclusiva));
+        EXPECT_EQ(esito(unita), 2);
+    }
+    EXPECT_EQ(esito(unita + u"/altrove"_s), 2);
+}
+
+} // namespace
+} // namespace bor
