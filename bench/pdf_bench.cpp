@@ -52,7 +52,7 @@ void RapportoInPdf(benchmark::State& stato) {
 }
 BENCHMARK(RapportoInPdf)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void SoloScrittorePdf(benchmark::State& stato) {
+void PavimentoScrittorePdf(benchmark::State& stato) {
     for (auto _ : stato) {
         QByteArray pdf;
         QBuffer uscita(&pdf);
@@ -78,7 +78,7 @@ void SoloScrittorePdf(benchmark::State& stato) {
     }
     contaPagine(stato);
 }
-BENCHMARK(SoloScrittorePdf)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(PavimentoScrittorePdf)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
 

@@ -46,6 +46,7 @@ int main(int argc, char* argv[]) {
         if (auto documento = bor::pdf::apri(*comando, percorsi, errore)) {
             bor::pdf::Anteprima finestra(std::move(*documento));
             finestra.show();
+            finestra.activateWindow();
             return QApplication::exec();
         }
     } else if (bor::pdf::esegui(*comando, percorsi, errore)) {
