@@ -3,6 +3,7 @@
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
 #include "ui/finestra.h"
+#include "ui/stampanteqt.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -19,10 +20,12 @@ int main(int argc, char* argv[]) {
     OperatoreQt operatore;
     OrologioQt orologio;
     SistemaQt sistema;
+    StampanteQt stampante;
     Finestra finestra;
     operatore.usa(&finestra);
-    const auto modulo = Modulo::avvia(QCoreApplication::arguments().mid(1).join(u' '),
-                                      Percorsi::predefiniti(), {operatore, orologio, sistema, finestra});
+    const auto modulo =
+        Modulo::avvia(QCoreApplication::arguments().mid(1).join(u' '), Percorsi::predefiniti(),
+                      {operatore, orologio, sistema, finestra, stampante});
     if (!modulo)
         return 0;
     aggiungiSchermi(finestra, *modulo);

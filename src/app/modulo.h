@@ -2,10 +2,14 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "common/stampante.h"
+#include "document/borftea.h"
 #include "document/borftek.h"
 #include "document/borftem.h"
 #include "document/documento.h"
+#include "document/righeinsospeso.h"
 #include "posting/borftec.h"
+#include "posting/registrazionicontabili.h"
 #include "register/borfte.h"
 #include "register/borsel.h"
 
@@ -21,6 +25,7 @@ public:
         Orologio& orologio;
         Sistema& sistema;
         Navigatore& navigatore;
+        Stampante& stampante;
     };
 
     /// From the command line to a filled register. Nothing when this is no start by the suite's launcher;
@@ -31,12 +36,14 @@ public:
     Borfte& borfte() { return m_borfte; }
     Borftem& borftem() { return m_borftem; }
     Borsel& borsel() { return m_borsel; }
+    Borftea& borftea() { return m_borftea; }
     Borftek& borftek() { return m_borftek; }
     Borftec& borftec() { return m_borftec; }
     Documento& documento() { return m_documento; }
 
 private:
     Modulo(double codiceazienda, Percorsi percorsi, Porte porte);
+    ComandiEsterni comandi(Stampante& stampante);
 
     Percorsi m_percorsi;
     Disco m_disco;
@@ -47,11 +54,14 @@ private:
     Tabelle m_tabelle;
     Contesto m_contesto;
     Documento m_documento;
+    RigheInSospeso m_sospese;
     Borfte m_borfte;
     Borftem m_borftem;
     Borsel m_borsel;
     Borftek m_borftek;
     Borftec m_borftec;
+    RegistrazioniContabili m_registrazioni;
+    Borftea m_borftea;
 };
 
 } // namespace bor

@@ -3,6 +3,7 @@
 #include "app/modulo.h"
 #include "ui/finestra.h"
 #include "ui/vistaborfte.h"
+#include "ui/vistaborftea.h"
 #include "ui/vistaborftec.h"
 #include "ui/vistaborftek.h"
 #include "ui/vistaborftem.h"
@@ -14,6 +15,7 @@ void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
     finestra.aggiungi(Schermo::Borfte, new VistaBorfte(modulo.borfte()));
     finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));
     finestra.aggiungi(Schermo::Borsel, new VistaBorsel(modulo.borsel()));
+    finestra.aggiungi(Schermo::Borftea, new VistaBorftea(modulo.borftea()));
     finestra.aggiungi(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
     finestra.aggiungi(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
 }

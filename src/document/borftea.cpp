@@ -1,8 +1,10 @@
 #include "document/borftea.h"
 
 #include "common/numeri.h"
+#include "document/caricadoc.h"
 #include "document/clienti.h"
 #include "document/defaultcliente.h"
+#include "document/filerighe.h"
 #include "document/integrata.h"
 #include "document/scadenze.h"
 
@@ -12,8 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
-Borftea::Borftea(Contesto& contesto, Documento& documento, ComandiEsterni comandi)
-    : m_contesto(contesto), m_documento(documento), m_comandi(std::move(comandi)) {}
+Borftea::Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni,
+                 RigheInSospeso& sospese, ComandiEsterni comandi)
+    : m_contesto(contesto), m_documento(documento), m_registrazioni(registrazioni), m_sospese(sospese),
+      m_comandi(std::move(comandi)) {}
 
 void Borftea::attiva() {
     Sessione& sessione = m_contesto.sessione;
@@ -70,8 +74,8 @@ void Borftea::apriEsistente() {
     sessione.tipoparcella = fte.parcella;
     prendiCliente(m_documento, m_contesto.archivio, sessione.recordcliente);
     m_documento.estremi.postael = m_documento.cliente.postael.text() == u"1";
-    if (m_comandi.carica)
-        m_comandi.carica();
+    caricadoc(m_documento, m_contesto);
+    leggedoc(m_documento, m_contesto, m_sospese);
     m_documento.integrata = cercaIntegrata(m_documento.coppia, m_contesto.tabelle);
 }
 

@@ -6,6 +6,7 @@
 #include "document/comandiesterni.h"
 #include "document/documento.h"
 #include "document/righeiva.h"
+#include "document/salvadoc.h"
 
 #include <QStringList>
 
@@ -17,7 +18,6 @@ class Borftea {
 public:
     static constexpr int righeVisibili = 8;
     static constexpr int ultimaPosizione = 5; ///< of the scroll bar
-    static constexpr int caratteriPdf = 60;   ///< of the name of the PDF
 
     /// The panels that share one place.
     enum class Prospetto {
@@ -28,7 +28,8 @@ public:
     };
     /// The buttons of the command bar.
     enum class Comando { Esci, Salva, Righe, Pdf, Elimina, Stampa, Anteprima, Testata, FatturaPa };
-    Borftea(Contesto& contesto, Documento& documento, ComandiEsterni comandi);
+    Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni, RigheInSospeso& sospese,
+            ComandiEsterni comandi);
 
     /// Fills the form for a new or a stored document at its first activation. After a trip to the lines the
     /// document stays and the form starts again at its first field; a form still open stays as it is.
@@ -76,7 +77,8 @@ public:
 
     // The PDF selection.
     bool pdfVisibile() const { return m_pdfVisibile; }
-    void sceglipdf();
+    bool scegliPdfAbilitato() const { return static_cast<bool>(m_comandi.scegliPdf); }
+    void scegliPdf() { m_comandi.scegliPdf(); }
     void apripdf() const;
 
     bool abilitato(Comando comando) const;
@@ -100,6 +102,8 @@ private:
 
     Contesto& m_contesto;
     Documento& m_documento;
+    Registrazioni& m_registrazioni;
+    RigheInSospeso& m_sospese;
     ComandiEsterni m_comandi;
     QString m_numeroletto; ///< the number as last shown or warned about
     std::optional<PostoTea> m_fuoco;

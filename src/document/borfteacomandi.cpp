@@ -1,22 +1,15 @@
 // The command bar of the document form.
-#include "common/numeri.h"
 #include "document/apripdf.h"
 #include "document/borftea.h"
-
-#include <utility>
-
-using namespace Qt::StringLiterals;
+#include "document/eliminadoc.h"
 
 namespace bor {
 
 bool Borftea::abilitato(Comando comando) const {
     switch (comando) {
+    case Comando::Elimina:
     case Comando::Testata:
         return !nuovo();
-    case Comando::Salva:
-        return static_cast<bool>(m_comandi.salva);
-    case Comando::Elimina:
-        return !nuovo() && m_comandi.elimina;
     case Comando::Stampa:
         return static_cast<bool>(m_comandi.stampa);
     case Comando::Anteprima:
@@ -67,7 +60,7 @@ void Borftea::esci() {
 void Borftea::salva() {
     // The register shows what is on file, also where a save got only half the way.
     m_contesto.sessione.listadaaggiornare = true;
-    const EsitoSalva esito = m_comandi.salva();
+    const EsitoSalva esito = salvadoc(m_documento, m_contesto, m_registrazioni, m_sospese);
     m_fuoco = esito.fuoco;
     if (esito.dopo == DopoSalva::Resta)
         return;
@@ -76,7 +69,7 @@ void Borftea::salva() {
 }
 
 void Borftea::elimina() {
-    if (!m_comandi.elimina())
+    if (!eliminadoc(m_documento, m_contesto, m_registrazioni, m_sospese))
         return;
     m_contesto.sessione.listadaaggiornare = true;
     esci();
@@ -95,31 +88,6 @@ void Borftea::righe() {
 void Borftea::testata() {
     m_contesto.sessione.tipoparcella = m_documento.coppia.fte.parcella;
     m_contesto.navigatore.mostra(Schermo::Borftem);
-}
-
-void Borftea::sceglipdf() {
-    Operatore& operatore = m_contesto.operatore;
-    const QString scelto = operatore.scegliFile(u"Documento in formato PDF"_s, u"*.pdf"_s).trimmed();
-    if (scelto.isEmpty())
-        return;
-    QString nome = m_contesto.archivio.percorsi().dos(scelto).value_or(QString());
-    if (nome.isEmpty()) {
-        operatore.messaggio(u"Il file scelto non si trova nei dischi della contabilità: copiatelo lì e "
-                            "sceglietelo di nuovo"_s,
-                            u"Attenzione"_s, Icona::Stop);
-        return;
-    }
-    // Stored without its drive, by which the computers of an office differ.
-    if (pezzo(nome, 2, 1) == u":")
-        nome = pezzo(nome, 3);
-    if (!maiuscolo(nome).contains(u"PDF"_s) || nome.contains(u'*'))
-        return;
-    if (nome.size() > caratteriPdf) {
-        operatore.messaggio(u"Il nome del file e della sua cartella superano i 60 caratteri"_s,
-                            u"Attenzione"_s, Icona::Stop);
-        return;
-    }
-    m_documento.estremi.pdf = nome;
 }
 
 void Borftea::apripdf() const {

@@ -1,14 +1,30 @@
 // Saves the document on screen: its records, its counter, its lines file, and what follows from it.
 #pragma once
 
-#include "document/comandiesterni.h"
 #include "document/documento.h"
+
+#include <optional>
 
 namespace bor {
 
 struct Contesto;
 class Registrazioni;
 class RigheInSospeso;
+
+/// A box that the operator is sent to; `indice` counts the due dates from 0.
+enum class CampoTea { Numero, Data, DataReg, Scadenza };
+struct PostoTea {
+    CampoTea campo;
+    int indice = 0;
+};
+
+/// What comes after a save: the form stays (at a box where one was refused), the register, or the editor of
+/// the movement.
+enum class DopoSalva { Resta, Registro, Movimento };
+struct EsitoSalva {
+    DopoSalva dopo = DopoSalva::Resta;
+    std::optional<PostoTea> fuoco;
+};
 
 /// Checks and stores the document. A new one gets the next record number, its movement is prepared, and its
 /// lines wait in `sospese` for the next save; one that is on file also gets its lines file and, where the

@@ -17,6 +17,8 @@ namespace bor {
 
 namespace {
 
+constexpr int caratteriPdf = 60;
+
 using Comando = Borftea::Comando;
 using Prospetto = Borftea::Prospetto;
 
@@ -106,7 +108,7 @@ QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
     linea->setContentsMargins(0, 0, 0, 0);
     Estremi& estremi = m_form.estremi();
     const QString documento = u"Documento in formato PDF"_s;
-    auto* pdf = banco.campi.testo(u"pdf"_s, documento, Borftea::caratteriPdf, estremi.pdf);
+    auto* pdf = banco.campi.testo(u"pdf"_s, documento, caratteriPdf, estremi.pdf);
     auto* etichetta = didascalia(documento, pdf);
     etichetta->setObjectName(u"Label2"_s);
     linea->addWidget(etichetta);
@@ -123,8 +125,9 @@ QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
         bottoni->addWidget(b);
         return b;
     };
-    bottone(0, u"Scegli il file PDF"_s, u"Ctrl+O"_s, [this] { m_form.sceglipdf(); });
+    auto* scegli = bottone(0, u"Scegli il file PDF"_s, u"Ctrl+O"_s, [this] { m_form.scegliPdf(); });
     auto* apri = bottone(1, u"Apri"_s, u"Ctrl+P"_s, [this] { m_form.apripdf(); });
+    legami.abilitato(scegli, [this] { return m_form.scegliPdfAbilitato(); });
     legami.abilitato(apri, [&estremi] { return !estremi.pdf.trimmed().isEmpty(); });
     legami.visibile(scelta, [this] { return m_form.pdfVisibile(); });
     linea->addWidget(scelta);

@@ -1,6 +1,8 @@
 // The document form: how it opens, and what follows from what is typed.
 #include "document/borftea.h"
+#include "document/righeinsospeso.h"
 #include "support/azienda.h"
+#include "support/registrazioni_finte.h"
 
 #include <gtest/gtest.h>
 
@@ -49,20 +51,13 @@ protected:
     ContestoDiProva contesto{azienda};
     Sessione& sessione = contesto.sessione;
     Documento documento;
-    EsitoSalva esito;
-    int caricati = 0;
-    ComandiEsterni comandi{.carica =
-                               [this] {
-                                   ++caricati;
-                                   documento.estremi.numero = documento.coppia.fte.numero.text().trimmed();
-                                   documento.estremi.esig = true;
-                               },
-                           .salva = [this] { return esito; },
-                           .elimina = [] { return true; },
-                           .stampa = {},
-                           .anteprima = {},
-                           .fatturaPa = [] {}};
-    Borftea form{contesto.contesto, documento, comandi};
+    RegistrazioniFinte registrazioni;
+    RigheInSospeso sospese;
+    Borftea form{contesto.contesto,
+                 documento,
+                 registrazioni,
+                 sospese,
+                 {.stampa = {}, .anteprima = {}, .scegliPdf = {}, .fatturaPa = [] {}}};
 };
 
 TEST_F(DocumentForm, NuovoDocumento_NumeriDateECliente) {
@@ -96,21 +91,24 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     CoppiaFte coppia = documentoDi(cliente, u"7"_s, 100, 22);
     coppia.fte.tipo = 1;
     coppia.fte.parcella = 1;
+    coppia.fte.esigdiff.set(u"1");
     esistente(coppia);
     EXPECT_EQ(form.titolo(), u"Modifica dati nota di credito emessa");
     EXPECT_EQ(sessione.tipodocumento, 1);
     EXPECT_EQ(sessione.tipoparcella, 1);
     EXPECT_TRUE(form.abilitato(Comando::Elimina) && form.abilitato(Comando::Testata));
     EXPECT_EQ(documento.testata.cliente.sede.ragione1, u"Rossi");
+    EXPECT_TRUE(form.estremi().esig);
+    form.estremi().numero = u"8"_s;
     form.attiva();
-    EXPECT_EQ(caricati, 1) << "a form still open is not filled again";
+    EXPECT_EQ(form.estremi().numero, u"8") << "a form still open is not filled again";
 
     form.esegui(Comando::Righe);
     EXPECT_EQ(documento.coppia.fte.nfile, -1.0F);
     form.scorri(5);
     contesto.tabelle.esenzioni[0][1].clear();
     form.attiva();
-    EXPECT_EQ(caricati, 1);
+    EXPECT_EQ(form.estremi().numero, u"8");
     EXPECT_EQ(form.primariga(), 1);
     EXPECT_FALSE(form.estremi().esig) << "the regime forbids it";
     form.esegui(Comando::Esci);
@@ -239,39 +237,29 @@ TEST_F(DocumentForm, FatturaIntegrata_UltimaRigaConImposta) {
     EXPECT_EQ(form.integrata(), u"");
 }
 
-TEST_F(DocumentForm, SceltaDelPdf) {
-    nuovo();
-    const auto scegli = [this](const QString& nome) {
-        contesto.operatore.fileScelto = azienda.radice() + nome;
-        form.sceglipdf();
-        return form.estremi().pdf;
-    };
-    EXPECT_EQ(scegli(u"ftr12.pdf"_s), u"\\suprok\\suprok\\ftr12.pdf");
-    EXPECT_EQ(scegli(u"ftr13.txt"_s), u"\\suprok\\suprok\\ftr12.pdf") << "no PDF";
-    EXPECT_EQ(testi(), QStringList());
-    scegli(QString(50, u'x') + u".pdf"_s);
-    contesto.operatore.fileScelto = u"/elsewhere/ftr12.pdf"_s;
-    form.sceglipdf();
-    EXPECT_EQ(form.estremi().pdf, u"\\suprok\\suprok\\ftr12.pdf");
-    EXPECT_EQ(testi().size(), 2);
-    contesto.operatore.fileScelto = azienda.radice() + u"../../c/a.pdf"_s;
-    form.sceglipdf();
-    EXPECT_EQ(form.estremi().pdf.toLower(), u"\\c\\a.pdf");
-}
-
 TEST_F(DocumentForm, DopoIlSalvataggio) {
-    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    CoppiaFte coppia = documentoDi(cliente, u"7"_s, 100, 22);
+    coppia.fte.rata[3] = 30;
+    esistente(coppia);
     form.prendiFuoco();
-    esito.fuoco = PostoTea{CampoTea::Scadenza, 3};
     form.esegui(Comando::Salva);
     EXPECT_TRUE(contesto.navigatore.mostrati.isEmpty() && sessione.documentoletto);
     EXPECT_EQ(form.prendiFuoco()->indice, 3);
-    esito = {DopoSalva::Movimento, {}};
+    form.scadenze().rate[3].scadenza = u"30/04/2015"_s;
+    contesto.operatore.risposte = {true};
     form.esegui(Comando::Salva);
     EXPECT_TRUE(sessione.listadaaggiornare);
     EXPECT_FALSE(sessione.documentoletto || sessione.righelette);
+    EXPECT_EQ(registrazioni.chiamate, QStringList(u"movimento"_s));
+    riapri();
+    contesto.operatore.risposte = {false, false, true};
+    form.esegui(Comando::Salva);
+    riapri();
     form.esegui(Comando::Elimina);
-    EXPECT_EQ(contesto.navigatore.mostrati, (QList{Schermo::Borftec, Schermo::Borfte}));
+    EXPECT_TRUE(sessione.documentoletto) << "not wanted after all";
+    form.esegui(Comando::Elimina);
+    EXPECT_EQ(contesto.navigatore.mostrati, (QList{Schermo::Borftec, Schermo::Borfte, Schermo::Borfte}));
+    EXPECT_EQ(contesto.archivio.fte.leggi(1).annullata, 1);
 }
 
 } // namespace

@@ -1,4 +1,6 @@
+#include "document/righeinsospeso.h"
 #include "support/azienda.h"
+#include "support/registrazioni_finte.h"
 #include "ui/gesti.h"
 #include "ui/vistaborftea.h"
 
@@ -49,19 +51,13 @@ protected:
     }
 
     Documento documento;
-    int salvati = 0;
-    EsitoSalva esito;
-    ComandiEsterni comandi{.carica = {},
-                           .salva =
-                               [this] {
-                                   ++salvati;
-                                   return esito;
-                               },
-                           .elimina = [] { return true; },
-                           .stampa = [] {},
-                           .anteprima = [] {},
-                           .fatturaPa = [] {}};
-    Borftea form{prova.contesto, documento, comandi};
+    RegistrazioniFinte registrazioni;
+    RigheInSospeso sospese;
+    Borftea form{prova.contesto,
+                 documento,
+                 registrazioni,
+                 sospese,
+                 {.stampa = [] {}, .anteprima = [] {}, .scegliPdf = [] {}, .fatturaPa = [] {}}};
     VistaBorftea vista{form};
 };
 
@@ -117,12 +113,14 @@ TEST_F(VistaDocumento, DaiTastiAiTotali) {
     EXPECT_EQ(foglio(u"dsca(1)"_s), u"01/03/2016");
     foto(vista, u"documento_compilato"_s);
 
-    esito.fuoco = PostoTea{CampoTea::Scadenza, 2};
-    in(u"text3(1)"_s);
+    in(u"dsca(2)"_s);
+    scrivi(vista, u"mai"_s);
+    in(u"text3(2)"_s);
     scrivi(vista, u"010116"_s);
     tasto(vista, Qt::Key_F10);
-    EXPECT_EQ(salvati, 1);
-    EXPECT_EQ(documento.estremi.data, u"01/01/2016") << "a date still being typed is complete when saved";
+    EXPECT_EQ(documento.estremi.datareg, u"01/01/2016") << "a date still being typed is complete when saved";
+    ASSERT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(prova.operatore.messaggi[0].testo, u"Una o più date di scadenza non sono valide");
     EXPECT_EQ(fuoco(vista), u"dsca(2)");
     tasto(vista, Qt::Key_Escape);
     EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borfte});

@@ -55,10 +55,11 @@ int main(int argc, char* argv[]) {
     OperatoreDelGiro operatore;
     GiornoDelGiro orologio;
     bor::SistemaQt sistema;
+    bor::StampanteQt stampante;
     bor::Finestra finestra;
     const auto modulo =
         bor::Modulo::avvia(bor::rigaAvvio(1), bor::Percorsi(unita.path(), unita.path() + u"/c"_s),
-                           {operatore, orologio, sistema, finestra});
+                           {operatore, orologio, sistema, finestra, stampante});
     bor::aggiungiSchermi(finestra, *modulo);
     finestra.show();
     finestra.activateWindow();
