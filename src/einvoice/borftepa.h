@@ -1,0 +1,100 @@
+// The electronic invoice of a document to a public administration: what it needs beyond the document is
+// entered here, and the XML file made. Opened from the document form, to which it returns.
+#pragma once
+
+#include "archive/contesto.h"
+#include "archive/fpa.h"
+#include "document/documento.h"
+#include "einvoice/controlloxml.h"
+#include "einvoice/listefpa.h"
+#include "einvoice/riepilogofpa.h"
+
+#include <optional>
+
+namespace bor {
+
+class Borftepa {
+public:
+    static constexpr int numeroTesti = 17; ///< `Text2(0)` to `Text2(16)`
+    static constexpr int numeroDate = 6;   ///< `dsca(0)` to `dsca(5)`
+
+    /// A box of the form.
+    struct Posto {
+        bool data; ///< a `dsca`, otherwise a `Text2`
+        int indice;
+
+        friend bool operator==(const Posto&, const Posto&) = default;
+    };
+
+    Borftepa(Contesto& contesto, const Documento& documento);
+
+    /// Proposes the data from the document, or restores those entered before. Where the company's own data
+    /// were never compiled it says so and returns to the document.
+    void attiva();
+    /// Returns to the document.
+    void lascia(); ///< `comando(4)`
+
+    const QString& testo(int indice) const { return m_testi[static_cast<std::size_t>(indice)]; }
+    void cambia(int indice, const QString& testo);
+    const QString& data(int indice) const { return m_date[static_cast<std::size_t>(indice)]; }
+    void cambiaData(int indice, const QString& testo);
+    /// A text that is no date gives way to today's.
+    void lasciaData(int indice);
+    /// The box holds a whole date: typing goes on in the next one.
+    bool dataCompleta(int indice) const;
+    /// Where Enter leads to.
+    static Posto invio(Posto da);
+
+    /// Positions count from 0; -1 is no selection.
+    int scelta(ListaFpa lista) const { return m_scelte[static_cast<std::size_t>(lista)]; }
+    void scegli(ListaFpa lista, int posizione) { m_scelte[static_cast<std::size_t>(lista)] = posizione; }
+    QStringList vettori() const; ///< `Combo1`
+    int vettore() const { return m_vettore; }
+    void scegliVettore(int posizione);
+    QString nomeVettore() const { return m_fpadoc.vettorenome.trimmed(); }
+
+    /// The customer as his record has him, on a form that does not change him.
+    const Cli& cliente() const { return m_cliente; }
+
+    bool art73 = false;
+    bool esig = false; ///< deferred VAT
+
+    /// Writes the XML file and the data of company and document, and tells where the file is.
+    void genera(); ///< `comando(1)`
+    bool generato() const { return m_generato; }
+    /// What the receiving system would refuse in the file generated last; nothing when there is no such file,
+    /// which the operator is told.
+    std::optional<std::vector<Rilievo>> controlla();
+
+private:
+    void apriAzienda();
+    void vuotaCampi();
+    void proponi();
+    void proponiPagamento();
+    bool apriDocumento();
+    void ripristina();
+    void raccogli();
+    void scriviXml();
+    void scriviDati();
+    double nuovoProgressivo();
+    bool leggiFpa(const QString& nome, Fpa& fpa) const;
+    void scriviFpa(const QString& nome, const Fpa& fpa) const;
+    QString fileDocumento() const;
+    QString voce(ListaFpa lista) const;
+    void scegliSeEsiste(ListaFpa lista, int posizione);
+
+    Contesto& m_contesto;
+    const Documento& m_documento;
+    Cli m_cliente = vuoto<Cli>();
+    Fpa m_fpaazienda = vuoto<Fpa>();
+    Fpa m_fpadoc = vuoto<Fpa>();
+    TabellaRighe m_righepa;
+    RiepilogoFpa m_riepilogo;
+    std::array<QString, numeroTesti> m_testi;
+    std::array<QString, numeroDate> m_date;
+    std::array<int, numeroListeFpa> m_scelte{};
+    int m_vettore = -1;
+    bool m_generato = false;
+};
+
+} // namespace bor

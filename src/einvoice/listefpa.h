@@ -1,0 +1,16 @@
+// The fixed lists of the electronic invoice form. The codes in front of the texts go into the invoice.
+#pragma once
+
+#include <QStringList>
+
+#include <array>
+
+namespace bor {
+
+/// The lists `Combo7(0)` to `Combo7(4)`.
+enum class ListaFpa { TipoDocumento, Causale, TipoRitenuta, Condizioni, Modalita };
+inline constexpr std::size_t numeroListeFpa = 5;
+
+const QStringList& vociFpa(ListaFpa lista);
+
+} // namespace bor

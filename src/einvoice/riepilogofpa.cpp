@@ -1,0 +1,63 @@
+#include "einvoice/riepilogofpa.h"
+
+#include "archive/tabelle.h"
+#include "common/testo.h"
+
+#include <algorithm>
+
+namespace bor {
+
+namespace {
+
+constexpr std::size_t codiciTassati = 12;
+
+QString campo(const QString& testo, qsizetype larghezza) {
+    return testo.trimmed().left(larghezza).trimmed();
+}
+
+} // namespace
+
+TabellaRighe caricarighe(const TabellaRighe& ddd) {
+    TabellaRighe righepa = ddd;
+    for (Riga& riga : righepa) {
+        riga.descrizione = campo(riga.descrizione, 60);
+        riga.um = campo(riga.um, 2);
+    }
+    return righepa;
+}
+
+RiepilogoFpa calcolaiva(const TabellaRighe& righepa, bool scorporo, const Tabelle& tabelle,
+                        const Valuta& valuta) {
+    RiepilogoFpa r;
+    r.iva = ricalcola(righepa, scorporo, tabelle, valuta).iva;
+    for (std::size_t i = 1; i <= codiciTassati; ++i) {
+        double& imponibile = r.iva.imponibili[i];
+        imponibile = valuta.arrotonda(imponibile);
+        r.iva.imposte[i] = valuta.arrotonda(r.iva.imposte[i]);
+        r.iva.esenti[i] = valuta.arrotonda(r.iva.esenti[i]);
+        const double percento = tabelle.ritenuta(static_cast<int>(i));
+        if (percento > 0 && imponibile != 0.0) {
+            r.percentualeritenuta = percento;
+            r.totaleritenuta += valuta.percentuale(imponibile, percento);
+            r.imponibileritenuta += imponibile;
+        }
+    }
+    return r;
+}
+
+bool rigaInFattura(const Riga& riga) {
+    return !riga.descrizione.isEmpty() || riga.prezzo != 0.0 || riga.quantita != 0.0;
+}
+
+void completaCodici(TabellaRighe& righepa) {
+    const auto tassata = std::ranges::find_if(
+        righepa, [](const Riga& r) { return r.iva >= 1 && r.iva <= static_cast<int>(codiciTassati); });
+    if (tassata == righepa.end())
+        return;
+    for (Riga& riga : righepa) {
+        if (riga.iva == 0 && rigaInFattura(riga))
+            riga.iva = tassata->iva;
+    }
+}
+
+} // namespace bor
