@@ -43,7 +43,6 @@ protected:
         fattura(u"2"_s, 42079.25, 2);
         ContestoDiProva prova(azienda);
         mettiscarico(scarico(), prova.contesto);
-        QFile::remove(azienda.percorso(u"borlano.gnr"_s));
     }
     Documento scarico() const {
         Documento documento;
@@ -286,9 +285,11 @@ TEST_F(VerificaTest, NumeriDoppiEMancantiPerAnnoERegistro) {
     documento(u"8"_s, u"20150401", 0, 0);
     documento(u"9E99999"_s, u"20150401", 0, 0);
     documento(u"3"_s, u"20150230", 0, 0);
-    EXPECT_EQ(rilievi().filter(u"non ha un file delle righe"_s).size(), 7);
+    documento(QString(), u"20150401", 0, 0);
+    EXPECT_EQ(rilievi().filter(u"non ha un file delle righe"_s).size(), 8);
     EXPECT_EQ(rilievi().filter(QRegularExpression(u"numer|data"_s)).join(u'\n').toStdString(),
               "AVVISO  fattura n. 3 (record 10): la data di emissione non è valida\n"
+              "AVVISO  fattura n.  (record 11): non ha un numero\n"
               "ERRORE  anno 2015, registro IVA 0: numero 2 usato 2 volte: fattura n. 2 (record 2), "
               "fattura n. 002 (record 3)\n"
               "AVVISO  anno 2015, registro IVA 0: numeri mancanti: 3, da 5 a 7\n"

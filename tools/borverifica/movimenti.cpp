@@ -13,7 +13,7 @@ namespace {
 struct PerStamp {
     QStringList documenti; ///< live ones
     bool documentoEliminato = false;
-    QList<int> movimenti; ///< live ones
+    QStringList movimenti; ///< record numbers of live ones
 };
 
 using Legami = std::unordered_map<double, PerStamp>;
@@ -50,7 +50,7 @@ bool leggiMovimenti(const Archivio& archivio, Legami& legami, Discordanze& trova
         if (gio.cancellato == 1)
             return true;
         PerStamp& suo = legami[gio.riferimentofattura];
-        suo.movimenti.append(n);
+        suo.movimenti.append(QString::number(n));
         if (suo.documenti.isEmpty())
             trovate.append({Gravita::Avviso, nomeMovimento(gio, n),
                             suo.documentoEliminato ? u"il suo documento è stato eliminato"_s
@@ -58,13 +58,6 @@ bool leggiMovimenti(const Archivio& archivio, Legami& legami, Discordanze& trova
         return true;
     });
     return almenoUno;
-}
-
-QString numeri(const QList<int>& movimenti) {
-    QStringList testi;
-    for (const int n : movimenti)
-        testi.append(QString::number(n));
-    return testi.join(u", "_s);
 }
 
 } // namespace
@@ -83,9 +76,10 @@ Discordanze verificaMovimenti(const Archivio& archivio) {
         if (documenti.size() > 1 && documenti.first() == nome)
             trovate.append({Gravita::Errore, nome,
                             u"ha lo stesso riferimento a movimenti e magazzino di altri documenti: %1"_s.arg(
-                                documenti.mid(1).join(u", "_s))});
+                                elencoBreve(documenti.mid(1)))});
         if (movimenti.size() > 1)
-            trovate.append({Gravita::Avviso, nome, u"ha più movimenti contabili: "_s + numeri(movimenti)});
+            trovate.append(
+                {Gravita::Avviso, nome, u"ha più movimenti contabili: "_s + elencoBreve(movimenti)});
         if (movimenti.isEmpty() && conMovimenti)
             trovate.append({Gravita::Avviso, nome, u"non ha un movimento contabile"_s});
         return true;

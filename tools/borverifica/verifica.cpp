@@ -36,11 +36,17 @@ bool collegato(double stamp) {
     return std::isfinite(stamp) && stamp != 0.0;
 }
 
+QString elencoBreve(const QStringList& testi) {
+    constexpr qsizetype massimo = 10;
+    const QString elenco = testi.mid(0, massimo).join(u", "_s);
+    return testi.size() > massimo ? elenco + u" e altri %1"_s.arg(testi.size() - massimo) : elenco;
+}
+
 QString nomeDocumento(const Fte& fte, int record) {
     const QString genere = fte.parcella != 0 ? u"parcella"_s
                            : fte.tipo == 1   ? u"nota di credito"_s
                                              : u"fattura"_s;
-    return u"%1 n. %2 (record %3)"_s.arg(genere, puliscitesto(fte.numero.text())).arg(record);
+    return u"%1 n. %2 (record %3)"_s.arg(genere, puliscitesto(fte.numero.text()), QString::number(record));
 }
 
 } // namespace bor

@@ -67,6 +67,9 @@ int inUso(const Archivio& archivio, Conta quale, const RecordFile<R>& file) {
 /// A stamp that ties a document to its rows and its movement: 0 is a document from before the link.
 bool collegato(double stamp);
 
+/// The texts with commas between them, no more than a person reads: "1, 2, 3 e altri 40".
+QString elencoBreve(const QStringList& testi);
+
 /// "fattura n. 12 (record 7)", or credit note, or fee bill.
 QString nomeDocumento(const Fte& fte, int record);
 
