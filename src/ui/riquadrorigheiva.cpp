@@ -31,7 +31,7 @@ constexpr std::array<ColonnaIva, 3> colonne = {{
 QLabel* etichetta(const BancoTea& banco, const QString& nome, const Legami::Leggi& leggi) {
     auto* testo = new QLabel;
     testo->setObjectName(nome);
-    testo->setMinimumWidth(testo->fontMetrics().averageCharWidth() * 10);
+    testo->setMinimumWidth(testo->fontMetrics().horizontalAdvance(u"Aliquota iva 22%"_s));
     testo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     banco.legami.altro([testo, leggi] {
         // The captions of a company may be longer than there is room for.

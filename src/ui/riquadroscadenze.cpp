@@ -27,6 +27,8 @@ std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia, int 
         auto* data = banco.campi.data(indicizzato(u"dsca", i), indicizzato(u"ddsca", i),
                                       u"Data scadenza, "_s + quale, rata.scadenza);
         auto* importo = banco.campi.importo(indicizzato(u"sca", i), u"Importo, "_s + quale, rata.importo);
+        // The room goes to the VAT rows.
+        importo->setMinimumWidth(importo->fontMetrics().horizontalAdvance(u"-1000000.00 "_s));
         const int colonna = i / perColonna * colonneRata;
         const int linea = primaRiga + 1 + i % perColonna;
         griglia->addWidget(didascalia(quale, data), linea, colonna, Qt::AlignRight | Qt::AlignVCenter);

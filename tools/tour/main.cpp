@@ -6,6 +6,7 @@
 #include "tour/giro.h"
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
+#include "ui/stampanteqt.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
