@@ -83,16 +83,18 @@ Mime corpo(CURL* curl, const Messaggio& messaggio) {
     return mime;
 }
 
+/// What stands before the sender's address. A plain name goes in quotes, which an encoded word may not have.
+QByteArray nomeMittente(const QString& nome) {
+    QByteArray testo = testoIntestazione(nome);
+    if (testo.isEmpty() || testo.startsWith("=?"))
+        return testo + ' ';
+    return '"' + testo.replace('\\', "").replace('"', "'") + "\" ";
+}
+
 void intestazioni(Lista& lista, const ImpostazioniPosta& posta, const Messaggio& messaggio) {
     const QByteArray mittente = posta.mittente.toLatin1();
-    const QByteArray nome = testoIntestazione(posta.nome);
-    // A plain name stands in quotes, which an encoded word may not have.
-    const QByteArray davanti = nome.isEmpty() ? QByteArray()
-                               : nome.startsWith("=?"_L1)
-                                   ? nome + ' '
-                                   : '"' + QByteArray(nome).replace('\\', "").replace('"', "'") + "\" ";
     lista.aggiungi("Date: " + QDateTime::currentDateTime().toString(Qt::RFC2822Date).toLatin1());
-    lista.aggiungi("From: " + davanti + '<' + mittente + '>');
+    lista.aggiungi("From: " + nomeMittente(posta.nome) + '<' + mittente + '>');
     lista.aggiungi("To: <" + messaggio.destinatario.toLatin1() + '>');
     lista.aggiungi("Subject: " + testoIntestazione(messaggio.oggetto));
     lista.aggiungi("Message-ID: <" + QUuid::createUuid().toByteArray(QUuid::WithoutBraces) +
