@@ -1,7 +1,7 @@
 // Stores the documents of a new company.
 #include "borcrea/documenti.h"
-#include "borcrea/filerighe.h"
 #include "common/numeri.h"
+#include "document/filerighe.h"
 #include "document/righeiva.h"
 
 #include <QDateTime>
@@ -100,7 +100,7 @@ bool scriviDocumenti(Archivio& archivio, std::vector<DocumentoPronto>& documenti
         fte.nfile = static_cast<float>(d.record);
         fte.annullata = documenti[i].eliminato ? 1 : 0;
         if (!archivio.scrivi(d.record, d.coppia) ||
-            (!documenti[i].eliminato && !scriviFileRighe(archivio, d)))
+            (!documenti[i].eliminato && !scrividoc(d, archivio)))
             return false;
         if (documenti[i].fpa &&
             !scriviFpa(archivio, u"fpa"_s + testoDecimale(double{d.coppia.f2e.fpa}), *documenti[i].fpa))
