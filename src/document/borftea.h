@@ -28,6 +28,7 @@ public:
     };
     /// The buttons of the command bar.
     enum class Comando { Esci, Salva, Righe, Pdf, Elimina, Stampa, Anteprima, Testata, FatturaPa };
+
     Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni, RigheInSospeso& sospese,
             ComandiEsterni comandi);
 

@@ -70,7 +70,8 @@ RiquadroTea creaRicavi(const BancoTea& banco) {
     auto* quota2 = banco.campi.importo(u"Text2(5)"_s, scorpora, estremi.quota2);
     auto* voce3 = banco.campi.lista(u"Combo4"_s, scorpora, voci, estremi.voce3);
     auto* quota3 = banco.campi.importo(u"Text2(6)"_s, scorpora, estremi.quota3);
-    riga(griglia, 0, principale, voce1);
+    griglia->addWidget(didascalia(principale, voce1), 0, 0, Qt::AlignRight | Qt::AlignVCenter);
+    griglia->addWidget(voce1, 0, 1, 1, 2);
     riga(griglia, 1, scorpora, voce2);
     riga(griglia, 2, scorpora, voce3);
     griglia->addWidget(quota2, 1, 2);

@@ -16,7 +16,7 @@ namespace bor {
 namespace {
 
 /// The six instalments, two columns of three, with the due dates and amounts in Enter order.
-std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia, int primaRiga) {
+std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia) {
     constexpr int perColonna = 3;
     constexpr int colonneRata = 4; // number, date, amount, gap
     std::vector<QWidget*> percorso;
@@ -30,13 +30,13 @@ std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia, int 
         // The room goes to the VAT rows.
         importo->setMinimumWidth(importo->fontMetrics().horizontalAdvance(u"-1000000.00 "_s));
         const int colonna = i / perColonna * colonneRata;
-        const int linea = primaRiga + 1 + i % perColonna;
+        const int linea = 1 + i % perColonna;
         griglia->addWidget(didascalia(quale, data), linea, colonna, Qt::AlignRight | Qt::AlignVCenter);
         griglia->addWidget(data, linea, colonna + 1);
         griglia->addWidget(importo, linea, colonna + 2);
         if (i % perColonna == 0) {
-            griglia->addWidget(new QLabel(u"Data scadenza"_s), primaRiga, colonna + 1);
-            griglia->addWidget(new QLabel(u"Importo"_s), primaRiga, colonna + 2, Qt::AlignRight);
+            griglia->addWidget(new QLabel(u"Data scadenza"_s), 0, colonna + 1);
+            griglia->addWidget(new QLabel(u"Importo"_s), 0, colonna + 2, Qt::AlignRight);
         }
         percorso.insert(percorso.end(), {data->campo(), importo});
     }
@@ -91,7 +91,7 @@ RiquadroTea creaScadenze(const BancoTea& banco) {
     colonna->addLayout(testa);
     auto* griglia = new QGridLayout;
     griglia->setVerticalSpacing(7);
-    std::vector<QWidget*> percorso = creaRate(banco, griglia, 0);
+    std::vector<QWidget*> percorso = creaRate(banco, griglia);
     colonna->addLayout(griglia);
     colonna->addWidget(creaProvvigione(banco, percorso));
     banco.invio.passo(pagamento, percorso.front());

@@ -6,7 +6,6 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <QWheelEvent>
