@@ -1,0 +1,165 @@
+#include "einvoice/fatturadiprova.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+using Posto = Borftepa::Posto;
+
+TEST(FormFatturaPa, SenzaIDatiDellAziendaTornaAlDocumento) {
+    FatturaDiProva f;
+    QFile::remove(f.azienda.percorso(u"borlano.fpa"_s));
+    f.form.attiva();
+    ASSERT_EQ(f.prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(
+        f.prova.operatore.messaggi[0].testo,
+        u"Non sono ancora stati compilati i quadri proposti dal 'Kit Fatture elettroniche PA': la compilazione di tali quadri è necessaria per la corretta generazione della fattura elettronica PA"_s);
+    EXPECT_EQ(f.prova.operatore.messaggi[0].titolo, u"Attenzione"_s);
+    EXPECT_EQ(f.prova.operatore.messaggi[0].icona, Icona::Stop);
+    EXPECT_EQ(f.prova.navigatore.mostrati, QList{Schermo::Borftea});
+    EXPECT_FALSE(QFile::exists(f.azienda.percorso(u"borlano.fpa"_s)));
+}
+
+TEST(FormFatturaPa, PropostaDalDocumento) {
+    FatturaDiProva f;
+    f.documento.testata.trasporto.ddt = u"45"_s;
+    f.documento.testata.trasporto.ordine = u"ODA 9"_s;
+    f.documento.estremi.esig = true;
+    f.rata(1, u"31/05/2015"_s, u"10"_s);
+    f.tipoPagamento(u'3');
+    f.form.attiva();
+    EXPECT_EQ(f.form.testo(0), u"12"_s);
+    EXPECT_EQ(f.form.data(0), u"15/03/2015"_s);
+    EXPECT_EQ(f.form.testo(1), u"45"_s);
+    EXPECT_EQ(f.form.testo(2), u"ODA 9"_s);
+    EXPECT_EQ(f.form.testo(16), u"42"_s);
+    EXPECT_TRUE(f.form.esig);
+    EXPECT_EQ(f.form.scelta(ListaFpa::Condizioni), 0);
+    EXPECT_EQ(f.form.scelta(ListaFpa::Modalita), 8);
+    f.tipoPagamento(u'4');
+    f.form.attiva();
+    EXPECT_EQ(f.form.scelta(ListaFpa::Modalita), 1);
+}
+
+TEST(FormFatturaPa, LaGenerazioneScriveIDatiEDiceDove) {
+    FatturaDiProva f;
+    Tot contatore = vuoto<Tot>();
+    contatore.numero = 6;
+    f.prova.archivio.scriviTot(Conta::Fpa, contatore);
+    f.form.attiva();
+    f.form.cambia(5, u"123456789012345678901234"_s);
+    f.form.scegliVettore(4);
+    f.form.genera();
+
+    EXPECT_EQ(f.prova.sessione.recordfpa, 7);
+    EXPECT_EQ(f.prova.archivio.leggiTot(Conta::Fpa).numero, 7);
+    const QByteArray bytes = f.azienda.leggi(u"fpa7"_s);
+    ASSERT_EQ(bytes.size(), 2421);
+    EXPECT_EQ(bytes.mid(33, 6), "UFABCD");
+    EXPECT_EQ(bytes.mid(709, 14), "TD0115/03/2015");
+    EXPECT_EQ(bytes.mid(773, 76), QByteArray(76, ' '));
+    EXPECT_EQ(bytes.mid(849, 6), "42    ");
+    EXPECT_EQ(bytes.mid(905, 30), "12345678901234567890          ");
+    // A carrier without codes leaves the closing asterisk of the empty ones.
+    EXPECT_EQ(bytes.mid(1085, 67), QByteArray(30, ' ') + "*" + QByteArray(15, ' ') + "Corriere senza codici");
+    EXPECT_EQ(bytes.mid(1211, 10), "TP02MP1200");
+    EXPECT_EQ(f.azienda.leggi(u"borlano.fpa"_s), bytesDi(fpaSocieta()));
+    ASSERT_EQ(f.prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(f.prova.operatore.messaggi[0].testo,
+              u"Il file IT01234567890_12.xml è stato creato all'interno della cartella \\xml\\"_s);
+    EXPECT_EQ(f.prova.operatore.messaggi[0].titolo, u"Fattura elettronica PA"_s);
+
+    f.form.genera();
+    EXPECT_EQ(f.prova.archivio.leggiTot(Conta::Fpa).numero, 7);
+}
+
+TEST(FormFatturaPa, IlContatoreRicominciaDaUno) {
+    FatturaDiProva f;
+    Tot contatore = vuoto<Tot>();
+    contatore.numero = 32767;
+    f.prova.archivio.scriviTot(Conta::Fpa, contatore);
+    f.form.attiva();
+    f.form.genera();
+    EXPECT_EQ(f.prova.sessione.recordfpa, 1);
+    EXPECT_EQ(f.prova.archivio.leggiTot(Conta::Fpa).numero, 1);
+}
+
+TEST(FormFatturaPa, RipristinoDeiDatiGiaInseriti) {
+    FatturaDiProva f;
+    Fpa d = fpaBianca();
+    d.tipodocpa.set(u"TD05");
+    d.numerodoc.set(u"99");
+    d.causalepagamento.set(u"G");
+    d.tiporitenuta.set(u"RT02");
+    d.condizionipagamento.set(u"TP03");
+    d.modalitapagamento.set(u"MP17");
+    d.progressivoinvio.set(u"7");
+    d.ricezione.commessa.set(u"RC");
+    d.ricezione.data.set(u"01/03/2015");
+    d.art73flag.set(u"1");
+    d.esigdifferita.set(u"1");
+    d.vettorenome.set(u"Trasporti Rapidi");
+    f.azienda.scrivi(u"fpa3"_s, bytesDi(d));
+    f.prova.sessione.recordfpa = 3;
+    f.form.attiva();
+    EXPECT_EQ(f.form.scelta(ListaFpa::TipoDocumento), 4);
+    EXPECT_EQ(f.form.scelta(ListaFpa::Causale), 5);
+    EXPECT_EQ(f.form.scelta(ListaFpa::TipoRitenuta), 1); // a row early
+    EXPECT_EQ(f.form.scelta(ListaFpa::Condizioni), 2);
+    EXPECT_EQ(f.form.scelta(ListaFpa::Modalita), 16);
+    EXPECT_EQ(f.form.testo(0), u"99"_s);
+    EXPECT_EQ(f.form.testo(13), u"RC"_s);
+    EXPECT_EQ(f.form.testo(16), u"7"_s);
+    EXPECT_EQ(f.form.data(0), QString());
+    EXPECT_EQ(f.form.data(5), u"01/03/2015"_s);
+    EXPECT_TRUE(f.form.art73);
+    EXPECT_FALSE(f.form.esig);
+    EXPECT_EQ(f.form.nomeVettore(), u"Trasporti Rapidi"_s);
+
+    // Data that are gone are proposed again and get a new number.
+    QFile::remove(f.azienda.percorso(u"fpa3"_s));
+    f.form.attiva();
+    EXPECT_EQ(f.prova.sessione.recordfpa, 0);
+    EXPECT_EQ(f.form.testo(16), u"42"_s);
+    EXPECT_EQ(f.form.testo(13), QString());
+    EXPECT_EQ(f.form.nomeVettore(), QString());
+}
+
+TEST(FormFatturaPa, RigheSenzaCodiceIvaNelSecondoRiepilogo) {
+    FatturaDiProva f;
+    f.documento.ddd[0].iva = 0;
+    f.documento.ddd[1] = {
+        .codice = {}, .descrizione = u"B"_s, .um = {}, .iva = 3, .quantita = 1, .prezzo = 1};
+    f.form.attiva();
+    f.form.genera();
+    EXPECT_TRUE(f.xml().contains("<ImponibileImporto>100.00</ImponibileImporto>"));
+    f.form.genera();
+    EXPECT_TRUE(f.xml().contains("<ImponibileImporto>101.00</ImponibileImporto>"));
+}
+
+TEST(FormFatturaPa, DateEInvio) {
+    FatturaDiProva f;
+    f.form.attiva();
+    f.form.cambiaData(3, u"311214"_s);
+    f.form.lasciaData(3);
+    EXPECT_EQ(f.form.data(3), u"31/12/2014"_s);
+    f.form.cambiaData(3, u"31/02/2015"_s);
+    EXPECT_FALSE(f.form.dataCompleta(3));
+    f.form.lasciaData(3);
+    EXPECT_EQ(f.form.data(3), u"15/03/2015"_s);
+    EXPECT_TRUE(f.form.dataCompleta(3));
+
+    EXPECT_EQ(Borftepa::invio({false, 11}), (Posto{true, 5}));
+    EXPECT_EQ(Borftepa::invio({true, 5}), (Posto{false, 12}));
+    EXPECT_EQ(Borftepa::invio({false, 0}), (Posto{true, 0}));
+    EXPECT_EQ(Borftepa::invio({true, 0}), (Posto{false, 16}));
+    EXPECT_EQ(Borftepa::invio({false, 16}), (Posto{false, 1}));
+    EXPECT_EQ(Borftepa::invio({false, 15}), (Posto{false, 15}));
+    EXPECT_EQ(Borftepa::invio({false, 6}), (Posto{false, 7}));
+}
+
+} // namespace
+} // namespace bor
