@@ -24,7 +24,8 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
       m_borfte(m_contesto, [this] { return !m_sospese.vuoto(); }), m_borftem(m_contesto, m_documento),
       m_borsel(m_contesto, m_borftem), m_borftek(m_contesto, m_documento), m_borftec(m_contesto, m_documento),
       m_registrazioni(m_contesto, m_borftec),
-      m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)) {
+      m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)),
+      m_borftepa(m_contesto, m_documento) {
     m_sessione.codiceazienda = codiceazienda;
     m_impostazioni = caricaimpostazioni(m_archivio, m_sessione);
     m_archivio.apri();
@@ -44,7 +45,7 @@ ComandiEsterni Modulo::comandi(Stampante& stampante) {
                         bor::anteprima(m_documento, m_contesto);
                 },
             .scegliPdf = [this] { bor::scegliPdf(m_documento, m_contesto); },
-            .fatturaPa = {}};
+            .fatturaPa = [this] { m_contesto.navigatore.mostra(Schermo::Borftepa); }};
 }
 
 } // namespace bor

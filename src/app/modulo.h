@@ -8,6 +8,7 @@
 #include "document/borftem.h"
 #include "document/documento.h"
 #include "document/righeinsospeso.h"
+#include "einvoice/borftepa.h"
 #include "posting/borftec.h"
 #include "posting/registrazionicontabili.h"
 #include "register/borfte.h"
@@ -39,6 +40,7 @@ public:
     Borftea& borftea() { return m_borftea; }
     Borftek& borftek() { return m_borftek; }
     Borftec& borftec() { return m_borftec; }
+    Borftepa& borftepa() { return m_borftepa; }
     Documento& documento() { return m_documento; }
 
 private:
@@ -62,6 +64,7 @@ private:
     Borftec m_borftec;
     RegistrazioniContabili m_registrazioni;
     Borftea m_borftea;
+    Borftepa m_borftepa;
 };
 
 } // namespace bor

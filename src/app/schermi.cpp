@@ -7,6 +7,7 @@
 #include "ui/vistaborftec.h"
 #include "ui/vistaborftek.h"
 #include "ui/vistaborftem.h"
+#include "ui/vistaborftepa.h"
 #include "ui/vistaborsel.h"
 
 namespace bor {
@@ -18,6 +19,7 @@ void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
     finestra.aggiungi(Schermo::Borftea, new VistaBorftea(modulo.borftea()));
     finestra.aggiungi(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
     finestra.aggiungi(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
+    finestra.aggiungi(Schermo::Borftepa, new VistaBorftepa(modulo.borftepa()));
 }
 
 } // namespace bor

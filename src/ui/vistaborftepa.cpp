@@ -1,0 +1,264 @@
+#include "ui/vistaborftepa.h"
+
+#include "ui/campi.h"
+#include "ui/finestrarilievi.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+VistaBorftepa::VistaBorftepa(Borftepa& form, QWidget* parent) : Vista(parent), m_form(form) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(creaCliente());
+    layout->addWidget(creaEstremi(), 1);
+    layout->addWidget(creaComandi());
+}
+
+QWidget* VistaBorftepa::creaCliente() {
+    auto* riquadro = new QGroupBox(u"Sede legale e dati fiscali"_s);
+    auto* griglia = new QGridLayout(riquadro);
+    const auto etichetta = [&](int linea, int colonna, const QString& testo) {
+        griglia->addWidget(new QLabel(testo), linea, colonna, Qt::AlignRight | Qt::AlignVCenter);
+    };
+    etichetta(0, 0, u"Intestazione "_s);
+    mostraCliente(griglia, 0, 1, 20, u"Intestazione"_s, 40,
+                  [](const Cli& c) { return c.sede.ragione1.trimmed(); });
+    mostraCliente(griglia, 0, 2, 21, u"Intestazione, seguito"_s, 40,
+                  [](const Cli& c) { return c.sede.ragione2.trimmed(); });
+    etichetta(0, 4, u"Codice fiscale"_s);
+    mostraCliente(griglia, 0, 5, 18, u"Codice fiscale"_s, 16,
+                  [](const Cli& c) { return c.codicefiscale.trimmed(); });
+    etichetta(1, 0, u"Indirizzo"_s);
+    mostraCliente(griglia, 1, 1, 22, u"Indirizzo"_s, 40,
+                  [](const Cli& c) { return c.sede.indirizzo.trimmed(); });
+    auto* citta = new QGridLayout;
+    mostraCliente(citta, 0, 1, 23, u"CAP"_s, 5, [](const Cli& c) { return c.sede.cap.trimmed(); });
+    mostraCliente(citta, 0, 2, 24, u"Città"_s, 40, [](const Cli& c) { return c.sede.citta.trimmed(); });
+    citta->addWidget(new QLabel(u"CAP Città"_s), 0, 0);
+    citta->setColumnStretch(2, 1);
+    griglia->addLayout(citta, 1, 2);
+    etichetta(1, 4, u"Partita iva"_s);
+    auto* iva = new QGridLayout;
+    mostraCliente(iva, 0, 0, 17, u"Paese della partita iva"_s, 2,
+                  [](const Cli& c) { return c.nazione.trimmed(); });
+    mostraCliente(iva, 0, 1, 19, u"Partita iva"_s, 11, [](const Cli& c) { return c.partitaiva.trimmed(); });
+    iva->setColumnStretch(1, 1);
+    griglia->addLayout(iva, 1, 5);
+    griglia->setColumnStretch(1, 3);
+    griglia->setColumnStretch(2, 3);
+    griglia->setColumnMinimumWidth(3, 16);
+    return riquadro;
+}
+
+void VistaBorftepa::mostraCliente(QGridLayout* griglia, int riga, int colonna, int indice,
+                                  const QString& descrizione, int caratteri,
+                                  const std::function<QString(const Cli&)>& leggi) {
+    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(indice), descrizione, caratteri);
+    legami.testo(campo, [this, leggi] { return leggi(m_form.cliente()); });
+    legami.entrato(campo, [this] { vai({false, 0}); });
+    griglia->addWidget(campo, riga, colonna);
+}
+
+QWidget* VistaBorftepa::creaEstremi() {
+    auto* riquadro = new QGroupBox(u"Estremi della fattura elettronica PA"_s);
+    auto* colonna = new QVBoxLayout(riquadro);
+    colonna->addLayout(creaDocumento());
+    colonna->addSpacing(8);
+    auto* centro = new QHBoxLayout;
+    centro->addLayout(creaRiferimenti());
+    centro->addSpacing(24);
+    centro->addLayout(creaPagamento(), 1);
+    colonna->addLayout(centro);
+    colonna->addStretch();
+    return riquadro;
+}
+
+QLayout* VistaBorftepa::creaDocumento() {
+    auto* colonna = new QVBoxLayout;
+    auto* linea = new QHBoxLayout;
+    const auto aggiungi = [&](const QString& testo, QWidget* campo) {
+        linea->addWidget(didascalia(testo, campo));
+        linea->addWidget(campo);
+        linea->addSpacing(16);
+    };
+    aggiungi(u"Tipo documento"_s, creaLista(ListaFpa::TipoDocumento, u"Tipo documento"_s));
+    aggiungi(u"Numero"_s, creaTesto(0, u"Numero del documento"_s, 20));
+    aggiungi(u"Data"_s, creaData(0, u"Data del documento"_s));
+    aggiungi(u"Numero progressivo invio"_s, creaTesto(16, u"Numero progressivo invio"_s, 6));
+    linea->addStretch();
+    auto* spunte = new QHBoxLayout;
+    spunte->addWidget(
+        creaSpunta(u"art73"_s, u"Documento emesso ai sensi art.73 DPR 633/72"_s, &Borftepa::art73));
+    spunte->addSpacing(24);
+    spunte->addWidget(
+        creaSpunta(u"esig"_s, u"Documento con iva ad esigibilità differita"_s, &Borftepa::esig));
+    spunte->addStretch();
+    colonna->addLayout(linea);
+    colonna->addLayout(spunte);
+    return colonna;
+}
+
+QLayout* VistaBorftepa::creaRiferimenti() {
+    auto* griglia = new QGridLayout;
+    griglia->setVerticalSpacing(8);
+    int colonna = 1;
+    for (const QString& testo : {u"Numero"_s, u"Data"_s, u"Numero Item"_s, u"Commessa"_s})
+        griglia->addWidget(new QLabel(testo), 0, colonna++);
+    riga(griglia, 1, u"Documento"_s, creaTesto(1, u"Documento di trasporto, numero"_s, 20));
+    griglia->addWidget(creaData(1, u"Documento di trasporto, data"_s), 1, 2);
+    creaRiferimento(griglia, 2, u"Ordine"_s, 2, 2);
+    creaRiferimento(griglia, 3, u"Contratto"_s, 5, 3);
+    creaRiferimento(griglia, 4, u"Convenzione"_s, 8, 4);
+    creaRiferimento(griglia, 5, u"Ricezione"_s, 11, 5);
+    griglia->addWidget(new QLabel(u"Codici progetto investimento pubblico / gara"_s), 6, 1, 1, 4);
+    auto* codici = new QHBoxLayout;
+    codici->setSpacing(6);
+    for (const auto& [indice, testo] : {std::pair{14, u"Codice CUP"_s}, std::pair{15, u"Codice CIG"_s}}) {
+        QLineEdit* campo = creaTesto(indice, testo, 15);
+        codici->addWidget(didascalia(testo, campo));
+        codici->addWidget(campo);
+        codici->addSpacing(8);
+    }
+    codici->addStretch();
+    griglia->addLayout(codici, 7, 1, 1, 4);
+    griglia->setRowStretch(8, 1);
+    return griglia;
+}
+
+void VistaBorftepa::creaRiferimento(QGridLayout* griglia, int linea, const QString& nome, int primoTesto,
+                                    int dataRiferimento) {
+    riga(griglia, linea, nome, creaTesto(primoTesto, nome + u", numero"_s, 20));
+    griglia->addWidget(creaData(dataRiferimento, nome + u", data"_s), linea, 2);
+    griglia->addWidget(creaTesto(primoTesto + 1, nome + u", numero item"_s, 10), linea, 3);
+    griglia->addWidget(creaTesto(primoTesto + 2, nome + u", commessa"_s, 10), linea, 4);
+}
+
+QLayout* VistaBorftepa::creaPagamento() {
+    auto* griglia = new QGridLayout;
+    griglia->setVerticalSpacing(8);
+    riga(griglia, 0, u"Vettore"_s, creaVettori());
+    griglia->addWidget(new QLabel(u"Ritenuta d'acconto"_s), 1, 1);
+    riga(griglia, 2, u"Tipo ritenuta"_s, creaLista(ListaFpa::TipoRitenuta, u"Tipo ritenuta"_s));
+    riga(griglia, 3, u"Causale pagamanto"_s, creaLista(ListaFpa::Causale, u"Causale pagamanto"_s));
+    griglia->addWidget(new QLabel(u"(come da modello 770S)"_s), 4, 1);
+    riga(griglia, 5, u"Condizioni pagamento"_s, creaLista(ListaFpa::Condizioni, u"Condizioni pagamento"_s));
+    riga(griglia, 6, u"Modalità pagamento"_s, creaLista(ListaFpa::Modalita, u"Modalità pagamento"_s));
+    griglia->setRowStretch(7, 1);
+    griglia->setColumnStretch(1, 1);
+    return griglia;
+}
+
+QLineEdit* VistaBorftepa::creaTesto(int indice, const QString& descrizione, int caratteri) {
+    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(indice), descrizione, caratteri);
+    m_testi[static_cast<std::size_t>(indice)] = campo;
+    legami.testo(
+        campo, [this, indice] { return m_form.testo(indice); },
+        [this, indice](const QString& t) { m_form.cambia(indice, t); });
+    invio.passo(campo, [this, indice] { vai(Borftepa::invio({false, indice})); });
+    return campo;
+}
+
+QWidget* VistaBorftepa::creaData(int indice, const QString& descrizione) {
+    auto* casella = new CampoData(u"dsca(%1)"_s.arg(indice), u"ddsca(%1)"_s.arg(indice), descrizione);
+    QLineEdit* campo = casella->campo();
+    m_date[static_cast<std::size_t>(indice)] = campo;
+    legami.testo(
+        campo, [this, indice] { return m_form.data(indice); },
+        [this, indice](const QString& t) { m_form.cambiaData(indice, t); });
+    legami.lasciato(campo, [this, indice] { m_form.lasciaData(indice); });
+    const auto avanti = [this, indice] { vai(Borftepa::invio({true, indice})); };
+    invio.passo(campo, avanti);
+    connect(campo, &QLineEdit::textEdited, this, [this, campo, indice, avanti] {
+        if (campo->hasFocus() && m_form.dataCompleta(indice))
+            avanti();
+    });
+    return casella;
+}
+
+QComboBox* VistaBorftepa::creaLista(ListaFpa lista, const QString& descrizione) {
+    auto* scelta = new QComboBox;
+    scelta->setObjectName(u"Combo7(%1)"_s.arg(static_cast<int>(lista)));
+    scelta->setAccessibleName(descrizione);
+    scelta->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    scelta->setMinimumContentsLength(26);
+    scelta->addItems(vociFpa(lista));
+    legami.lista(
+        scelta, [this, lista] { return m_form.scelta(lista); },
+        [this, lista](int i) { m_form.scegli(lista, i); });
+    return scelta;
+}
+
+/// The carrier entered before is no row of the list: it shows where none is chosen.
+QComboBox* VistaBorftepa::creaVettori() {
+    m_vettori = new QComboBox;
+    m_vettori->setObjectName(u"Combo1"_s);
+    m_vettori->setAccessibleName(u"Vettore"_s);
+    m_vettori->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_vettori->setMinimumContentsLength(26);
+    legami.altro([this] { m_vettori->setPlaceholderText(m_form.nomeVettore()); });
+    legami.lista(
+        m_vettori, [this] { return m_form.vettore(); }, [this](int i) { m_form.scegliVettore(i); });
+    return m_vettori;
+}
+
+QWidget* VistaBorftepa::creaSpunta(const QString& nome, const QString& testo, bool Borftepa::*dato) {
+    auto* spunta = new QCheckBox(testo);
+    spunta->setObjectName(nome);
+    legami.spunta(
+        spunta, [this, dato] { return m_form.*dato; }, [this, dato](bool acceso) { m_form.*dato = acceso; });
+    return spunta;
+}
+
+QWidget* VistaBorftepa::creaComandi() {
+    auto* barra = new QWidget;
+    auto* layout = new QHBoxLayout(barra);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto comando = [&](const QString& nome, const QString& testo, const QString& icona,
+                             const QString& tasto, std::function<void()> azione) {
+        auto* bottone = new BottoneComando(nome, testo, icona, QKeySequence(tasto));
+        legami.comando(bottone, std::move(azione));
+        layout->addWidget(bottone);
+        return bottone;
+    };
+    comando(u"comando(4)"_s, u"Esci"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
+    comando(u"comando(1)"_s, u"Genera fattura"_s, u"genera"_s, u"F10"_s, [this] { m_form.genera(); });
+    auto* controllo =
+        comando(u"controlla"_s, u"Controlla"_s, u"controlla"_s, u"F8"_s, [this] { controlla(); });
+    legami.abilitato(controllo, [this] { return m_form.generato(); });
+    layout->addStretch();
+    return barra;
+}
+
+void VistaBorftepa::controlla() {
+    if (const auto rilievi = m_form.controlla())
+        (new FinestraRilievi(*rilievi, this))->show();
+}
+
+void VistaBorftepa::vai(Borftepa::Posto posto) {
+    const auto i = static_cast<std::size_t>(posto.indice);
+    vaiA(posto.data ? m_date[i] : m_testi[i]);
+}
+
+void VistaBorftepa::attiva() {
+    m_form.attiva();
+    m_vettori->clear();
+    m_vettori->addItems(m_form.vettori());
+    legami.aggiorna();
+    vai({false, 0});
+}
+
+void VistaBorftepa::lascia() {
+    m_form.lascia();
+}
+
+QString VistaBorftepa::titolo() const {
+    return u"Fattura elettronica PA"_s;
+}
+
+} // namespace bor
