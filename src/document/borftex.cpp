@@ -130,6 +130,11 @@ void Borftex::scorri(int primariga) {
     m_combo1 = false;
 }
 
+void Borftex::pagina(int righe) {
+    scorri(m_primariga + righe);
+    m_fuoco = Cella{Campo::Artic, m_rigafocus};
+}
+
 bool Borftex::artNonVuoto() const {
     return m_contesto.archivio.leggiTot(Conta::Art).numero > 0;
 }

@@ -67,7 +67,10 @@ public:
     void invio(Cella cella);
     void cercaDescrizione(); ///< F1 in a description
     void scegliIva(int posizione);
+    void chiudiIva() { m_combo1 = false; }
     void scorri(int primariga);
+    /// Page keys: so many lines up or down.
+    void pagina(int righe);
 
     // Around the grid.
     void scegliArticolo(int posizione); ///< a click in the list

@@ -43,7 +43,7 @@ void Borftex::lascia(Cella cella) {
     if (cella.campo == Campo::Artic)
         m_digitato.reset();
     if (cella.campo == Campo::Civ)
-        m_combo1 = false;
+        chiudiIva();
 }
 
 void Borftex::proponiSconti(Riga& r) {

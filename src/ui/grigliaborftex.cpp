@@ -1,0 +1,226 @@
+#include "ui/grigliaborftex.h"
+
+#include "ui/campi.h"
+#include "ui/invio.h"
+#include "ui/legami.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+using Campo = Borftex::Campo;
+using Cella = Borftex::Cella;
+
+struct Colonna {
+    QStringView nome;
+    QStringView didascalia;
+    int caratteri;
+    bool numero;
+};
+
+/// In the order of `Campo`.
+constexpr std::array<Colonna, 8> disposizione = {{{u"artic", u"Articolo", 15, false},
+                                                  {u"ds", u"Descrizione", 60, false},
+                                                  {u"um", u"UM", 2, false},
+                                                  {u"quantita", u"Quantità", 10, true},
+                                                  {u"sc1", u"Primo sconto", 3, true},
+                                                  {u"sc2", u"Secondo sconto", 3, true},
+                                                  {u"prezzo", u"Prezzo", 12, true},
+                                                  {u"civ", u"Iva", 2, false}}};
+
+const Colonna& colonna(Campo campo) {
+    return disposizione[static_cast<std::size_t>(campo)];
+}
+
+} // namespace
+
+GrigliaBorftex::GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& invio, QWidget* parent)
+    : QWidget(parent), m_form(form), m_legami(legami), m_invio(invio),
+      m_cursore(new QScrollBar(Qt::Vertical)), m_listaIva(new QListWidget(this)) {
+    auto* griglia = new QGridLayout(this);
+    griglia->setContentsMargins(0, 0, 0, 0);
+    griglia->setHorizontalSpacing(3);
+    griglia->setVerticalSpacing(3);
+    const auto testata = [&](const QString& testo, int c, int larghezza = 1) {
+        const bool numero = disposizione[static_cast<std::size_t>(c)].numero && larghezza == 1;
+        griglia->addWidget(new QLabel(testo), 0, c, 1, larghezza,
+                           numero ? Qt::AlignRight : Qt::Alignment(Qt::AlignLeft));
+    };
+    for (const auto& [c, testo] : {std::pair{0, u"Articolo"_s},
+                                   {1, u"Descrizione"_s},
+                                   {2, u"UM"_s},
+                                   {3, u"Quantità"_s},
+                                   {6, u"Prezzo"_s},
+                                   {7, u"Iva"_s}})
+        testata(testo, c);
+    testata(u"Sconti"_s, 4, 2);
+    for (int r = 0; r < Borftex::righeVisibili; ++r) {
+        for (int c = 0; c < colonne; ++c)
+            griglia->addWidget(creaCampo({static_cast<Campo>(c), r}), r + 1, c);
+    }
+    griglia->setColumnStretch(static_cast<int>(Campo::Ds), 1);
+    constexpr int molto = 100;
+    for (int r = 1; r <= Borftex::righeVisibili; ++r)
+        griglia->setRowStretch(r, molto);
+    griglia->setRowStretch(Borftex::righeVisibili + 1, 1);
+
+    m_cursore->setObjectName(u"VScroll1"_s);
+    m_cursore->setAccessibleName(u"Righe del documento"_s);
+    m_cursore->setRange(1, Borftex::ultimaPrimariga);
+    m_cursore->setPageStep(Borftex::righeVisibili);
+    m_cursore->setFocusPolicy(Qt::StrongFocus);
+    griglia->addWidget(m_cursore, 1, colonne, Borftex::righeVisibili, 1);
+    m_legami.cursore(
+        m_cursore, [this] { return m_form.primariga(); }, [this](int v) { m_form.scorri(v); });
+    creaListaIva();
+}
+
+QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
+    const Colonna& modello = colonna(cella.campo);
+    const QString nome = u"%1(%2)"_s.arg(modello.nome).arg(cella.r);
+    const QString didascalia = u"%1, riga %2"_s.arg(modello.didascalia).arg(cella.r + 1);
+    CampoTesto* nuovo = modello.numero ? new CampoImporto(nome, didascalia)
+                                       : new CampoTesto(nome, didascalia, modello.caratteri);
+    if (cella.campo != Campo::Ds) {
+        nuovo->setMaxLength(modello.caratteri);
+        nuovo->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * (modello.caratteri + 2));
+    }
+    // The rows share the height that the window has to give.
+    nuovo->setSizePolicy(nuovo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    nuovo->setMaximumHeight(fontMetrics().height() * 2);
+    m_campi[static_cast<std::size_t>(cella.r)][static_cast<std::size_t>(cella.campo)] = nuovo;
+
+    const auto leggi = [this, cella] { return m_form.testo(cella); };
+    if (cella.campo == Campo::Civ) {
+        m_legami.testo(nuovo, leggi);
+        nuovo->setFocusPolicy(Qt::StrongFocus);
+    } else {
+        m_legami.testo(nuovo, leggi, [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
+    }
+    m_legami.entrato(nuovo, [this, cella] { m_form.entra(cella); });
+    m_legami.lasciato(nuovo, [this, cella] { m_form.lascia(cella); });
+    nuovo->installEventFilter(this);
+    m_invio.passo(nuovo, [this, cella] {
+        m_legami.esegui([&] {
+            if (cella.campo == Campo::Civ && m_form.combo1Visibile())
+                m_form.scegliIva(m_listaIva->currentRow());
+            else
+                m_form.invio(cella);
+        });
+    });
+    return nuovo;
+}
+
+void GrigliaBorftex::creaListaIva() {
+    m_listaIva->setObjectName(u"Combo1"_s);
+    m_listaIva->setAccessibleName(u"Codici iva"_s);
+    // The keys stay in the box of the row, which hands them on.
+    m_listaIva->setFocusPolicy(Qt::NoFocus);
+    m_listaIva->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_listaIva->hide();
+    connect(m_listaIva, &QListWidget::itemClicked, this,
+            [this] { m_legami.esegui([this] { m_form.scegliIva(m_listaIva->currentRow()); }); });
+    m_legami.altro([this] { aggiornaListaIva(); });
+}
+
+void GrigliaBorftex::caricaVociIva() {
+    m_listaIva->clear();
+    m_listaIva->addItems(m_form.vociIva());
+}
+
+void GrigliaBorftex::aggiornaListaIva() {
+    if (m_form.combo1Visibile() == m_listaIva->isVisibleTo(this))
+        return;
+    m_listaIva->setVisible(m_form.combo1Visibile());
+    const auto* in = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!m_form.combo1Visibile() || !in)
+        return;
+    constexpr int vociInVista = 10;
+    constexpr int margine = 30;
+    const int larghezza = m_listaIva->sizeHintForColumn(0) + margine;
+    const int altezza = m_listaIva->sizeHintForRow(0) * vociInVista + 2 * m_listaIva->frameWidth();
+    const QRect cella = in->geometry();
+    const int sopra = cella.top() - altezza;
+    const int sotto = cella.bottom() + 1;
+    m_listaIva->setGeometry(cella.right() + 1 - larghezza, sotto + altezza > height() ? sopra : sotto,
+                            larghezza, altezza);
+    m_listaIva->raise();
+    m_listaIva->setCurrentRow(m_form.combo1Posizione());
+    m_listaIva->scrollToItem(m_listaIva->currentItem(), QAbstractItemView::PositionAtCenter);
+}
+
+QLineEdit* GrigliaBorftex::campo(Cella cella) const {
+    return m_campi[static_cast<std::size_t>(cella.r)][static_cast<std::size_t>(cella.campo)];
+}
+
+void GrigliaBorftex::vaiA(Cella cella) {
+    bor::vaiA(campo(cella));
+}
+
+bool GrigliaBorftex::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (evento->type() != QEvent::KeyPress)
+        return false;
+    const auto* tasto = static_cast<QKeyEvent*>(evento);
+    const QString nome = oggetto->objectName();
+    if (nome.startsWith(u"ds(") && tasto->key() == Qt::Key_F1) {
+        m_legami.esegui([this] { m_form.cercaDescrizione(); });
+        return true;
+    }
+    if (nome.startsWith(u"civ(") && m_form.combo1Visibile() && tastoIva(tasto->key(), tasto->text()))
+        return true;
+    return tastoPagina(tasto->key());
+}
+
+bool GrigliaBorftex::tastoIva(int tasto, const QString& testo) {
+    const int riga = m_listaIva->currentRow();
+    const int ultima = m_listaIva->count() - 1;
+    switch (tasto) {
+    case Qt::Key_Up:
+        m_listaIva->setCurrentRow(std::max(riga - 1, 0));
+        return true;
+    case Qt::Key_Down:
+        m_listaIva->setCurrentRow(std::min(riga + 1, ultima));
+        return true;
+    case Qt::Key_Home:
+        m_listaIva->setCurrentRow(0);
+        return true;
+    case Qt::Key_End:
+        m_listaIva->setCurrentRow(ultima);
+        return true;
+    case Qt::Key_Escape:
+        m_legami.esegui([this] { m_form.chiudiIva(); });
+        return true;
+    default:
+        if (testo.isEmpty() || !testo.front().isPrint())
+            return false;
+        m_listaIva->keyboardSearch(testo);
+        return true;
+    }
+}
+
+bool GrigliaBorftex::tastoPagina(int tasto) {
+    if (tasto != Qt::Key_PageUp && tasto != Qt::Key_PageDown)
+        return false;
+    const int passo = tasto == Qt::Key_PageUp ? -Borftex::righeVisibili : Borftex::righeVisibili;
+    m_legami.esegui([&] { m_form.pagina(passo); });
+    return true;
+}
+
+void GrigliaBorftex::wheelEvent(QWheelEvent* evento) {
+    // The box in focus comes to show another line: a letter typed by surprise must not change that one.
+    m_cursore->setFocus();
+    QApplication::sendEvent(m_cursore, evento);
+}
+
+} // namespace bor

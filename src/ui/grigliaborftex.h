@@ -1,0 +1,50 @@
+// The twelve rows of boxes of the goods lines screen, with their scroll bar and the floating list of VAT
+// codes.
+#pragma once
+
+#include "document/borftex.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QListWidget;
+class QLineEdit;
+class QScrollBar;
+
+namespace bor {
+
+class Legami;
+class PercorsoInvio;
+
+class GrigliaBorftex : public QWidget {
+public:
+    GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& invio, QWidget* parent = nullptr);
+
+    /// Reads the texts of the VAT list anew.
+    void caricaVociIva();
+    void vaiA(Borftex::Cella cella);
+
+protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+    void wheelEvent(QWheelEvent* evento) override;
+
+private:
+    static constexpr int colonne = 8;
+
+    QLineEdit* creaCampo(Borftex::Cella cella);
+    void creaListaIva();
+    void aggiornaListaIva();
+    bool tastoIva(int tasto, const QString& testo);
+    bool tastoPagina(int tasto);
+    QLineEdit* campo(Borftex::Cella cella) const;
+
+    Borftex& m_form;
+    Legami& m_legami;
+    PercorsoInvio& m_invio;
+    std::array<std::array<QLineEdit*, colonne>, Borftex::righeVisibili> m_campi{};
+    QScrollBar* m_cursore;
+    QListWidget* m_listaIva;
+};
+
+} // namespace bor

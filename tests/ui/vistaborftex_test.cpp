@@ -1,0 +1,137 @@
+#include "document/borftex.h"
+#include "document/righeiva.h"
+#include "support/azienda.h"
+#include "ui/gesti.h"
+#include "ui/vistaborftex.h"
+
+#include <QListView>
+#include <QListWidget>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+class VistaRigheTest : public testing::Test {
+protected:
+    VistaRigheTest() {
+        Cli c = clienteDi(u"Rossi"_s);
+        c.sconto1 = 5;
+        azienda.cliente(c);
+        azienda.articolo(articoloDi(u"VITE"_s, u"Vite a legno"_s, 1.25, 1));
+        azienda.articolo(articoloDi(u"DADO"_s, u"Dado esagonale"_s, 0.8, 2));
+        azienda.articolo(articoloDi(u"PERNO"_s, u"Perno temprato"_s, 12.4, 1));
+        prova = std::make_unique<ContestoDiProva>(azienda);
+        prova->sessione.recordcliente = 1;
+        prova->tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, {}};
+        prova->tabelle.aliquote[2] = {u"10"_s, {}, {}, {}};
+        prova->tabelle.esenzioni[3][1] = u"Esente art.10"_s;
+        documento.estremi.numero = u"12"_s;
+        form = std::make_unique<Borftex>(prova->contesto, documento);
+        vista = std::make_unique<VistaBorftex>(*form);
+    }
+
+    /// From the code box of a row to that of the next one, by Enter alone.
+    void digita(const QString& codice, const QString& quantita, const QString& sc1, const QString& sc2) {
+        for (const QString& testo : {codice, quantita, sc1, sc2, QString()})
+            scriviEInvio(testo);
+    }
+    void libera(const QString& descrizione, const QString& um, const QString& quantita,
+                const QString& prezzo) {
+        for (const QString& testo : {QString(), descrizione, um, quantita, QString(), QString(), prezzo})
+            scriviEInvio(testo);
+    }
+    void scriviEInvio(const QString& testo) {
+        scrivi(*vista, testo);
+        tasto(*vista, Qt::Key_Return);
+    }
+
+    AziendaDiProva azienda;
+    std::unique_ptr<ContestoDiProva> prova;
+    Documento documento;
+    std::unique_ptr<Borftex> form;
+    std::unique_ptr<VistaBorftex> vista;
+};
+
+TEST_F(VistaRigheTest, DieciRigheConISoliTasti) {
+    mostra(*vista);
+    EXPECT_EQ(fuoco(*vista), u"artic(0)"_s);
+    digita(u"vite"_s, u"100"_s, {}, {});
+    digita(u"d"_s, u"250"_s, u"10"_s, u"10"_s);
+    libera(u"Montaggio città"_s, u"h"_s, u"2,5"_s, u"40,00"_s);
+    libera(u"Consegna al piano"_s, {}, {}, {});
+    for (int i = 0; i < 6; ++i)
+        digita(u"PE"_s, QString::number(i + 1), u"50"_s, {});
+    EXPECT_EQ(fuoco(*vista), u"artic(10)"_s);
+    EXPECT_EQ(testoDi(*vista, u"sc1(0)"_s), u"5"_s);
+    EXPECT_EQ(testoDi(*vista, u"prezzo(2)"_s), u"40"_s);
+    EXPECT_EQ(testoDi(*vista, u"civ(2)"_s), u"01"_s);
+    EXPECT_EQ(testoDi(*vista, u"ds(3)"_s), u"Consegna al piano"_s);
+    // 118.75 + 162.00 + 95.00 + 6.20 * 21
+    EXPECT_EQ(testoDi(*vista, u"tota(0)"_s), u" 505,95"_s);
+    EXPECT_EQ(testoDi(*vista, u"tota(1)"_s), u" 597,82"_s);
+    EXPECT_EQ(testoDi(*vista, u"tota(2)"_s), u" 373.5"_s);
+    EXPECT_EQ(testoDi(*vista, u"imr"_s), u"68.79"_s);
+    foto(*vista, u"righe"_s);
+    tasto(*vista, Qt::Key_F10);
+    EXPECT_EQ(importoIva(documento.coppia, VoceIva::Imponibile, 1), 343.95);
+    EXPECT_EQ(importoIva(documento.coppia, VoceIva::Imposta, 2), 16.2);
+    EXPECT_EQ(documento.ddd[2].descrizione, u"Montaggio città"_s);
+    EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
+}
+
+TEST_F(VistaRigheTest, CodiceIvaDallaListaEDescrizioneConF1) {
+    mostra(*vista);
+    libera(u"Trasporto"_s, {}, u"1"_s, u"10"_s);
+    tasto(*vista, Qt::Key_Tab, Qt::ShiftModifier); // from the next row back to the VAT box
+    EXPECT_EQ(fuoco(*vista), u"civ(0)"_s);
+    auto* lista = controllo<QListWidget>(*vista, u"Combo1"_s);
+    EXPECT_TRUE(lista->isVisible());
+    EXPECT_EQ(lista->currentItem()->text(), u"01 Iva 22% - Rit.Acconto 20%"_s);
+    foto(*vista, u"codici_iva"_s);
+    scrivi(*vista, u"15"_s);
+    tasto(*vista, Qt::Key_Return);
+    EXPECT_FALSE(lista->isVisible());
+    EXPECT_EQ(fuoco(*vista), u"prezzo(0)"_s);
+    EXPECT_EQ(testoDi(*vista, u"civ(0)"_s), u"15"_s);
+    tasto(*vista, Qt::Key_Return);
+    tasto(*vista, Qt::Key_Return);
+    scrivi(*vista, u"perno"_s);
+    tasto(*vista, Qt::Key_F1);
+    EXPECT_EQ(testoDi(*vista, u"artic(1)"_s), u"PERNO"_s);
+    EXPECT_EQ(fuoco(*vista), u"quantita(1)"_s);
+    EXPECT_TRUE(testoDi(*vista, u"listx"_s).startsWith(u"PERNO           - Perno temprato"));
+}
+
+TEST_F(VistaRigheTest, ListaScorrimentoEComandi) {
+    for (int i = 0; i < 500; ++i)
+        documento.ddd[static_cast<std::size_t>(i)] = {0, {}, {}, u"riga %1"_s.arg(i + 1), u"pz"_s, 0, 0, 1,
+                                                      1, 1,  0};
+    mostra(*vista);
+    foto(*vista, u"righe_piene"_s);
+    auto* lista = controllo<QListView>(*vista, u"List1"_s);
+    EXPECT_TRUE(lista->isVisible());
+    scrivi(*vista, u"v"_s);
+    EXPECT_EQ(lista->currentIndex().row(), 2);
+    const QRect voce = lista->visualRect(lista->model()->index(0, 0));
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, voce.center());
+    EXPECT_EQ(testoDi(*vista, u"artic(0)"_s), u"DADO"_s);
+    controllo<QScrollBar>(*vista, u"VScroll1"_s)->setValue(489);
+    EXPECT_EQ(testoDi(*vista, u"ds(11)"_s), u"riga 500"_s);
+    controllo(*vista, u"quantita(11)"_s)->setFocus();
+    tasto(*vista, Qt::Key_F8);
+    EXPECT_EQ(testoDi(*vista, u"ds(11)"_s), QString());
+    tasto(*vista, Qt::Key_PageUp);
+    EXPECT_EQ(testoDi(*vista, u"ds(0)"_s), u"riga 477"_s);
+    clic(*vista, u"barcode"_s);
+    EXPECT_FALSE(lista->isVisible());
+    tasto(*vista, Qt::Key_F3);
+    EXPECT_TRUE(lista->isVisible());
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
+    EXPECT_EQ(documento.ddd[0].codice, QString()) << "leaving keeps the document as it was";
+}
+
+} // namespace
+} // namespace bor
