@@ -6,6 +6,7 @@
 #include "document/borftea.h"
 #include "document/borftek.h"
 #include "document/borftem.h"
+#include "document/borftex.h"
 #include "document/documento.h"
 #include "document/righeinsospeso.h"
 #include "einvoice/borftepa.h"
@@ -38,6 +39,7 @@ public:
     Borftem& borftem() { return m_borftem; }
     Borsel& borsel() { return m_borsel; }
     Borftea& borftea() { return m_borftea; }
+    Borftex& borftex() { return m_borftex; }
     Borftek& borftek() { return m_borftek; }
     Borftec& borftec() { return m_borftec; }
     Borftepa& borftepa() { return m_borftepa; }
@@ -60,6 +62,7 @@ private:
     Borfte m_borfte;
     Borftem m_borftem;
     Borsel m_borsel;
+    Borftex m_borftex;
     Borftek m_borftek;
     Borftec m_borftec;
     RegistrazioniContabili m_registrazioni;

@@ -8,6 +8,7 @@
 #include "ui/vistaborftek.h"
 #include "ui/vistaborftem.h"
 #include "ui/vistaborftepa.h"
+#include "ui/vistaborftex.h"
 #include "ui/vistaborsel.h"
 
 namespace bor {
@@ -17,6 +18,7 @@ void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
     finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));
     finestra.aggiungi(Schermo::Borsel, new VistaBorsel(modulo.borsel()));
     finestra.aggiungi(Schermo::Borftea, new VistaBorftea(modulo.borftea()));
+    finestra.aggiungi(Schermo::Borftex, new VistaBorftex(modulo.borftex()));
     finestra.aggiungi(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
     finestra.aggiungi(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
     finestra.aggiungi(Schermo::Borftepa, new VistaBorftepa(modulo.borftepa()));
