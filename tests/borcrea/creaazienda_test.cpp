@@ -47,7 +47,8 @@ protected:
         scrivi("borlano.int", "Prova S.r.l.\n");
         QDir().mkpath(testi());
         QFile::copy(demo + u"/borlano.tab"_s, testi() + u"/borlano.tab"_s);
-        scrivi("conti.csv", "codice;descrizione\n01010001;Rossi\n05010001;Ricavi\n");
+        scrivi("conti.csv", "codice;descrizione\n01010001;Rossi\n05010001;Ricavi\n01040001;Ritenute\n"
+                            "03010003;Iva differita\n");
         scrivi("clienti.csv", "codice;ragione1;citta;partitaiva;pagamento;sconto1;contocliente;eliminato\n"
                               "R;Zucchi & Perché S.r.l.;Forlì;12345678903;9;10;01010001;\n"
                               "B;Bianchi;;;1;;;1\n");

@@ -2,6 +2,7 @@
 
 #include "borcrea/documenti.h"
 #include "borcrea/foglio.h"
+#include "borcrea/registra.h"
 #include "common/numeri.h"
 
 #include <QDir>
@@ -21,7 +22,9 @@ constexpr std::size_t clientiPerMisure = 1000;
 /// Ports for a run without anybody to talk to: what is worked out here asks nothing.
 class SenzaOperatore : public Operatore {
 public:
-    void messaggio(const QString&, const QString&, Icona) override {}
+    QStringList messaggi;
+
+    void messaggio(const QString& testo, const QString&, Icona) override { messaggi.append(testo); }
     bool chiedi(const QString&, const QString&, Icona) override { return false; }
     void attesa(bool) override {}
     void lasciaEventi() override {}
@@ -38,12 +41,6 @@ class SenzaSchermi : public Navigatore {
 public:
     void mostra(Schermo) override {}
     void termina() override {}
-};
-
-/// A fixed day, so that the same texts make the same bytes on any day.
-class GiornoFermo : public Orologio {
-public:
-    QDateTime adesso() const override { return {QDate(2015, 12, 31), QTime(12, 0)}; }
 };
 
 /// The making of one company, in a drive of its own that becomes the real one at the end.
@@ -129,20 +126,24 @@ bool Cantiere::scriviArchivio() {
     SenzaOperatore operatore;
     SenzaSistema sistema;
     SenzaSchermi schermi;
-    GiornoFermo orologio;
+    OrologioCantiere orologio;
     Timbro timbro;
     Sessione sessione;
     sessione.codiceazienda = m_richiesta.codice;
     Impostazioni impostazioni = caricaimpostazioni(m_archivio, sessione);
     const Tabelle tabelle = leggiTabelle(m_archivio);
-    const Contesto contesto{sessione, m_archivio, impostazioni, tabelle, operatore,
-                            orologio, sistema,    schermi,      timbro};
+    Contesto contesto{sessione, m_archivio, impostazioni, tabelle, operatore,
+                      orologio, sistema,    schermi,      timbro};
     auto documenti = leggiDocumenti(m_richiesta.sorgente, anagrafiche, contesto, m_problemi);
     // What is wrong is told without writing lines files that nobody will see.
     controllaQuanti(anagrafiche, documenti.size());
     if (!m_problemi.isEmpty())
         return true;
-    return scriviDocumenti(m_archivio, documenti) && ripetiDocumenti(m_archivio, m_richiesta.documenti);
+    Registratore registratore(contesto, orologio, operatore.messaggi);
+    const bool scritti = registratore.scrivi(documenti);
+    for (const QString& rifiuto : operatore.messaggi)
+        m_problemi.append({u"documenti.csv"_s, 0, registratore.ultimo() + u": "_s + rifiuto + u'.'});
+    return !m_problemi.isEmpty() || (scritti && ripetiDocumenti(m_archivio, m_richiesta.documenti));
 }
 
 void Cantiere::costruisci() {

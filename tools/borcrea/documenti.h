@@ -23,12 +23,4 @@ struct DocumentoPronto {
 std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagrafiche& anagrafiche,
                                             const Contesto& contesto, Problemi& problemi);
 
-/// Stores the documents as the next records, each with its detail-lines file. False when a file could not be
-/// written.
-bool scriviDocumenti(Archivio& archivio, std::vector<DocumentoPronto>& documenti);
-
-/// Goes on repeating the stored documents, spread over all customers, until there are `quanti`: an archive
-/// for measuring. The repeated ones have no detail lines.
-bool ripetiDocumenti(Archivio& archivio, int quanti);
-
 } // namespace bor

@@ -1,10 +1,15 @@
-// Stores the documents of a new company.
-#include "borcrea/documenti.h"
+// Stores and posts the documents of a new company, by the program's own procedures.
+#include "borcrea/registra.h"
+
 #include "common/numeri.h"
 #include "document/filerighe.h"
-#include "document/righeiva.h"
+#include "document/riempirecord.h"
+#include "posting/borftec.h"
+#include "posting/scarico.h"
+#include "posting/setfat.h"
 
 #include <QDateTime>
+#include <QFile>
 
 namespace bor {
 
@@ -12,105 +17,95 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::int16_t posizione(int indice) {
-    return static_cast<std::int16_t>(indice + 1);
-}
+/// The oldest goods invoices come from before lines files had numbers: some of them have files of the older
+/// name, and some have lost their lines.
+constexpr int conNomeVecchio = 4;
+constexpr int senzaRighe = 2;
 
-void segna(Text<1>& campo, bool acceso) {
-    campo.set(acceso ? u"1" : u"0");
-}
-
-/// The moment of registration. It follows from the date and the place in the table, so that a company made
-/// twice is the same to the byte; a second apart, no two are equal.
-double stampDi(const Estremi& estremi, int indice) {
-    const QDate data = dataValida(estremi.datareg).value_or(QDate(2015, 1, 1));
-    return contoGiorni(QDateTime(data, QTime(8, 0)).addSecs(indice));
-}
-
-void riempiEstremi(const Documento& d, int indice, Fte& fte) {
-    const Estremi& e = d.estremi;
-    fte.numero.set(e.numero);
-    fte.datadoc.set(annoMeseGiorno(e.data));
-    fte.datareg.set(annoMeseGiorno(e.datareg));
-    fte.protocollo = valore(e.protocollo);
-    fte.registro = static_cast<std::int16_t>(e.registro);
-    fte.voce1 = posizione(e.voce1);
-    fte.voce2 = posizione(e.voce2);
-    fte.voce3 = posizione(e.voce3);
-    fte.quota2 = valore(e.quota2);
-    fte.quota3 = valore(e.quota3);
-    fte.stamp = stampDi(e, indice);
-    fte.vuoto2.blank();
-    segna(fte.spesom, d.prospetti.spesometro);
-    segna(fte.ivanonesp, false);
-    segna(fte.riepil, false);
-    segna(fte.noleggio, false);
-    segna(fte.autofatt, false);
-    segna(fte.esigdiff, e.esig);
-    for (auto& data : fte.datx)
-        data.blank();
-}
-
-void riempiScadenze(const Scadenze& s, Fte& fte, F2e& f2e) {
-    for (std::size_t k = 0; k < s.rate.size(); ++k) {
-        auto& scad = k < 4 ? fte.scad[k] : f2e.scad[k - 4];
-        Reale& rata = k < 4 ? fte.rata[k] : f2e.rata[k - 4];
-        scad.set(giornoMeseAnno(s.rate[k].scadenza));
-        rata = valore(s.rate[k].importo);
+/// In the older files amounts have a decimal comma.
+QByteArray allAntica(const QByteArray& file) {
+    constexpr qsizetype primaRiga = 14;
+    constexpr qsizetype celle = 10;
+    QList<QByteArray> linee = file.split('\n');
+    for (qsizetype i = primaRiga; i < linee.size(); ++i) {
+        if ((i - primaRiga) % celle >= celle - 2)
+            linee[i].replace('.', ',');
     }
-    fte.pagamento.set(QString::number(s.pagamento + 1));
-    fte.riba = s.rib ? 1 : 0;
-    fte.provaliq.set(s.provaliq);
-    fte.provimp = valore(s.provimp);
+    return linee.join('\n');
 }
 
-void riempiProspetti(const Documento& d, F2e& f2e) {
-    for (std::size_t k = 0; k < d.prospetti.ritenute.size(); ++k) {
-        const Ritenuta& r = d.prospetti.ritenute[k];
-        f2e.raimpo[k] = valore(r.raimpo);
-        f2e.raimp[k] = valore(r.raimp);
-        f2e.rascad[k].set(giornoMeseAnno(r.rascad));
-        f2e.ravers[k].set(giornoMeseAnno(r.ravers));
-    }
-    // The stored tax code is the place of the payment type: so the suite's programs have always kept it.
-    f2e.tributo = posizione(d.scadenze.pagamento);
-    for (auto& periodo : f2e.dper)
-        periodo.set(u"000000");
-    const auto data = dataValida(d.estremi.data);
-    f2e.dtermine.set(d.estremi.esig && data
-                         ? zeriDavanti(QString::number(data->month()), 2) + QString::number(data->year() + 1)
-                         : u"000000"_s);
-    f2e.pdf.set(d.estremi.pdf);
-    f2e.resy1.blank();
-    f2e.resy3.blank();
+/// Gives the document's lines the older file name, or takes them away.
+bool invecchia(Archivio& archivio, const Documento& d, bool conFile) {
+    const QString percorso = archivio.reale(percorsoRighe(archivio, d.coppia.fte));
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QString vecchio =
+        u"ftr%1.a%2"_s.arg(testoDecimale(valore(d.estremi.numero)), pezzo(d.estremi.data, 9));
+    return (!conFile ||
+            archivio.disco().scriviFile(archivio.reale(archivio.file(vecchio)), allAntica(file.readAll()))) &&
+           archivio.disco().elimina(percorso);
 }
 
 } // namespace
 
-bool scriviDocumenti(Archivio& archivio, std::vector<DocumentoPronto>& documenti) {
+bool Registratore::registra(const Documento& d) {
+    // The movement that an operator would confirm without a change.
+    Borftec editor(m_contesto, d);
+    editor.prepara(d.parcella() ? setpar(d, m_contesto) : setfat(d, m_contesto));
+    editor.salva();
+    return m_rifiuti.isEmpty() && (d.parcella() || mettiscarico(d, m_contesto));
+}
+
+bool Registratore::scrivi(DocumentoPronto& pronto, int n, bool vecchio) {
+    Documento& d = pronto.documento;
+    Archivio& archivio = m_contesto.archivio;
+    m_ultimo = u"documento n. %1 del %2"_s.arg(d.estremi.numero, d.estremi.data);
+    const QDate data = dataValida(d.estremi.datareg).value_or(QDate(2015, 1, 1));
+    m_orologio.momento = QDateTime(data, QTime(8, 0)).addSecs(n);
+    const Fte letta = d.coppia.fte;
+    m_contesto.sessione.tipodocumento = letta.tipo;
+    m_contesto.sessione.tipoparcella = letta.parcella;
+    m_contesto.sessione.recordcliente = letta.cliente;
+    m_contesto.sessione.recordfpa = d.coppia.f2e.fpa;
+    d.coppia = riempiRecord(d, m_contesto);
+    // The program itself begins no fee bill: a record that is one keeps its mark.
+    d.coppia.fte.parcella = letta.parcella;
+    d.coppia.fte.nfile = static_cast<float>(n);
+    d.coppia.fte.annullata = pronto.eliminato ? 1 : 0;
+    const bool righe = !pronto.eliminato;
+    if (righe && !scrividoc(d, archivio))
+        return false;
+    if (vecchio) {
+        if (!invecchia(archivio, d, m_vecchi < conNomeVecchio))
+            return false;
+        d.coppia.fte.nfile = 0.0F;
+        ++m_vecchi;
+    }
+    if (!archivio.scrivi(n, d.coppia))
+        return false;
+    if (pronto.fpa && !scriviFpa(archivio, u"fpa"_s + testoDecimale(double{d.coppia.f2e.fpa}), *pronto.fpa))
+        return false;
+    return pronto.eliminato || registra(d);
+}
+
+bool Registratore::scrivi(std::vector<DocumentoPronto>& documenti) {
     Tot tot = vuoto<Tot>();
     Tot fpa = vuoto<Tot>();
     for (std::size_t i = 0; i < documenti.size(); ++i) {
-        Documento& d = documenti[i].documento;
-        d.record = static_cast<int>(i) + 1;
-        Fte& fte = d.coppia.fte;
-        riempiEstremi(d, static_cast<int>(i), fte);
-        riempiScadenze(d.scadenze, fte, d.coppia.f2e);
-        riempiProspetti(d, d.coppia.f2e);
-        fte.nfile = static_cast<float>(d.record);
-        fte.annullata = documenti[i].eliminato ? 1 : 0;
-        if (!archivio.scrivi(d.record, d.coppia) ||
-            (!documenti[i].eliminato && !scrividoc(d, archivio)))
+        DocumentoPronto& pronto = documenti[i];
+        const int n = static_cast<int>(i) + 1;
+        const bool vecchio = m_vecchi < conNomeVecchio + senzaRighe && !pronto.eliminato &&
+                             !pronto.documento.parcella() && !pronto.documento.fatturaPa();
+        if (!scrivi(pronto, n, vecchio))
             return false;
-        if (documenti[i].fpa &&
-            !scriviFpa(archivio, u"fpa"_s + testoDecimale(double{d.coppia.f2e.fpa}), *documenti[i].fpa))
-            return false;
-        tot.numero = static_cast<std::int16_t>(d.record);
-        tot.ultimonumero = static_cast<std::int16_t>(valoreIntero(d.estremi.numero));
-        tot.progressivo = fte.nfile;
-        fpa.numero = std::max<std::int16_t>(fpa.numero, static_cast<std::int16_t>(double{d.coppia.f2e.fpa}));
+        tot.numero = static_cast<std::int16_t>(n);
+        tot.ultimonumero = static_cast<std::int16_t>(valoreIntero(pronto.documento.estremi.numero));
+        tot.progressivo = static_cast<float>(n);
+        fpa.numero = std::max<std::int16_t>(
+            fpa.numero, static_cast<std::int16_t>(double{pronto.documento.coppia.f2e.fpa}));
     }
-    return archivio.scriviTot(Conta::Fte, tot) && archivio.scriviTot(Conta::Fpa, fpa);
+    return m_contesto.archivio.scriviTot(Conta::Fte, tot) && m_contesto.archivio.scriviTot(Conta::Fpa, fpa);
 }
 
 bool ripetiDocumenti(Archivio& archivio, int quanti) {
