@@ -187,6 +187,10 @@ DocumentoPronto leggiDocumento(const RigaFoglio& foglio, const Chiave& chiave, c
     if (!foglio.vuoto(u"versamento"))
         d.prospetti.ritenute[0].rascad = testoData(foglio.data(u"versamento"));
     pronto.eliminato = foglio.segno(u"eliminato");
+    const QString file = foglio.testo(u"filerighe", 10);
+    pronto.righe = file == u"vecchio"   ? FileRighe::NomeVecchio
+                   : file == u"nessuno" ? FileRighe::Nessuno
+                                        : FileRighe::Numerato;
     return pronto;
 }
 
@@ -235,7 +239,7 @@ std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagr
     static const QStringList colonne =
         u"documento tipo numero data registrazione cliente pagamento registro protocollo voce1 voce2 quota2 "
         u"pdf fpa eliminato ddt ordine colli peso inizio ora causale aspetto spedizione scorporo ivaonorari "
-        u"ivaspese pratica1 pratica2 versamento"_s.split(u' ');
+        u"ivaspese pratica1 pratica2 versamento filerighe"_s.split(u' ');
     const Foglio foglio(cartella, u"documenti.csv"_s, colonne, problemi);
     const QHash<QString, Chiave> chiavi = leggiChiavi(foglio, anagrafiche);
     const Righe righe = leggiRighe(cartella, anagrafiche, chiavi, problemi);

@@ -11,10 +11,15 @@
 
 namespace bor {
 
+/// Where the lines of a document are: in the file that a save writes, in one of the name from before those
+/// files had numbers, or lost.
+enum class FileRighe { Numerato, NomeVecchio, Nessuno };
+
 /// A document ready to be stored, in the order of registration.
 struct DocumentoPronto {
     Documento documento;
     bool eliminato = false;
+    FileRighe righe = FileRighe::Numerato;
     std::optional<Fpa> fpa; ///< electronic invoice data to store with it
 };
 

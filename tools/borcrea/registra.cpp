@@ -17,11 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The oldest goods invoices come from before lines files had numbers: some of them have files of the older
-/// name, and some have lost their lines.
-constexpr int conNomeVecchio = 4;
-constexpr int senzaRighe = 2;
-
 /// In the older files amounts have a decimal comma.
 QByteArray allAntica(const QByteArray& file) {
     constexpr qsizetype primaRiga = 14;
@@ -57,7 +52,7 @@ bool Registratore::registra(const Documento& d) {
     return m_rifiuti.isEmpty() && (d.parcella() || mettiscarico(d, m_contesto));
 }
 
-bool Registratore::scrivi(DocumentoPronto& pronto, int n, bool vecchio) {
+bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
     Documento& d = pronto.documento;
     Archivio& archivio = m_contesto.archivio;
     m_ultimo = u"documento n. %1 del %2"_s.arg(d.estremi.numero, d.estremi.data);
@@ -73,14 +68,12 @@ bool Registratore::scrivi(DocumentoPronto& pronto, int n, bool vecchio) {
     d.coppia.fte.parcella = letta.parcella;
     d.coppia.fte.nfile = static_cast<float>(n);
     d.coppia.fte.annullata = pronto.eliminato ? 1 : 0;
-    const bool righe = !pronto.eliminato;
-    if (righe && !scrividoc(d, archivio))
+    if (!pronto.eliminato && !scrividoc(d, archivio))
         return false;
-    if (vecchio) {
-        if (!invecchia(archivio, d, m_vecchi < conNomeVecchio))
+    if (!pronto.eliminato && pronto.righe != FileRighe::Numerato) {
+        if (!invecchia(archivio, d, pronto.righe == FileRighe::NomeVecchio))
             return false;
         d.coppia.fte.nfile = 0.0F;
-        ++m_vecchi;
     }
     if (!archivio.scrivi(n, d.coppia))
         return false;
@@ -95,9 +88,7 @@ bool Registratore::scrivi(std::vector<DocumentoPronto>& documenti) {
     for (std::size_t i = 0; i < documenti.size(); ++i) {
         DocumentoPronto& pronto = documenti[i];
         const int n = static_cast<int>(i) + 1;
-        const bool vecchio = m_vecchi < conNomeVecchio + senzaRighe && !pronto.eliminato &&
-                             !pronto.documento.parcella() && !pronto.documento.fatturaPa();
-        if (!scrivi(pronto, n, vecchio))
+        if (!scrivi(pronto, n))
             return false;
         tot.numero = static_cast<std::int16_t>(n);
         tot.ultimonumero = static_cast<std::int16_t>(valoreIntero(pronto.documento.estremi.numero));

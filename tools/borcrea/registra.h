@@ -30,14 +30,13 @@ public:
     const QString& ultimo() const { return m_ultimo; }
 
 private:
-    bool scrivi(DocumentoPronto& pronto, int n, bool vecchio);
+    bool scrivi(DocumentoPronto& pronto, int n);
     bool registra(const Documento& documento);
 
     Contesto& m_contesto;
     OrologioCantiere& m_orologio;
     const QStringList& m_rifiuti;
     QString m_ultimo;
-    int m_vecchi = 0;
 };
 
 /// Goes on repeating the stored documents, spread over all customers, until there are `quanti`: an archive
