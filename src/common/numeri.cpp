@@ -1,6 +1,8 @@
 #include "common/numeri.h"
 
+#include <QVarLengthArray>
 #include <algorithm>
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -43,8 +45,8 @@ qsizetype lunghezzaNumero(QStringView t) {
 /// A finite number as its 15 significant decimal digits: 0.digits times ten to `punto`.
 struct Cifre {
     bool negativo = false;
-    QByteArray cifre; ///< no trailing zeros; empty for zero
-    int punto = 0;    ///< how many of the digits stand before the decimal point; may be negative
+    QVarLengthArray<char, 16> cifre; ///< no trailing zeros; empty for zero
+    int punto = 0; ///< how many of the digits stand before the decimal point; may be negative
 };
 
 Cifre cifreDi(double x) {
@@ -58,10 +60,10 @@ Cifre cifreDi(double x) {
     const auto e = scritto.indexOf('e');
     risultato.negativo = x < 0;
     risultato.cifre.append(scritto[0]);
-    risultato.cifre.append(scritto.sliced(2, e - 2));
-    risultato.punto = scritto.sliced(e + 1).toByteArray().toInt() + 1;
-    while (risultato.cifre.endsWith('0'))
-        risultato.cifre.chop(1);
+    risultato.cifre.append(scritto.data() + 2, e - 2);
+    risultato.punto = scritto.sliced(e + 1).toInt() + 1;
+    while (risultato.cifre.last() == '0')
+        risultato.cifre.removeLast();
     return risultato;
 }
 
@@ -71,16 +73,16 @@ void arrotondaCifre(Cifre& n, int decimali) {
     if (tenute >= n.cifre.size())
         return;
     const bool inSu = tenute >= 0 && n.cifre[tenute] >= '5';
-    n.cifre.truncate(std::max<qsizetype>(tenute, 0));
+    n.cifre.resize(std::max<qsizetype>(tenute, 0));
     if (inSu) {
         qsizetype i = n.cifre.size();
         while (i > 0 && n.cifre[i - 1] == '9')
             --i;
-        n.cifre.truncate(i);
+        n.cifre.resize(i);
         if (i > 0) {
             ++n.cifre[i - 1];
         } else {
-            n.cifre = "1";
+            n.cifre.append('1');
             ++n.punto;
         }
     }
@@ -91,14 +93,19 @@ void arrotondaCifre(Cifre& n, int decimali) {
 QString interi(const Cifre& n) {
     if (n.punto <= 0 || n.cifre.isEmpty())
         return QStringLiteral("0");
-    return QString::fromLatin1(n.cifre.left(n.punto).leftJustified(n.punto, '0'));
+    QString testo(n.punto, u'0');
+    for (qsizetype i = 0; i < std::min<qsizetype>(n.punto, n.cifre.size()); ++i)
+        testo[i] = QLatin1Char(n.cifre[i]);
+    return testo;
 }
 
 QString decimali(const Cifre& n) {
     if (n.cifre.isEmpty())
         return {};
-    const QString testo = QString::fromLatin1(n.cifre);
-    return n.punto < 0 ? QString(-n.punto, u'0') + testo : testo.mid(n.punto);
+    QString testo(std::max(-n.punto, 0), u'0');
+    for (qsizetype i = std::max(n.punto, 0); i < n.cifre.size(); ++i)
+        testo += QLatin1Char(n.cifre[i]);
+    return testo;
 }
 
 QString componi(double x, int posti, QChar punto, bool migliaia) {
@@ -155,7 +162,7 @@ QString testoDecimale(double x) {
         return QStringLiteral("0");
     QString testo;
     if (n.punto > 15) {
-        const QString tutte = QString::fromLatin1(n.cifre);
+        const QString tutte = QString::fromLatin1(n.cifre.data(), n.cifre.size());
         testo = tutte.left(1) + (tutte.size() > 1 ? u'.' + tutte.mid(1) : QString()) + QStringLiteral("E+") +
                 QString::number(n.punto - 1);
     } else {

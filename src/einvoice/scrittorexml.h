@@ -7,20 +7,28 @@
 #include <QByteArray>
 #include <QString>
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace bor {
 
 class ScrittoreXml {
 public:
-    ScrittoreXml() { m_bytes.reserve(64 * 1024); }
+    /// An invoice of 500 lines fits without growing.
+    ScrittoreXml() { m_bytes.reserve(512 * 1024); }
 
     /// A whole line after `rientro` blanks.
     void riga(int rientro, std::initializer_list<QByteArrayView> pezzi) {
-        m_bytes.append(rientro, ' ');
+        qsizetype lunghezza = rientro + 2;
         for (const QByteArrayView p : pezzi)
-            m_bytes.append(p);
-        m_bytes.append("\r\n");
+            lunghezza += p.size();
+        const qsizetype inizio = m_bytes.size();
+        m_bytes.resize(inizio + lunghezza);
+        char* scritto = std::fill_n(m_bytes.data() + inizio, rientro, ' ');
+        for (const QByteArrayView p : pezzi)
+            scritto = std::copy(p.begin(), p.end(), scritto);
+        *scritto++ = '\r';
+        *scritto = '\n';
     }
     void apri(int rientro, QByteArrayView nome) { riga(rientro, {"<", nome, ">"}); }
     void chiudi(int rientro, QByteArrayView nome) { riga(rientro, {"</", nome, ">"}); }
