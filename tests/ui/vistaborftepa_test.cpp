@@ -22,7 +22,7 @@ TEST(VistaFatturaPa, SiCompilaDallaTastieraSiGeneraESiControlla) {
     controllo(vista, u"Text2(20)"_s)->setFocus();
     EXPECT_EQ(fuoco(vista), u"Text2(0)"_s);
 
-    const auto& invio = [&] { tasto(vista, Qt::Key_Return); };
+    const auto invio = [&] { tasto(vista, Qt::Key_Return); };
     invio();
     EXPECT_EQ(fuoco(vista), u"dsca(0)"_s);
     invio();
