@@ -1,4 +1,4 @@
-#include "einvoice/codicifiscali.h"
+#include "common/codicifiscali.h"
 #include "einvoice/controllifattura.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "einvoice/tracciatofattura.h"
 
-#include "einvoice/codicifiscali.h"
+#include "common/codicifiscali.h"
 
 #include <algorithm>
 

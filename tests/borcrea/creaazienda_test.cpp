@@ -1,5 +1,5 @@
-#include "borcrea/controlli.h"
 #include "borcrea/creaazienda.h"
+#include "common/codicifiscali.h"
 
 #include "archive/archivio.h"
 #include "common/numeri.h"

@@ -1,5 +1,5 @@
 // What the check of electronic invoices says of a good file, of files with one fault each, and of garbage.
-#include "einvoice/codicifiscali.h"
+#include "common/codicifiscali.h"
 #include "einvoice/controlloxml.h"
 
 #include <gtest/gtest.h>

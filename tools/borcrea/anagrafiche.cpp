@@ -1,8 +1,8 @@
 #include "borcrea/anagrafiche.h"
 
 #include "borcrea/bianco.h"
-#include "borcrea/controlli.h"
 #include "borcrea/foglio.h"
+#include "common/codicifiscali.h"
 
 #include <algorithm>
 #include <cstring>

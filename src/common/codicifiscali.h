@@ -1,4 +1,4 @@
-// Check digits of the codes that an electronic invoice carries.
+// Check digits of the codes that Italian books carry.
 #pragma once
 
 #include <QString>
@@ -13,5 +13,8 @@ bool codiceFiscaleValido(QStringView codice);
 
 /// IBAN whose two check digits agree with the rest; length and country are not looked at.
 bool ibanValido(QStringView iban);
+
+/// A barcode of thirteen digits of which the last agrees with the others.
+bool ean13Valido(QStringView barcode);
 
 } // namespace bor

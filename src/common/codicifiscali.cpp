@@ -1,4 +1,4 @@
-#include "einvoice/codicifiscali.h"
+#include "common/codicifiscali.h"
 
 #include <algorithm>
 #include <array>
@@ -63,6 +63,15 @@ bool ibanValido(QStringView iban) {
         resto = (resto * (numero > 9 ? 100 : 10) + numero) % 97;
     }
     return resto == 1;
+}
+
+bool ean13Valido(QStringView barcode) {
+    if (barcode.size() != 13 || !std::all_of(barcode.begin(), barcode.end(), cifra))
+        return false;
+    int somma = 0;
+    for (qsizetype i = 0; i < barcode.size(); ++i)
+        somma += peso(barcode[i], 0) * (i % 2 == 0 ? 1 : 3);
+    return somma % 10 == 0;
 }
 
 } // namespace bor
