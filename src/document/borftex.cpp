@@ -39,7 +39,7 @@ void Borftex::attiva() {
     for (Riga& r : m_righe)
         r.peso = r.recart >= 1 ? double{m_articolo.peso} : 0.0;
     m_primariga = 1;
-    m_rigafocus = -1;
+    m_rigafocus = 0;
     m_digitato.reset();
     m_combo1 = false;
     m_listx.clear();
@@ -117,7 +117,7 @@ QStringList Borftex::vociIva() const {
 }
 
 int Borftex::combo1Posizione() const {
-    return fuocoValido() ? std::clamp(riga(m_rigafocus).iva, 1, codiciIva) - 1 : 0;
+    return std::clamp(riga(m_rigafocus).iva, 1, codiciIva) - 1;
 }
 
 std::optional<Borftex::Cella> Borftex::prendiFuoco() {
@@ -153,7 +153,7 @@ void Borftex::apriLista() {
     if (!m_listaCaricata)
         caricaLista();
     m_listaVisibile = true;
-    m_fuoco = Cella{Campo::Artic, fuocoValido() ? m_rigafocus : 0};
+    m_fuoco = Cella{Campo::Artic, m_rigafocus};
 }
 
 void Borftex::cambiaBarcode(bool acceso) {
@@ -161,7 +161,7 @@ void Borftex::cambiaBarcode(bool acceso) {
     m_listaVisibile = false;
     if (!acceso)
         apriLista();
-    m_fuoco = Cella{Campo::Artic, fuocoValido() ? m_rigafocus : 0};
+    m_fuoco = Cella{Campo::Artic, m_rigafocus};
 }
 
 void Borftex::cambiaScorporo(bool acceso) {

@@ -87,7 +87,6 @@ public:
 private:
     std::size_t indice(int r) const { return static_cast<std::size_t>(m_primariga + r - 1); }
     Riga& rigaDi(int r) { return m_righe[indice(r)]; }
-    bool fuocoValido() const { return m_rigafocus >= 0 && m_rigafocus < righeVisibili; }
     bool artNonVuoto() const;
     void caricaLista();
     void mostraStato();
@@ -118,7 +117,7 @@ private:
     std::optional<QString> m_digitato; ///< text being typed in the article box of the row with the focus
     std::optional<Cella> m_fuoco;
     int m_primariga = 1;
-    int m_rigafocus = -1;
+    int m_rigafocus = 0; ///< visible row last entered
     int m_posizioneLista = -1;
     int m_edizioneLista = 0;
     int m_listino = 1;

@@ -48,14 +48,14 @@ void Borftex::invioArticolo(int r) {
 }
 
 void Borftex::scegliArticolo(int posizione) {
-    if (!m_listaCaricata || !fuocoValido() || posizione < 0 || posizione >= m_lista.quanti())
+    if (!m_listaCaricata || posizione < 0 || posizione >= m_lista.quanti())
         return;
     m_posizioneLista = posizione;
     mettiArticolo(m_lista.recart(posizione), Da::Lista);
 }
 
 void Borftex::cercaDescrizione() {
-    if (!m_listaVisibile || !fuocoValido())
+    if (!m_listaVisibile)
         return;
     const int recart = cercadescrizione(m_contesto.archivio, riga(m_rigafocus).descrizione);
     if (recart == 0) {

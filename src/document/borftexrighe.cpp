@@ -49,8 +49,6 @@ void Borftex::riordina() {
 }
 
 void Borftex::inserisciRiga() {
-    if (!fuocoValido())
-        return;
     const auto riga = m_righe.begin() + static_cast<std::ptrdiff_t>(indice(m_rigafocus));
     std::copy_backward(riga, m_righe.end() - 1, m_righe.end());
     // The second code is not of this screen, and stays at its place.
@@ -62,8 +60,6 @@ void Borftex::inserisciRiga() {
 }
 
 void Borftex::eliminaRiga() {
-    if (!fuocoValido())
-        return;
     const auto riga = m_righe.begin() + static_cast<std::ptrdiff_t>(indice(m_rigafocus));
     std::copy(riga + 1, m_righe.end(), riga);
     m_righe.back() = {};

@@ -138,8 +138,6 @@ void Borftex::prossimaRiga(int r) {
 }
 
 void Borftex::scegliIva(int posizione) {
-    if (!fuocoValido())
-        return;
     rigaDi(m_rigafocus).iva = posizione + 1;
     m_combo1 = false;
     m_fuoco = Cella{Campo::Prezzo, m_rigafocus};

@@ -130,6 +130,11 @@ TEST_F(VistaRigheTest, ListaScorrimentoEComandi) {
     EXPECT_TRUE(lista->isVisible());
     tasto(*vista, Qt::Key_Escape);
     EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
+    vista->attiva();
+    vista->attiva(); // the box that gets the focus has it already
+    scrivi(*vista, u"nota"_s);
+    tasto(*vista, Qt::Key_F7);
+    EXPECT_EQ(testoDi(*vista, u"ds(1)"_s), u"riga 1"_s);
     EXPECT_EQ(documento.ddd[0].codice, QString()) << "leaving keeps the document as it was";
 }
 
