@@ -64,8 +64,10 @@ bool Disco::duplica(const QString& da, const QString& a) {
 
 bool Disco::esito(bool riuscito, const char* operazione, const QString& percorso) {
     if (!riuscito) {
-        qCWarning(logArchivio, "cannot %s %s: %s", operazione, qPrintable(percorso), std::strerror(errno));
+        const int errore = errno;
+        qCWarning(logArchivio, "cannot %s %s: %s", operazione, qPrintable(percorso), std::strerror(errore));
         m_nonScritto = percorso;
+        errno = errore;
     }
     return riuscito;
 }

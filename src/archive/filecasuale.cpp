@@ -38,7 +38,8 @@ int apriDescrittore(const QByteArray& nome, Apertura apertura) {
     if (apertura == Apertura::SolaLettura)
         return ::open(nome.constData(), O_RDONLY | O_CLOEXEC);
     const int scrivibile = ::open(nome.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (scrivibile >= 0 || (errno != EACCES && errno != EROFS))
+    const bool soloLetta = errno == EACCES || errno == EROFS;
+    if (scrivibile >= 0 || !soloLetta || apertura == Apertura::Esclusiva)
         return scrivibile;
     return ::open(nome.constData(), O_RDONLY | O_CLOEXEC);
 }
@@ -48,9 +49,12 @@ int apriDescrittore(const QByteArray& nome, Apertura apertura) {
 bool FileCasuale::apri(const QString& percorso, Apertura apertura) {
     chiudi();
     m_percorso = percorso;
+    m_erroreLettura = false;
     m_descrittore = apriDescrittore(QFile::encodeName(percorso), apertura);
     if (m_descrittore < 0) {
-        qCWarning(logArchivio, "cannot open %s: %s", qPrintable(percorso), std::strerror(errno));
+        const int errore = errno;
+        qCWarning(logArchivio, "cannot open %s: %s", qPrintable(percorso), std::strerror(errore));
+        errno = errore;
         return false;
     }
     const short tipo = apertura == Apertura::Esclusiva ? F_WRLCK : F_RDLCK;
@@ -76,13 +80,16 @@ qint64 FileCasuale::lunghezza() const {
 
 qint64 FileCasuale::leggiBytes(qint64 posizione, std::span<std::byte> bytes) const {
     std::size_t letti = 0;
+    m_erroreLettura = m_erroreLettura || !aperto();
     while (aperto() && letti < bytes.size()) {
         const auto n = ::pread(m_descrittore, bytes.data() + letti, bytes.size() - letti,
                                posizione + static_cast<qint64>(letti));
         if (n < 0 && errno == EINTR)
             continue;
-        if (n < 0)
+        if (n < 0) {
+            m_erroreLettura = true;
             qCWarning(logArchivio, "cannot read %s: %s", qPrintable(m_percorso), std::strerror(errno));
+        }
         if (n <= 0)
             break;
         letti += static_cast<std::size_t>(n);

@@ -36,6 +36,9 @@ public:
     int descrittore() const { return m_descrittore; }
     qint64 lunghezza() const;
 
+    /// A read since `apri` failed, or was asked of a closed file: what it gave was not what is on disk.
+    bool erroreLettura() const { return m_erroreLettura; }
+
     /// How many bytes could be read; what lies beyond them in `bytes` is set to zero.
     qint64 leggiBytes(qint64 posizione, std::span<std::byte> bytes) const;
     bool scriviBytes(qint64 posizione, std::span<const std::byte> bytes);
@@ -44,6 +47,7 @@ private:
     Disco& m_disco;
     QString m_percorso;
     int m_descrittore = -1;
+    mutable bool m_erroreLettura = false;
 };
 
 /// A lock on one byte of an open file, held for a few system calls. Waits for another program at the most two

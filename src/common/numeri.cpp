@@ -146,7 +146,7 @@ double valoretesto(QStringView testo) {
         // The character that moves into the place of a removed point is not looked at again: "1..2" is 1.2.
         if (s[i] == u'.')
             s.remove(i, 1);
-        if (i < s.size() && s[i] == u',')
+        else if (s[i] == u',')
             s[i] = u'.';
     }
     return valore(s);

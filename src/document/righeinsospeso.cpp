@@ -1,6 +1,7 @@
 #include "document/righeinsospeso.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace bor {
 
@@ -23,7 +24,9 @@ void RigheInSospeso::tieni(const Documento& documento) {
 }
 
 bool RigheInSospeso::riprendi(Documento& documento) const {
-    const auto trovato = m_documenti.find(documento.coppia.fte.stamp);
+    // A garbled stamp that is no number has no place in the order of the others.
+    const double stamp = documento.coppia.fte.stamp;
+    const auto trovato = std::isnan(stamp) ? m_documenti.end() : m_documenti.find(stamp);
     if (trovato == m_documenti.end())
         return false;
     const Sospesi& sospesi = trovato->second;

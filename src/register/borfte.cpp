@@ -102,26 +102,31 @@ void Borfte::riordino(TipoRiordino tipo) {
         return;
     // The label comes back without its colon and stays so.
     m_etichetta = u"Inserisci"_s;
+    m_stato = Stato::Riordino;
     Tot contatore = m_contesto.archivio.leggiTot(Conta::Fte);
+    m_avanzamento = 0;
+    m_massimoAvanzamento = 0;
+    avanza(0);
+    EsitoRiordino esito;
     if (m_contesto.operatore.chiedi(domandaRiordino(tipo), u"Riordino archivio"_s)) {
         const Attesa attesa(m_contesto.operatore);
-        m_stato = Stato::Riordino;
         m_massimoAvanzamento = contatore.numero;
-        const EsitoRiordino esito = riordina(m_contesto.archivio, tipo, contatore, [this](int fatti) {
-            m_avanzamento = fatti;
-            if (m_suAvanzamento)
-                m_suAvanzamento();
-            m_contesto.operatore.lasciaEventi();
-        });
-        m_stato = Stato::Normale;
-        if (esito.fase != FaseRiordino::Riuscito) {
-            mostraErroreRiordino(esito);
-            return;
-        }
+        avanza(1);
+        esito = riordina(m_contesto.archivio, tipo, contatore, [this](int fatti) { avanza(fatti); });
     }
     m_stato = Stato::Normale;
     m_numero = contatore.numero;
-    caricalista();
+    if (esito.fase == FaseRiordino::Riuscito)
+        caricalista();
+    else
+        mostraErroreRiordino(esito);
+}
+
+void Borfte::avanza(int fatti) {
+    m_avanzamento = fatti;
+    if (m_suAvanzamento)
+        m_suAvanzamento();
+    m_contesto.operatore.lasciaEventi();
 }
 
 void Borfte::mostraErroreRiordino(const EsitoRiordino& esito) {
@@ -209,7 +214,7 @@ void Borfte::ordina(int colonna) {
     }
     if (colorata())
         m_cellaColorata.reset();
-    ++m_versione;
+    ++m_ordinamenti;
 }
 
 void Borfte::cellaCorrente(int riga, int colonna) {
@@ -257,7 +262,7 @@ void Borfte::caricalista() {
     m_cellaColorata.reset();
     if (!colorata() && m_elenco.quante() > 0)
         m_cellaColorata = {m_cellaCorrente, m_elenco.ultimaPdf() ? 0xC0C0FF : 0xFCFAF3};
-    ++m_versione;
+    ++m_riempimenti;
 }
 
 bool Borfte::colorata() const {

@@ -49,8 +49,9 @@ public:
     int righeGriglia() const;
     /// The row, counted from 0, that the list shows first after a fill.
     int primaRigaVisibile() const { return m_primaRiga; }
-    /// Goes up at every fill and sort.
-    int versione() const { return m_versione; }
+    /// Each goes up by one: at every fill, at every sort.
+    int riempimenti() const { return m_riempimenti; }
+    int ordinamenti() const { return m_ordinamenti; }
 
     FiltroFatture filtro() const { return m_filtro; }
     int selvis() const { return m_selvis; }
@@ -61,6 +62,7 @@ public:
     const QString& etichetta() const { return m_etichetta; } ///< `Label3`
     bool etichettaVisibile() const { return m_stato != Stato::Riordino; }
     int avanzamento() const { return m_avanzamento; }
+    /// 0 until the operator has said yes to the reorder.
     int massimoAvanzamento() const { return m_massimoAvanzamento; }
     /// Called while a reorder runs, so that the bar is drawn.
     void suAvanzamento(std::function<void()> funzione) { m_suAvanzamento = std::move(funzione); }
@@ -70,6 +72,7 @@ private:
 
     void leggiConteggio();
     void caricalista();
+    void avanza(int fatti);
     void ripristinavista();
     void salvaVista();
     void mostraErroreRiordino(const EsitoRiordino& esito);
@@ -86,7 +89,8 @@ private:
     int m_visua = -1;
     int m_numero = 0; ///< documents counted when the counter was last read
     int m_primaRiga = 0;
-    int m_versione = 0;
+    int m_riempimenti = 0;
+    int m_ordinamenti = 0;
     int m_avanzamento = 0;
     int m_massimoAvanzamento = 0;
     std::array<int, 2> m_cellaCorrente{0, 1};

@@ -40,17 +40,17 @@ void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatt
     m_pdf.clear();
     std::vector<Fte> teste(documentiPerBlocco);
     std::vector<F2e> code(documentiPerBlocco);
-    for (int n = primo; n <= ultimo && quante() < massimoRighe; n += documentiPerBlocco) {
+    for (int n = primo; n <= ultimo; n += documentiPerBlocco) {
         const int nelBlocco = std::min(documentiPerBlocco, ultimo - n + 1);
         archivio.fte.leggiBlocco(n, std::span(teste).first(static_cast<std::size_t>(nelBlocco)));
         archivio.f2e.leggiBlocco(n, std::span(code).first(static_cast<std::size_t>(nelBlocco)));
-        for (int i = 0; i < nelBlocco && quante() < massimoRighe; ++i) {
+        for (int i = 0; i < nelBlocco; ++i) {
             F2e& f2e = code[static_cast<std::size_t>(i)];
             if (f2e.fpaGuasto()) {
                 f2e.fpa = 0.0;
                 archivio.f2e.scrivi(n + i, f2e);
             }
-            if (passa(f2e, filtro))
+            if (passa(f2e, filtro) && quante() < massimoRighe)
                 aggiungi(n + i, teste[static_cast<std::size_t>(i)], f2e);
         }
     }

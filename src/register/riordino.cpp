@@ -92,6 +92,8 @@ bool riscrivi(Archivio& archivio, const RecordFile<Fte>& copiaFte, const RecordF
               const std::vector<QByteArray>& voci, const Avanzamento& avanzamento) {
     const std::vector<Fte> vecchieFte = tutti(copiaFte);
     const std::vector<F2e> vecchieF2e = tutti(copiaF2e);
+    if (copiaFte.erroreLettura() || copiaF2e.erroreLettura())
+        return false;
     std::vector<Fte> teste;
     std::vector<F2e> code;
     for (std::size_t i = 0; i < voci.size();) {
@@ -133,9 +135,10 @@ QByteArray voceRiordino(TipoRiordino tipo, const Fte& fte, int record) {
 EsitoRiordino riordina(Archivio& archivio, TipoRiordino tipo, Tot& contatore,
                        const Avanzamento& avanzamento) {
     const Elenco elenco = leggiElenco(archivio, tipo, contatore.numero, avanzamento);
-    contatore.numero = static_cast<std::int16_t>(std::max<int>(contatore.numero, 0) - elenco.eliminati);
+    contatore.numero = static_cast<std::int16_t>(contatore.numero - elenco.eliminati);
     errno = 0;
-    if (!archivio.scriviTot(Conta::Fte, contatore))
+    // Files that another computer holds read as blank records: put in order, they would hide what they are.
+    if (!archivio.scriviTot(Conta::Fte, contatore) || archivio.fte.erroreLettura())
         return {FaseRiordino::Caricamento, numeroErrore()};
     if (!duplica(archivio))
         return {FaseRiordino::Duplicazione, numeroErrore()};

@@ -17,6 +17,7 @@
 #include <QTableView>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -176,9 +177,9 @@ QWidget* VistaBorfte::creaComandi() {
     m_barra = new QProgressBar;
     m_barra->setObjectName(u"srt"_s);
     m_barra->setAccessibleName(u"Avanzamento del riordino"_s);
-    legami.visibile(m_barra, [this] { return m_form.occupato(); });
+    legami.visibile(m_barra, [this] { return m_form.occupato() && m_form.massimoAvanzamento() > 0; });
     legami.altro([this] {
-        m_barra->setRange(0, std::max(m_form.massimoAvanzamento(), 1));
+        m_barra->setRange(1, std::max(m_form.massimoAvanzamento(), 1));
         m_barra->setValue(m_form.avanzamento());
     });
     layout->addWidget(m_barra, 1);
@@ -204,15 +205,19 @@ QString VistaBorfte::titolo() const {
 }
 
 void VistaBorfte::aggiornaElenco() {
-    if (m_versione == m_form.versione())
+    const bool riempito = std::exchange(m_riempimenti, m_form.riempimenti()) != m_form.riempimenti();
+    const bool ordinato = std::exchange(m_ordinamenti, m_form.ordinamenti()) != m_form.ordinamenti();
+    if (!riempito && !ordinato)
         return;
-    m_versione = m_form.versione();
+    const int vista = m_elenco->verticalScrollBar()->value();
+    const int rigaCursore = m_elenco->currentIndex().row();
     m_modello->rinnova();
-    const int prima = m_form.primaRigaVisibile();
-    // The operator's cursor goes where the list opens: to its first document, or to its last one.
-    const int corrente = m_form.visua() == 1 ? std::max(m_form.elenco().quante() - 1, 0) : 0;
+    // The operator's cursor goes where the list opens: to its first document, or to its last one. A sort
+    // leaves it, and what is seen, in place.
+    const int ultima = std::max(m_form.elenco().quante() - 1, 0);
+    const int corrente = !riempito ? std::max(rigaCursore, 0) : m_form.visua() == 1 ? ultima : 0;
     m_elenco->setCurrentIndex(m_modello->index(corrente, static_cast<int>(Colonna::DataRegistrazione)));
-    m_elenco->verticalScrollBar()->setValue(prima);
+    m_elenco->verticalScrollBar()->setValue(riempito ? m_form.primaRigaVisibile() : vista);
 }
 
 void VistaBorfte::apri() {

@@ -30,7 +30,8 @@ private:
     ModelloGriglia* m_modello;
     QTableView* m_elenco = nullptr;
     QProgressBar* m_barra = nullptr;
-    int m_versione = -1;
+    int m_riempimenti = -1;
+    int m_ordinamenti = 0;
 };
 
 } // namespace bor

@@ -58,6 +58,7 @@ TEST(Numeri, ValoreDiUnTesto) {
     EXPECT_EQ(valoreIntero(u"99999999999"), 2147483647);
     EXPECT_EQ(valoretesto(u"1.234,56"), 1234.56);
     EXPECT_EQ(valoretesto(u"1..2"), 1.2);
+    EXPECT_EQ(valoretesto(u"1.,5"), 1);
     EXPECT_EQ(valorevirgola(u" 12,5 "), 12.5);
     EXPECT_EQ(valorevirgola(u"1.234,5"), 1.234);
 }

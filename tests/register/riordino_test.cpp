@@ -134,6 +134,22 @@ TEST_F(RiordinoTest, UnAltroComputerFermaIlRiordinoConIlSuoMessaggio) {
     EXPECT_FALSE(escluso.archivio.fte.aperto()) << "after a reorder the files stay taken until the run ends";
 }
 
+TEST_F(RiordinoTest, ChiHaTrovatoIFileOccupatiNonLiRiordinaDaVuoti) {
+    documento(QStringLiteral("2"), u"20150101", 1);
+    documento(QStringLiteral("1"), u"20150101", 1, true);
+    auto primo = std::make_unique<ContestoDiProva>(azienda);
+    ASSERT_TRUE(
+        primo->archivio.fte.apri(azienda.percorso(QStringLiteral("borlano.fte")), Apertura::Esclusiva));
+    ContestoDiProva secondo(azienda);
+    primo.reset();
+    const QByteArray prima = azienda.leggi(QStringLiteral("borlano.fte"));
+    riordinaPer(secondo, TipoRiordino::PerNumero);
+    ASSERT_EQ(secondo.operatore.messaggi.size(), 1);
+    EXPECT_TRUE(secondo.operatore.messaggi[0].testo.contains(
+        QStringLiteral("durante la procedura di caricamento in memoria del dati da riordinare.")));
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), prima);
+}
+
 TEST_F(RiordinoTest, UnDiscoPienoLasciaLeCopieEIlMessaggio) {
     class DiscoPieno : public Disco {
     public:

@@ -60,6 +60,7 @@ TEST_F(VistaRegistroTest, FiltroEOpzioniRiempionoDiNuovo) {
     EXPECT_TRUE(griglia->visualRect(griglia->currentIndex()).intersects(griglia->viewport()->rect()));
     clic(*vista, QStringLiteral("srx(1)"));
     EXPECT_EQ(cella(0, 0), QStringLiteral("1"));
+    EXPECT_EQ(griglia->currentIndex().row(), 29) << "a sort leaves the cursor in place";
 }
 
 TEST_F(VistaRegistroTest, IlRiordinoCambiaIBottoni) {

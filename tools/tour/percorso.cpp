@@ -17,11 +17,46 @@ void registro(Giro& giro) {
 
 void testata(Giro& giro) {
     giro.tasto(Qt::Key_F2);
-    giro.riga(u"Mangimi"_s);
-    giro.foto(u"cliente"_s);
     giro.premi(u"b_lista"_s);
     giro.foto(u"elenco-clienti"_s);
     giro.tasto(Qt::Key_Escape);
+    giro.vaiSu(u"nome"_s);
+    giro.riga(u"Mangimi"_s);
+    giro.foto(u"cliente"_s);
+    giro.premi(u"bottone"_s);
+}
+
+/// A new invoice, from its lines to its movement.
+void fatturaNuova(Giro& giro) {
+    giro.foto(u"fattura-nuova"_s);
+    giro.tasto(Qt::Key_F3);
+    giro.tasto(Qt::Key_Return); // no article: the description
+    giro.riga(u"Assistenza al montaggio"_s);
+    giro.riga(u"h"_s);
+    giro.riga(u"8"_s);
+    giro.riga(u"10"_s);
+    giro.riga({});
+    giro.riga(u"42,50"_s);
+    giro.foto(u"righe"_s);
+    giro.tasto(Qt::Key_F10);
+    giro.foto(u"fattura-totali"_s);
+    giro.tasto(Qt::Key_F10);
+    giro.foto(u"movimento"_s);
+    giro.tasto(Qt::Key_F10);
+    giro.foto(u"registro-con-fattura"_s);
+}
+
+/// The invoice just made, opened again from the register, in each of its panels.
+void fatturaEsistente(Giro& giro) {
+    giro.vaiSu(u"elenco"_s);
+    giro.tasto(Qt::Key_Return);
+    giro.foto(u"fattura"_s);
+    for (const auto& [tasto, nome] : {std::pair{Qt::Key_2, u"iva-differita"_s},
+                                      {Qt::Key_3, u"ritenute"_s},
+                                      {Qt::Key_4, u"spesometro"_s}}) {
+        giro.tasto(tasto, Qt::ControlModifier);
+        giro.foto(u"fattura-"_s + nome);
+    }
     giro.tasto(Qt::Key_Escape);
 }
 
@@ -30,6 +65,8 @@ void testata(Giro& giro) {
 void percorri(Giro& giro) {
     registro(giro);
     testata(giro);
+    fatturaNuova(giro);
+    fatturaEsistente(giro);
 }
 
 } // namespace bor
