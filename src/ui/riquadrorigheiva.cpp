@@ -28,10 +28,12 @@ constexpr std::array<ColonnaIva, 3> colonne = {{
     {VoceIva::Esente, u"esent", u"Esenzione", 4},
 }};
 
-QLabel* etichetta(const BancoTea& banco, const QString& nome, const Legami::Leggi& leggi) {
+/// `modello`: a usual caption, which the label has room for.
+QLabel* etichetta(const BancoTea& banco, const QString& nome, const QString& modello,
+                  const Legami::Leggi& leggi) {
     auto* testo = new QLabel;
     testo->setObjectName(nome);
-    testo->setMinimumWidth(testo->fontMetrics().horizontalAdvance(u"Aliquota iva 22%"_s));
+    testo->setMinimumWidth(testo->fontMetrics().horizontalAdvance(modello));
     testo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     banco.legami.altro([testo, leggi] {
         // The captions of a company may be longer than there is room for.
@@ -53,13 +55,16 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
     for (const ColonnaIva& c : colonne)
         griglia->addWidget(new QLabel(c.descrizione.toString()), 0, c.colonna, Qt::AlignRight);
     for (int i = 0; i < Borftea::righeVisibili; ++i) {
-        auto* iv = etichetta(banco, indicizzato(u"iv", i), [&form, i] { return form.etichettaIva(i); });
-        auto* es = etichetta(banco, indicizzato(u"es", i), [&form, i] { return form.etichettaEsente(i); });
+        auto* iv = etichetta(banco, indicizzato(u"iv", i), u"Non imponibile art. 8"_s,
+                             [&form, i] { return form.etichettaIva(i); });
+        auto* es = etichetta(banco, indicizzato(u"es", i), u"Art. 17 c. 6 DPR 633/72"_s,
+                             [&form, i] { return form.etichettaEsente(i); });
         griglia->addWidget(iv, i + 1, 0);
         griglia->addWidget(es, i + 1, 3);
         for (const ColonnaIva& c : colonne) {
             auto* casella =
                 new CampoImporto(indicizzato(c.nome, i), u"%1, riga %2"_s.arg(c.descrizione).arg(i + 1));
+            casella->setMaximumWidth(casella->minimumSizeHint().width());
             banco.legami.testo(
                 casella, [&form, i, voce = c.voce] { return form.importo(i, voce); },
                 [&form, i, voce = c.voce](const QString& t) { form.cambiaImporto(i, voce, t); });

@@ -2,7 +2,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QKeyEvent>
+#include <QProcess>
 #include <QTest>
 #include <QWindow>
 
@@ -57,6 +59,19 @@ void Giro::foto(const QString& nome) {
     QApplication::processEvents();
     if (!m_finestra.grab().save(m_cartella.filePath(nome + u".png"_s)))
         fallito(u"non si può scrivere "_s + nome);
+}
+
+void Giro::pdf(const QString& nome, bool parcella) {
+    QProcess strumento;
+    strumento.setWorkingDirectory(m_unita);
+    strumento.start(QCoreApplication::applicationDirPath() + u"/borxpdf"_s,
+                    {u"\\suprok\\suprok\\boraz0.001\\borlano.%1,c:\\bordoc.rto,\\%2.pdf,***"_s.arg(
+                        parcella ? u"lxp" : u"lxf", nome)});
+    const QString fatto = m_unita + u'/' + nome + u".pdf"_s;
+    const QString meta = m_cartella.filePath(nome + u".pdf"_s);
+    QFile::remove(meta);
+    if (!strumento.waitForFinished() || strumento.exitCode() != 0 || !QFile::copy(fatto, meta))
+        fallito(u"manca il PDF "_s + nome);
 }
 
 void Giro::fallito(const QString& motivo) {

@@ -12,7 +12,8 @@ namespace bor {
 /// saved, is told on standard error and remembered.
 class Giro {
 public:
-    Giro(Finestra& finestra, const QDir& cartella) : m_finestra(finestra), m_cartella(cartella) {}
+    Giro(Finestra& finestra, const QDir& cartella, QString unita)
+        : m_finestra(finestra), m_cartella(cartella), m_unita(std::move(unita)) {}
 
     /// Presses the button of this control name.
     void premi(const QString& nome);
@@ -23,6 +24,8 @@ public:
     /// Types and goes on with Enter.
     void riga(const QString& testo);
     void foto(const QString& nome);
+    /// Makes a PDF of the last print, with the PDF tool that lies beside this program.
+    void pdf(const QString& nome, bool parcella = false);
     bool riuscito() const { return m_riuscito; }
 
 private:
@@ -31,6 +34,7 @@ private:
 
     Finestra& m_finestra;
     QDir m_cartella;
+    QString m_unita;
     bool m_riuscito = true;
 };
 

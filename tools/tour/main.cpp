@@ -28,6 +28,13 @@ public:
     bool chiedi(const QString&, const QString&, bor::Icona) override { return true; }
 };
 
+/// Other programs are started by the tour alone, where it waits for them.
+class SistemaDelGiro : public bor::Sistema {
+public:
+    int apri(const QString&) override { return 33; }
+    bool avvia(const QString&, const QStringList&) override { return true; }
+};
+
 /// The tour always happens on the same day, so that its pictures do not change by themselves.
 class GiornoDelGiro : public bor::Orologio {
 public:
@@ -48,6 +55,10 @@ int main(int argc, char* argv[]) {
     cartella.mkpath(u"."_s);
 
     const QTemporaryDir unita;
+    // Drive c: lies where the PDF tool looks for it too.
+    qputenv("XDG_DATA_HOME", unita.path().toLocal8Bit());
+    const QString unitaC = unita.path() + u"/borfte/c"_s;
+    QDir().mkpath(unitaC);
     const bor::Problemi problemi = bor::creaAzienda({QStringLiteral(BOR_DEMO_DIR), unita.path(), 1});
     if (!problemi.empty()) {
         std::fprintf(stderr, "%s\n", qPrintable(problemi.front().testo()));
@@ -55,19 +66,18 @@ int main(int argc, char* argv[]) {
     }
     OperatoreDelGiro operatore;
     GiornoDelGiro orologio;
-    bor::SistemaQt sistema;
+    SistemaDelGiro sistema;
     bor::StampanteQt stampante;
     bor::Finestra finestra;
-    const auto modulo =
-        bor::Modulo::avvia(bor::rigaAvvio(1), bor::Percorsi(unita.path(), unita.path() + u"/c"_s),
-                           {operatore, orologio, sistema, finestra, stampante});
+    const auto modulo = bor::Modulo::avvia(bor::rigaAvvio(1), bor::Percorsi(unita.path(), unitaC),
+                                           {operatore, orologio, sistema, finestra, stampante});
     bor::aggiungiSchermi(finestra, *modulo);
     finestra.show();
     finestra.activateWindow();
     if (!QTest::qWaitForWindowActive(&finestra))
         return 1;
     finestra.mostra(bor::Schermo::Borfte);
-    bor::Giro giro(finestra, cartella);
+    bor::Giro giro(finestra, cartella, unita.path());
     bor::percorri(giro);
     return giro.riuscito() ? 0 : 1;
 }

@@ -6,8 +6,32 @@ namespace bor {
 
 namespace {
 
+/// Opens a document of the register by its row, counted from 1.
+void apri(Giro& giro, int riga) {
+    giro.vaiSu(u"elenco"_s);
+    giro.tasto(Qt::Key_Home, Qt::ControlModifier);
+    for (int i = 1; i < riga; ++i)
+        giro.tasto(Qt::Key_Down);
+    giro.tasto(Qt::Key_Return);
+}
+
+/// The documents of the demo company that show what a print can look like.
+void stampe(Giro& giro) {
+    struct Stampa {
+        QStringView nome;
+        int riga;
+        bool parcella;
+    };
+    for (const auto& [nome, riga, parcella] :
+         {Stampa{u"fattura", 100, false}, {u"nota-di-credito", 8, false}, {u"parcella", 4, true}}) {
+        apri(giro, riga);
+        giro.tasto(Qt::Key_F7);
+        giro.pdf(nome.toString(), parcella);
+        giro.tasto(Qt::Key_Escape);
+    }
+}
+
 void registro(Giro& giro) {
-    giro.foto(u"registro"_s);
     giro.premi(u"visua(1)"_s);
     giro.tasto(Qt::Key_F6);
     giro.foto(u"registro-riordino"_s);
@@ -60,13 +84,28 @@ void fatturaEsistente(Giro& giro) {
     giro.tasto(Qt::Key_Escape);
 }
 
+void fatturaPa(Giro& giro) {
+    giro.vaiSu(u"Combo1"_s);
+    giro.tasto(Qt::Key_Down);
+    giro.tasto(Qt::Key_Down);
+    apri(giro, 1);
+    giro.foto(u"fattura-pa"_s);
+    giro.tasto(Qt::Key_F8);
+    giro.foto(u"dati-fattura-pa"_s);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_Escape);
+}
+
 } // namespace
 
 void percorri(Giro& giro) {
+    giro.foto(u"registro"_s);
+    stampe(giro);
     registro(giro);
     testata(giro);
     fatturaNuova(giro);
     fatturaEsistente(giro);
+    fatturaPa(giro);
 }
 
 } // namespace bor
