@@ -167,8 +167,8 @@ QWidget* VistaBorftec::creaComandi() {
     comando(0, u"Esci senza registrare"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
     comando(1, u"Registra"_s, u"salva"_s, u"F10"_s, [this] { m_form.salva(); });
     layout->addSpacing(24);
-    comando(4, u"Inserisci riga"_s, u"inserisci"_s, u"Ctrl+Ins"_s, [this] { m_form.inserisciRiga(); });
-    comando(3, u"Elimina riga"_s, u"togli"_s, u"Ctrl+Del"_s, [this] { m_form.togliRiga(); });
+    comando(4, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, [this] { m_form.inserisciRiga(); });
+    comando(3, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.togliRiga(); });
     layout->addStretch();
     return barra;
 }

@@ -158,11 +158,11 @@ QWidget* VistaBorftek::creaComandi() {
     comando(0, u"Torna senza riportare"_s, u"indietro"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
     comando(1, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
     layout->addSpacing(24);
-    comando(2, u"Inserisci riga"_s, u"inserisci"_s, u"Ctrl+Ins"_s, [this] {
+    comando(2, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, [this] {
         m_form.inserisciRiga();
         vai({m_form.rigafocus(), Campo::Data});
     });
-    comando(3, u"Elimina riga"_s, u"togli"_s, u"Ctrl+Del"_s, [this] { m_form.eliminaRiga(); });
+    comando(3, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
     layout->addStretch();
     return barra;
 }
