@@ -1,5 +1,6 @@
 #include "ui/vistaborftec.h"
 
+#include "ui/barracomandi.h"
 #include "ui/campi.h"
 
 #include <QGridLayout>
@@ -155,21 +156,14 @@ QWidget* VistaBorftec::creaTotali() {
 }
 
 QWidget* VistaBorftec::creaComandi() {
-    auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
-    layout->setContentsMargins(0, 0, 0, 0);
-    const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
-                             std::function<void()> azione) {
-        auto* bottone = new BottoneComando(u"bottone(%1)"_s.arg(indice), testo, icona, QKeySequence(tasto));
-        legami.comando(bottone, std::move(azione));
-        layout->addWidget(bottone);
-    };
-    comando(0, u"Esci senza registrare"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
-    comando(1, u"Registra"_s, u"salva"_s, u"F10"_s, [this] { m_form.salva(); });
-    layout->addSpacing(24);
-    comando(4, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, [this] { m_form.inserisciRiga(); });
-    comando(3, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.togliRiga(); });
-    layout->addStretch();
+    auto* barra = new BarraComandi(legami);
+    barra->comando(u"bottone(0)"_s, u"Esci senza registrare"_s, u"esci"_s, u"Ctrl+Q"_s,
+                   [this] { m_form.lascia(); });
+    barra->comando(u"bottone(1)"_s, u"Registra"_s, u"salva"_s, u"F10"_s, [this] { m_form.salva(); });
+    barra->spazio();
+    barra->comando(u"bottone(4)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s,
+                   [this] { m_form.inserisciRiga(); });
+    barra->comando(u"bottone(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.togliRiga(); });
     return barra;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/vistaborftek.h"
 
+#include "ui/barracomandi.h"
 #include "ui/campi.h"
 
 #include <QApplication>
@@ -146,24 +147,16 @@ QWidget* VistaBorftek::creaTotali() {
 }
 
 QWidget* VistaBorftek::creaComandi() {
-    auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
-    layout->setContentsMargins(0, 0, 0, 0);
-    const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
-                             std::function<void()> azione) {
-        auto* bottone = new BottoneComando(u"comando(%1)"_s.arg(indice), testo, icona, QKeySequence(tasto));
-        legami.comando(bottone, std::move(azione));
-        layout->addWidget(bottone);
-    };
-    comando(0, u"Torna senza riportare"_s, u"indietro"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
-    comando(1, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
-    layout->addSpacing(24);
-    comando(2, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, [this] {
+    auto* barra = new BarraComandi(legami);
+    barra->comando(u"comando(0)"_s, u"Torna senza riportare"_s, u"indietro"_s, u"Ctrl+Q"_s,
+                   [this] { m_form.lascia(); });
+    barra->comando(u"comando(1)"_s, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
+    barra->spazio();
+    barra->comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, [this] {
         m_form.inserisciRiga();
         vai({m_form.rigafocus(), Campo::Data});
     });
-    comando(3, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
-    layout->addStretch();
+    barra->comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
     return barra;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/vistaborftepa.h"
 
+#include "ui/barracomandi.h"
 #include "ui/campi.h"
 #include "ui/finestrarilievi.h"
 
@@ -216,22 +217,12 @@ QWidget* VistaBorftepa::creaSpunta(const QString& nome, const QString& testo, bo
 }
 
 QWidget* VistaBorftepa::creaComandi() {
-    auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
-    layout->setContentsMargins(0, 0, 0, 0);
-    const auto comando = [&](const QString& nome, const QString& testo, const QString& icona,
-                             const QString& tasto, std::function<void()> azione) {
-        auto* bottone = new BottoneComando(nome, testo, icona, QKeySequence(tasto));
-        legami.comando(bottone, std::move(azione));
-        layout->addWidget(bottone);
-        return bottone;
-    };
-    comando(u"comando(4)"_s, u"Esci"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
-    comando(u"comando(1)"_s, u"Genera fattura"_s, u"genera"_s, u"F10"_s, [this] { m_form.genera(); });
+    auto* barra = new BarraComandi(legami);
+    barra->comando(u"comando(4)"_s, u"Esci"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
+    barra->comando(u"comando(1)"_s, u"Genera fattura"_s, u"genera"_s, u"F10"_s, [this] { m_form.genera(); });
     auto* controllo =
-        comando(u"controlla"_s, u"Controlla"_s, u"controlla"_s, u"F8"_s, [this] { controlla(); });
+        barra->comando(u"controlla"_s, u"Controlla"_s, u"controlla"_s, u"F8"_s, [this] { controlla(); });
     legami.abilitato(controllo, [this] { return m_form.generato(); });
-    layout->addStretch();
     return barra;
 }
 

@@ -1,6 +1,7 @@
 #include "ui/vistaborftex.h"
 
 #include "document/borftex.h"
+#include "ui/barracomandi.h"
 #include "ui/campi.h"
 #include "ui/grigliaborftex.h"
 
@@ -164,27 +165,16 @@ QWidget* VistaBorftex::creaTotali() {
 }
 
 QWidget* VistaBorftex::creaComandi() {
-    auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
-    layout->setContentsMargins(0, 0, 0, 0);
-    const auto comando = [&](const QString& nome, const QString& testo, const QString& icona,
-                             const QString& tasto, std::function<void()> azione) {
-        auto* bottone = new BottoneComando(nome, testo, icona, QKeySequence(tasto));
-        legami.comando(bottone, std::move(azione));
-        layout->addWidget(bottone);
-        return bottone;
-    };
-    comando(u"comando(0)"_s, u"Indietro"_s, u"indietro"_s, {}, [this] {
-        m_form.indietro();
-    })->setToolTip(u"Indietro (Esc)"_s);
-    comando(u"comando(1)"_s, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
-    layout->addSpacing(24);
-    comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s,
-            [this] { m_form.inserisciRiga(); });
-    comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
-    comando(u"riordina"_s, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.riordina(); });
-    comando(u"command3d3"_s, u"Articoli"_s, u"lista"_s, u"F3"_s, [this] { m_form.apriLista(); });
-    layout->addStretch();
+    auto* barra = new BarraComandi(legami);
+    barra->comando(u"comando(0)"_s, u"Indietro"_s, u"indietro"_s, {}, [this] { m_form.indietro(); })
+        ->setToolTip(u"Indietro (Esc)"_s);
+    barra->comando(u"comando(1)"_s, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
+    barra->spazio();
+    barra->comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s,
+                   [this] { m_form.inserisciRiga(); });
+    barra->comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
+    barra->comando(u"riordina"_s, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.riordina(); });
+    barra->comando(u"command3d3"_s, u"Articoli"_s, u"lista"_s, u"F3"_s, [this] { m_form.apriLista(); });
     return barra;
 }
 

@@ -1,0 +1,29 @@
+// The row of picture buttons at the foot of a screen.
+#pragma once
+
+#include "ui/campi.h"
+
+#include <functional>
+
+class QHBoxLayout;
+
+namespace bor {
+
+class Legami;
+
+class BarraComandi : public QWidget {
+public:
+    explicit BarraComandi(Legami& legami);
+
+    /// Adds a button behind the others; the arguments are those of `BottoneComando` and what a click does.
+    BottoneComando* comando(const QString& nome, const QString& testo, const QString& icona,
+                            const QString& tasto, std::function<void()> azione);
+    /// Room between two groups of buttons.
+    void spazio();
+
+private:
+    Legami& m_legami;
+    QHBoxLayout* m_layout;
+};
+
+} // namespace bor
