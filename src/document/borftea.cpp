@@ -43,7 +43,8 @@ void Borftea::attiva() {
 }
 
 void Borftea::apriNuovo() {
-    const Sessione& sessione = m_contesto.sessione;
+    Sessione& sessione = m_contesto.sessione;
+    sessione.tipoparcella = 0;
     Documento documento;
     documento.testata = std::move(m_documento.testata); // typed in the head form, the screen before this one
     m_documento = std::move(documento);

@@ -160,6 +160,10 @@ void Borftek::lascia() {
     m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
+QString Borftek::numfat() const {
+    return testoDecimale(valore(m_documento.estremi.numero));
+}
+
 QString Borftek::totale(Campo colonna) const {
     const TotaliParcella t = sommaParcella(m_righe);
     const double x = colonna == Campo::Anticipazioni ? t.totanticipazioni

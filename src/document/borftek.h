@@ -51,7 +51,8 @@ public:
     /// Returns to the document and hands nothing over.
     void lascia();
 
-    const QString& numfat() const { return m_documento.estremi.numero; }
+    /// Number of the document as far as it is one.
+    QString numfat() const;
     QString totale(Campo colonna) const; ///< `tota`: of an amount column
 
 private:

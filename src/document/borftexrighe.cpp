@@ -39,6 +39,7 @@ std::vector<std::size_t> ordinePerCodice(const TabellaRighe& righe) {
 } // namespace
 
 void Borftex::riordina() {
+    m_digitato.reset();
     TabellaRighe ordinate;
     ordinate.reserve(m_righe.size());
     for (const std::size_t i : ordinePerCodice(m_righe))
@@ -49,6 +50,7 @@ void Borftex::riordina() {
 }
 
 void Borftex::inserisciRiga() {
+    m_digitato.reset();
     const auto riga = m_righe.begin() + static_cast<std::ptrdiff_t>(indice(m_rigafocus));
     std::copy_backward(riga, m_righe.end() - 1, m_righe.end());
     // The second code is not of this screen, and stays at its place.
@@ -60,6 +62,7 @@ void Borftex::inserisciRiga() {
 }
 
 void Borftex::eliminaRiga() {
+    m_digitato.reset();
     const auto riga = m_righe.begin() + static_cast<std::ptrdiff_t>(indice(m_rigafocus));
     std::copy(riga + 1, m_righe.end(), riga);
     m_righe.back() = {};

@@ -14,6 +14,12 @@ Carattere disegnato(Carattere carattere) {
 
 } // namespace
 
+/// A bare file name is one of the company's folder, as the PDF tool has it.
+QString Foglio::percorso(const QString& file) const {
+    const Archivio& archivio = m_contesto.archivio;
+    return archivio.reale(file.contains(u'\\') ? file : archivio.file(file));
+}
+
 Foglio::Foglio(const Contesto& contesto, Stampante& stampante, Uscita uscita, const QString& titolo)
     : m_contesto(contesto), m_stampante(stampante), m_uscita(uscita),
       m_stampa(uscita != Uscita::SoloRapporto && stampante.inizia(titolo)) {}
@@ -42,7 +48,7 @@ void Foglio::riquadro(double x1, double y1, double x2, double y2, int colore, bo
 
 void Foglio::immagine(double x1, double y1, double x2, double y2, const QString& file) {
     if (m_stampa)
-        m_stampante.immagine(x1, y1, x2, y2, m_contesto.archivio.reale(file));
+        m_stampante.immagine(x1, y1, x2, y2, percorso(file));
     m_rapporto.immagine(x1, y1, x2, y2, file);
 }
 

@@ -27,6 +27,8 @@ public:
     bool termina();
 
 private:
+    QString percorso(const QString& file) const;
+
     const Contesto& m_contesto;
     Stampante& m_stampante;
     Uscita m_uscita;

@@ -54,13 +54,13 @@ void generapdf(Documento& documento, const Contesto& contesto) {
         return;
     const TestiPdf testi = caricaTestiPdf(contesto.archivio);
     const QString pdf = nomePdf(documento, testi);
-    const QString destinatario = documento.estremi.postael ? documento.cliente.email.trimmed() : senzaPosta;
+    QString destinatario = documento.estremi.postael ? documento.cliente.email.trimmed() : senzaPosta;
     if (documento.estremi.postael && !indirizzo(destinatario)) {
         contesto.operatore.messaggio(
             u"L'indirizzo di posta elettronica del cliente non è valido: \"%1\". Il documento non è stato inviato."_s
                 .arg(destinatario),
             titoloAttenzione, Icona::Stop);
-        return;
+        destinatario = senzaPosta;
     }
     if (pdf.contains(u',') || contesto.archivio.reale(pdf).isEmpty()) {
         contesto.operatore.messaggio(

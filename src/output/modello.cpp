@@ -93,7 +93,7 @@ Modello caricamodello(const Archivio& archivio, CodiceModello codice) {
     return modello;
 }
 
-void disegnamodello(Modello modello, int tipo, Foglio& foglio) {
+void disegnamodello(Modello& modello, int tipo, Foglio& foglio) {
     for (const OggettoModello& o : modello) {
         if (o.tipo == OggettoModello::Tipo::Immagine)
             foglio.immagine(o.x1, o.y1, o.x2, o.y2, o.testo.trimmed());

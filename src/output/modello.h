@@ -42,8 +42,9 @@ enum class CodiceModello {
 /// The objects of a template file, at most 500; none when it cannot be read.
 Modello caricamodello(const Archivio& archivio, CodiceModello codice);
 
-/// Draws pictures first, then filled boxes, then the rest. Objects are kept within an A4 page.
-/// In a credit note (`tipo` 1) the text "Fattura numero" becomes that of a credit note.
-void disegnamodello(Modello modello, int tipo, Foglio& foglio);
+/// Draws pictures first, then filled boxes, then the rest. Objects are kept within an A4 page from then on:
+/// the pictures of the first page alone stand where the file has them. In a credit note (`tipo` 1) the text
+/// "Fattura numero" becomes that of a credit note.
+void disegnamodello(Modello& modello, int tipo, Foglio& foglio);
 
 } // namespace bor

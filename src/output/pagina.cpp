@@ -79,7 +79,7 @@ int pagine(const Layout& layout, const Pianta& pianta, const ContenutoPagina& co
     return (ultima + perPagina - 1) / perPagina;
 }
 
-void disegnaPagine(const Layout& layout, const Modello& modello, const Pianta& pianta,
+void disegnaPagine(const Layout& layout, Modello modello, const Pianta& pianta,
                    const ContenutoPagina& contenuto, int tipo, Foglio& foglio) {
     const int quante = pagine(layout, pianta, contenuto);
     for (int pagina = 1; pagina <= quante; ++pagina) {

@@ -42,7 +42,7 @@ int righePerPagina(const Layout& layout, const Pianta& pianta);
 int pagine(const Layout& layout, const Pianta& pianta, const ContenutoPagina& contenuto);
 
 /// Draws all pages.
-void disegnaPagine(const Layout& layout, const Modello& modello, const Pianta& pianta,
+void disegnaPagine(const Layout& layout, Modello modello, const Pianta& pianta,
                    const ContenutoPagina& contenuto, int tipo, Foglio& foglio);
 
 } // namespace bor

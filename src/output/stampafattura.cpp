@@ -214,6 +214,12 @@ bool esegui(const Documento& documento, const Contesto& contesto, Stampante& sta
     const Pianta& pianta = parcella ? piantaParcella : piantaFattura;
     const ContenutoPagina contenuto =
         parcella ? contenutoParcella(documento, contesto) : contenutoFattura(documento, contesto);
+    if (pagine(layout, pianta, contenuto) == 0) {
+        // Nothing to print: the report file is emptied, and no blank sheet leaves the printer.
+        if (uscita == Foglio::Uscita::SoloStampante)
+            return false;
+        uscita = Foglio::Uscita::SoloRapporto;
+    }
     Foglio foglio(contesto, stampante, uscita, documento.estremi.numero);
     disegnaPagine(layout, modello, pianta, contenuto, contesto.sessione.tipodocumento, foglio);
     if (!foglio.termina()) {

@@ -75,7 +75,7 @@ void StampanteQt::linea(double x1, double y1, double x2, double y2, int colore) 
 
 void StampanteQt::riquadro(double x1, double y1, double x2, double y2, int colore, bool pieno) {
     QPainter& p = penna();
-    const QRectF area(QPointF(punti(x1), punti(y1)), QPointF(punti(x2), punti(y2)));
+    const QRectF area = QRectF(QPointF(punti(x1), punti(y1)), QPointF(punti(x2), punti(y2))).normalized();
     if (pieno) {
         p.fillRect(area, coloreDi(colore));
         return;
@@ -92,6 +92,8 @@ void StampanteQt::immagine(double x1, double y1, double x2, double y2, const QSt
 }
 
 void StampanteQt::nuovaPagina() {
+    if (m_paginaDovuta)
+        m_stampante->newPage();
     m_paginaDovuta = true;
 }
 

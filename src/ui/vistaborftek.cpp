@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollBar>
@@ -61,6 +62,7 @@ QWidget* VistaBorftek::creaRighe() {
     m_cursore->setAccessibleName(u"Prima riga visibile"_s);
     m_cursore->setRange(1, Borftek::ultimaPosizione);
     m_cursore->setPageStep(Borftek::righeSchermo);
+    m_cursore->setFocusPolicy(Qt::StrongFocus);
     legami.cursore(
         m_cursore, [this] { return m_form.primariga(); }, [this](int v) { m_form.scorri(v); });
     griglia->addWidget(m_cursore, 1, static_cast<int>(colonne.size()), Borftek::righeSchermo, 1);
@@ -179,7 +181,17 @@ QString VistaBorftek::titolo() const {
     return m_form.titolo();
 }
 
+void VistaBorftek::keyPressEvent(QKeyEvent* evento) {
+    const int tasto = evento->key();
+    if (tasto != Qt::Key_PageUp && tasto != Qt::Key_PageDown)
+        return Vista::keyPressEvent(evento);
+    const int passo = tasto == Qt::Key_PageUp ? -Borftek::righeSchermo : Borftek::righeSchermo;
+    legami.esegui([&] { m_form.scorri(m_form.primariga() + passo); });
+}
+
 void VistaBorftek::wheelEvent(QWheelEvent* evento) {
+    // The box in focus would be left on another line than the one it was entered for.
+    m_cursore->setFocus();
     QApplication::sendEvent(m_cursore, evento);
 }
 

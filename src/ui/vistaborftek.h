@@ -22,6 +22,7 @@ public:
     QString titolo() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
 
 private:
