@@ -38,7 +38,7 @@ void Borftea::attiva() {
             apriEsistente();
         m_numeroletto = m_documento.estremi.numero.trimmed();
     }
-    m_primariga = 1;
+    m_finestra.scorri(1);
     m_fuoco = PostoTea{CampoTea::Numero};
 }
 
@@ -125,22 +125,23 @@ bool Borftea::mostraProspetto(Prospetto prospetto) {
     return true;
 }
 
-QStringList Borftea::pagamenti() const {
+QStringList Borftea::voci(Lista lista) const {
     QStringList testi;
-    for (std::size_t r = 1; r < m_contesto.tabelle.tipopagamenti.size(); ++r)
-        testi.append(m_contesto.tabelle.tipopagamenti[r][0].trimmed());
+    switch (lista) {
+    case Lista::Pagamenti:
+        for (std::size_t r = 1; r < m_contesto.tabelle.tipopagamenti.size(); ++r)
+            testi.append(m_contesto.tabelle.tipopagamenti[r][0].trimmed());
+        return testi;
+    case Lista::Ricavi:
+        for (std::size_t r = 1; r < m_contesto.tabelle.ricavi.size(); ++r)
+            testi.append(m_contesto.tabelle.ricavi[r].trimmed());
+        return testi;
+    case Lista::Tributi:
+        return leggiTributi(m_contesto.archivio);
+    case Lista::ClassiNoleggio:
+        return {u"Autovettura"_s, u"Caravan"_s, u"Altri veicoli"_s, u"Unità da diporto"_s, u"Aeromobili"_s};
+    }
     return testi;
-}
-
-QStringList Borftea::ricavi() const {
-    QStringList testi;
-    for (std::size_t r = 1; r < m_contesto.tabelle.ricavi.size(); ++r)
-        testi.append(m_contesto.tabelle.ricavi[r].trimmed());
-    return testi;
-}
-
-QStringList Borftea::classiNoleggio() {
-    return {u"Autovettura"_s, u"Caravan"_s, u"Altri veicoli"_s, u"Unità da diporto"_s, u"Aeromobili"_s};
 }
 
 QString Borftea::integrata() const {

@@ -4,21 +4,22 @@
 
 #include "archive/contesto.h"
 #include "document/comandiesterni.h"
+#include "document/dato.h"
 #include "document/documento.h"
+#include "document/finestrarighe.h"
 #include "document/righeiva.h"
 #include "document/salvadoc.h"
 
 #include <QStringList>
 
 #include <optional>
+#include <type_traits>
+#include <utility>
 
 namespace bor {
 
 class Borftea {
 public:
-    static constexpr int righeVisibili = 8;
-    static constexpr int ultimaPosizione = 5; ///< of the scroll bar
-
     /// The panels that share one place.
     enum class Prospetto {
         RigheIva,     ///< `Frame4`
@@ -26,8 +27,24 @@ public:
         Ritenute,     ///< `Frame5`
         Spesometro    ///< `Frame6`
     };
-    /// The buttons of the command bar.
-    enum class Comando { Esci, Salva, Righe, Pdf, Elimina, Stampa, Anteprima, Testata, FatturaPa };
+    /// The buttons of the command bar, and those of the PDF selection.
+    enum class Comando {
+        Esci,
+        Salva,
+        Righe,
+        Pdf,
+        Elimina,
+        Stampa,
+        Anteprima,
+        Testata,
+        FatturaPa,
+        ScegliPdf,
+        ApriPdf
+    };
+    /// The lists to choose from.
+    enum class Lista { Pagamenti, Ricavi, Tributi, ClassiNoleggio };
+    /// The sums under the VAT rows.
+    enum class Totale { Imponibile, Imposta, Esente, Documento };
 
     Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni, RigheInSospeso& sospese,
             ComandiEsterni comandi);
@@ -37,10 +54,20 @@ public:
     void attiva();
     QString titolo() const;
 
-    // What the operator types without a rule behind it.
-    Estremi& estremi() { return m_documento.estremi; }
-    Scadenze& scadenze() { return m_documento.scadenze; }
-    Prospetti& prospetti() { return m_documento.prospetti; }
+    /// What a box shows. Members lead to it from `Estremi`, `Scadenze` or `Prospetti`, places in an array
+    /// among them: `dato(&Scadenze::rate, 0, &Rata::importo)`.
+    template <class T, class Parte, class... Altri>
+    const auto& dato(T Parte::*primo, Altri... altri) const {
+        return datoIn(std::as_const(parte<Parte>()), primo, altri...);
+    }
+    /// The operator typed or chose: stores it, and works out what follows from it.
+    template <class Valore, class T, class Parte, class... Altri>
+    void cambia(const Valore& valore, T Parte::*primo, Altri... altri) {
+        auto& dove = datoIn(parte<Parte>(), primo, altri...);
+        dove = valore;
+        cambiato(&dove);
+    }
+    QStringList voci(Lista lista) const;
 
     // Numbers and dates.
     void lasciaNumero();
@@ -49,47 +76,39 @@ public:
     bool esigAbilitato() const { return m_contesto.tabelle.regimeiva() != 0; }
 
     // The VAT rows: lines of the screen count from 0.
-    int primariga() const { return m_primariga; } ///< `VScroll1`, from 1
-    void scorri(int primariga);
+    const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
+    void scorri(int prima) { m_finestra.scorri(prima); }
     QString etichettaIva(int linea) const;    ///< `iv`
     QString etichettaEsente(int linea) const; ///< `es`
     QString importo(int linea, VoceIva voce) const;
     void cambiaImporto(int linea, VoceIva voce, const QString& testo);
-    /// 0 taxable, 1 tax, 2 exempt, 3 the whole document; each with a blank in front.
-    QString totale(int indice) const;
-
-    // Schedule, commission, withholding.
-    void cambiaPagamento(int posizione);
-    void cambiaAliquotaProvvigione(const QString& testo);
-    void cambiaRitenuta(int riga, const QString& testo); ///< `raimp`; rows count from 0
+    QString totale(Totale quale) const; ///< with a blank in front
 
     // The panels.
     Prospetto prospetto() const { return m_prospetto; }
     /// False when the panel is refused; the one in view then stays.
     bool mostraProspetto(Prospetto prospetto);
 
-    // Content of the lists.
-    QStringList pagamenti() const;
-    QStringList ricavi() const;
-    QStringList tributi() const { return leggiTributi(m_contesto.archivio); }
-    static QStringList classiNoleggio();
-
     QString integrata() const; ///< `Label3`; empty when it is hidden
-
-    // The PDF selection.
     bool pdfVisibile() const { return m_pdfVisibile; }
-    bool scegliPdfAbilitato() const { return static_cast<bool>(m_comandi.scegliPdf); }
-    void scegliPdf() { m_comandi.scegliPdf(); }
-    void apripdf() const;
 
     bool abilitato(Comando comando) const;
-    /// Runs a command of the bar; a disabled one does nothing.
+    /// Runs a command; a disabled one does nothing.
     void esegui(Comando comando);
     /// The box that the last event sends the operator to; asking takes the wish away.
     std::optional<PostoTea> prendiFuoco();
 
 private:
-    int rigaIva(int linea) const { return linea + m_primariga; }
+    template <class Parte>
+    Parte& parte() const {
+        if constexpr (std::is_same_v<Parte, Estremi>)
+            return m_documento.estremi;
+        else if constexpr (std::is_same_v<Parte, Scadenze>)
+            return m_documento.scadenze;
+        else if constexpr (std::is_same_v<Parte, Prospetti>)
+            return m_documento.prospetti;
+    }
+    void cambiato(const void* dato);
     bool nuovo() const { return m_documento.record == 0; }
     void apriNuovo();
     void apriEsistente();
@@ -109,7 +128,7 @@ private:
     QString m_numeroletto; ///< the number as last shown or warned about
     std::optional<PostoTea> m_fuoco;
     Prospetto m_prospetto = Prospetto::RigheIva;
-    int m_primariga = 1;
+    FinestraRighe m_finestra{8, 5};
     bool m_pdfVisibile = false; ///< `Picture1`
 };
 

@@ -16,6 +16,10 @@ bool Borftea::abilitato(Comando comando) const {
         return static_cast<bool>(m_comandi.anteprima);
     case Comando::FatturaPa:
         return m_documento.fatturaPa() && m_comandi.fatturaPa;
+    case Comando::ScegliPdf:
+        return static_cast<bool>(m_comandi.scegliPdf);
+    case Comando::ApriPdf:
+        return !m_documento.estremi.pdf.trimmed().isEmpty();
     default:
         return true;
     }
@@ -44,6 +48,10 @@ void Borftea::esegui(Comando comando) {
         return testata();
     case Comando::FatturaPa:
         return m_comandi.fatturaPa();
+    case Comando::ScegliPdf:
+        return m_comandi.scegliPdf();
+    case Comando::ApriPdf:
+        return ApriPDF(m_contesto, m_documento.estremi.pdf);
     }
 }
 
@@ -88,10 +96,6 @@ void Borftea::righe() {
 void Borftea::testata() {
     m_contesto.sessione.tipoparcella = m_documento.coppia.fte.parcella;
     m_contesto.navigatore.mostra(Schermo::Borftem);
-}
-
-void Borftea::apripdf() const {
-    ApriPDF(m_contesto, m_documento.estremi.pdf);
 }
 
 } // namespace bor

@@ -10,12 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
-void Borftea::scorri(int primariga) {
-    m_primariga = std::clamp(primariga, 1, ultimaPosizione);
-}
-
 QString Borftea::etichettaIva(int linea) const {
-    const auto riga = static_cast<std::size_t>(rigaIva(linea));
+    const auto riga = static_cast<std::size_t>(m_finestra.riga(linea));
     const QString libera = m_contesto.tabelle.esenzioni[riga][1].trimmed();
     if (libera.size() > 1)
         return libera;
@@ -24,38 +20,35 @@ QString Borftea::etichettaIva(int linea) const {
 }
 
 QString Borftea::etichettaEsente(int linea) const {
-    return m_contesto.tabelle.esenzioni[static_cast<std::size_t>(rigaIva(linea))][0].trimmed();
+    return m_contesto.tabelle.esenzioni[static_cast<std::size_t>(m_finestra.riga(linea))][0].trimmed();
 }
 
 QString Borftea::importo(int linea, VoceIva voce) const {
-    return testoCasella(importoIva(m_documento.coppia, voce, rigaIva(linea)));
+    return testoCasella(importoIva(m_documento.coppia, voce, m_finestra.riga(linea)));
 }
 
 void Borftea::cambiaImporto(int linea, VoceIva voce, const QString& testo) {
-    mettiImportoIva(m_documento.coppia, voce, rigaIva(linea), valorevirgola(testo));
+    mettiImportoIva(m_documento.coppia, voce, m_finestra.riga(linea), valorevirgola(testo));
     ricalcolaDocumento(m_documento, m_contesto);
 }
 
-QString Borftea::totale(int indice) const {
+QString Borftea::totale(Totale quale) const {
     const Totali t = totali(m_documento);
     const std::array<double, 4> somme = {t.somma1, t.somma2, t.somma3, t.totaledoc};
-    return u' ' + m_contesto.valuta().importotesto(somme[static_cast<std::size_t>(indice)]);
+    return u' ' + m_contesto.valuta().importotesto(somme[static_cast<std::size_t>(quale)]);
 }
 
-void Borftea::cambiaPagamento(int posizione) {
-    m_documento.scadenze.pagamento = posizione;
-    calcolascadenze(m_documento, m_contesto);
-    calcolarate(m_documento, m_contesto);
-}
-
-void Borftea::cambiaAliquotaProvvigione(const QString& testo) {
-    m_documento.scadenze.provaliq = testo;
-    calcolaProvvigione(m_documento, m_contesto);
-}
-
-void Borftea::cambiaRitenuta(int riga, const QString& testo) {
-    m_documento.prospetti.ritenute[static_cast<std::size_t>(riga)].raimp = testo;
-    ricalcolaDocumento(m_documento, m_contesto);
+void Borftea::cambiato(const void* dato) {
+    const Scadenze& scadenze = m_documento.scadenze;
+    if (dato == &scadenze.pagamento) {
+        calcolascadenze(m_documento, m_contesto);
+        calcolarate(m_documento, m_contesto);
+    } else if (dato == &scadenze.provaliq) {
+        calcolaProvvigione(m_documento, m_contesto);
+    } else if (std::ranges::any_of(m_documento.prospetti.ritenute,
+                                   [dato](const Ritenuta& r) { return dato == &r.raimp; })) {
+        ricalcolaDocumento(m_documento, m_contesto);
+    }
 }
 
 } // namespace bor

@@ -3,9 +3,13 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "document/dato.h"
 #include "document/documento.h"
 
 #include <QStringList>
+
+#include <type_traits>
+#include <utility>
 
 namespace bor {
 
@@ -46,8 +50,17 @@ public:
     bool clienteEliminato() const { return m_documento.cliente.eliminato == 1; }
     const QString& nome() const { return m_nome; }
     int vettore() const { return m_vettore; }
-    /// What the operator may type over for this document.
-    Testata& testata() { return m_documento.testata; }
+    /// What a box shows, and what the operator types over for this document. Members lead to it from
+    /// `DatiCliente`, `Trasporto` or `Pratica`, places in an array among them:
+    /// `dato(&DatiCliente::sede, &SedeTesti::cap)`.
+    template <class T, class Parte, class... Altri>
+    const auto& dato(T Parte::*primo, Altri... altri) const {
+        return datoIn(std::as_const(parte<Parte>()), primo, altri...);
+    }
+    template <class Valore, class T, class Parte, class... Altri>
+    void cambia(const Valore& valore, T Parte::*primo, Altri... altri) {
+        datoIn(parte<Parte>(), primo, altri...) = valore;
+    }
 
     QStringList pagamenti() const;
     QStringList causali() const;
@@ -57,6 +70,15 @@ public:
     QStringList regimi() const;
 
 private:
+    template <class Parte>
+    Parte& parte() const {
+        if constexpr (std::is_same_v<Parte, DatiCliente>)
+            return m_documento.testata.cliente;
+        else if constexpr (std::is_same_v<Parte, Trasporto>)
+            return m_documento.testata.trasporto;
+        else if constexpr (std::is_same_v<Parte, Pratica>)
+            return m_documento.testata.pratica;
+    }
     void mostraCliente();
     void prendi(int record);
     bool puoProseguire() const { return m_documento.cliente.eliminato == 0 && m_recordcorrente > 0; }

@@ -36,9 +36,9 @@ public:
     /// Where Enter leads to; from the last box of the last line back to the first.
     static Posto invio(int riga, Campo campo);
 
-    Movimento& testi() { return m_movimento; }
-    /// Head texts: `Text1(0)`, `Text2` and `Text1(1)`.
-    const Movimento& testi() const { return m_movimento; }
+    /// A head text: `Text1(0)`, `Text2` or `Text1(1)`.
+    const QString& dato(QString Movimento::*testo) const { return m_movimento.*testo; }
+    void cambia(const QString& valore, QString Movimento::*testo) { m_movimento.*testo = valore; }
 
     /// Accounts as "MM CC SSSS descrizione".
     const QStringList& conti() const { return m_conti; }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/borftea.h"
-#include "ui/campitea.h"
+#include "ui/campilegati.h"
 
 class QGroupBox;
 
@@ -13,7 +13,7 @@ struct BancoTea {
     Borftea& form;
     Legami& legami;
     PercorsoInvio& invio;
-    CampiTea campi{legami};
+    CampiLegati campi{legami};
 };
 
 /// A frame and the ends of its Enter walk.

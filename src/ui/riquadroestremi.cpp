@@ -19,20 +19,22 @@ RiquadroTea creaEstremi(const BancoTea& banco) {
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(7);
     Borftea& form = banco.form;
-    Estremi& estremi = form.estremi();
 
-    auto* numero = banco.campi.testo(u"Text2(0)"_s, u"Numero del documento"_s, 10, estremi.numero);
+    auto* numero =
+        banco.campi.testo(u"Text2(0)"_s, u"Numero del documento"_s, 10, legame(form, &Estremi::numero));
     banco.legami.lasciato(numero, [&form] { form.lasciaNumero(); });
-    auto* emissione =
-        banco.campi.data(u"text3(1)"_s, u"calendario(1)"_s, u"Data di emissione"_s, estremi.data);
+    auto* emissione = banco.campi.data(u"text3(1)"_s, u"calendario(1)"_s, u"Data di emissione"_s,
+                                       legame(form, &Estremi::data));
     banco.legami.lasciato(emissione->campo(), [&form] { form.lasciaData(); });
-    auto* registrazione =
-        banco.campi.data(u"text3(2)"_s, u"calendario(2)"_s, u"Data di registrazione"_s, estremi.datareg);
-    auto* protocollo =
-        banco.campi.importo(u"Text2(3)"_s, u"Numero di protocollo personalizzato"_s, estremi.protocollo);
-    auto* registro = banco.campi.lista(u"Combo5"_s, u"Numero registro iva"_s,
-                                       u"0 1 2 3 4 5 6 7 8 9"_s.split(u' '), estremi.registro);
-    auto* esig = banco.campi.spunta(u"esig"_s, u"Documento con iva ad esigibilità differita"_s, estremi.esig);
+    auto* registrazione = banco.campi.data(u"text3(2)"_s, u"calendario(2)"_s, u"Data di registrazione"_s,
+                                           legame(form, &Estremi::datareg));
+    auto* protocollo = banco.campi.importo(u"Text2(3)"_s, u"Numero di protocollo personalizzato"_s,
+                                           legame(form, &Estremi::protocollo));
+    auto* registro =
+        banco.campi.lista(u"Combo5"_s, u"Numero registro iva"_s, u"0 1 2 3 4 5 6 7 8 9"_s.split(u' '),
+                          legame(form, &Estremi::registro));
+    auto* esig = banco.campi.spunta(u"esig"_s, u"Documento con iva ad esigibilità differita"_s,
+                                    legame(form, &Estremi::esig));
     banco.legami.abilitato(esig, [&form] { return form.esigAbilitato(); });
 
     riga(griglia, 0, u"Numero del documento"_s, numero);
@@ -61,15 +63,15 @@ RiquadroTea creaRicavi(const BancoTea& banco) {
     gruppo->setObjectName(u"Frame3"_s);
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(7);
-    Estremi& estremi = banco.form.estremi();
-    const QStringList voci = banco.form.ricavi();
+    Borftea& form = banco.form;
+    const QStringList voci = form.voci(Borftea::Lista::Ricavi);
     const QString principale = u"Tipo di documento (voce di ricavo principale)"_s;
     const QString scorpora = u"Scorpora e attribusci l'importo alla diversa voce"_s;
-    auto* voce1 = banco.campi.lista(u"Combo2"_s, principale, voci, estremi.voce1);
-    auto* voce2 = banco.campi.lista(u"Combo3"_s, scorpora, voci, estremi.voce2);
-    auto* quota2 = banco.campi.importo(u"Text2(5)"_s, scorpora, estremi.quota2);
-    auto* voce3 = banco.campi.lista(u"Combo4"_s, scorpora, voci, estremi.voce3);
-    auto* quota3 = banco.campi.importo(u"Text2(6)"_s, scorpora, estremi.quota3);
+    auto* voce1 = banco.campi.lista(u"Combo2"_s, principale, voci, legame(form, &Estremi::voce1));
+    auto* voce2 = banco.campi.lista(u"Combo3"_s, scorpora, voci, legame(form, &Estremi::voce2));
+    auto* quota2 = banco.campi.importo(u"Text2(5)"_s, scorpora, legame(form, &Estremi::quota2));
+    auto* voce3 = banco.campi.lista(u"Combo4"_s, scorpora, voci, legame(form, &Estremi::voce3));
+    auto* quota3 = banco.campi.importo(u"Text2(6)"_s, scorpora, legame(form, &Estremi::quota3));
     griglia->addWidget(didascalia(principale, voce1), 0, 0, Qt::AlignRight | Qt::AlignVCenter);
     griglia->addWidget(voce1, 0, 1, 1, 2);
     riga(griglia, 1, scorpora, voce2);

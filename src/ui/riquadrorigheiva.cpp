@@ -1,10 +1,10 @@
 // The VAT rows of a document: eight of the twelve in view.
+#include "ui/cursorerighe.h"
 #include "ui/riquadritea.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QScrollBar>
 
 #include <array>
 #include <vector>
@@ -54,7 +54,8 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
     std::vector<QWidget*> percorso;
     for (const ColonnaIva& c : colonne)
         griglia->addWidget(new QLabel(c.descrizione.toString()), 0, c.colonna, Qt::AlignRight);
-    for (int i = 0; i < Borftea::righeVisibili; ++i) {
+    const int linee = form.finestra().linee();
+    for (int i = 0; i < linee; ++i) {
         auto* iv = etichetta(banco, indicizzato(u"iv", i), u"Non imponibile art. 8"_s,
                              [&form, i] { return form.etichettaIva(i); });
         auto* es = etichetta(banco, indicizzato(u"es", i), u"Art. 17 c. 6 DPR 633/72"_s,
@@ -72,17 +73,10 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
             percorso.push_back(casella);
         }
     }
-    auto* cursore = new QScrollBar(Qt::Vertical);
-    cursore->setObjectName(u"VScroll1"_s);
-    cursore->setAccessibleName(u"Prima riga visibile"_s);
-    cursore->setRange(1, Borftea::ultimaPosizione);
-    cursore->setPageStep(Borftea::righeVisibili);
-    banco.legami.cursore(
-        cursore, [&form] { return form.primariga(); }, [&form](int v) { form.scorri(v); });
-    griglia->addWidget(cursore, 1, 5, Borftea::righeVisibili, 1);
+    griglia->addWidget(cursoreRighe(banco.legami, form, u"Prima riga visibile"_s), 1, 5, linee, 1);
     griglia->setColumnStretch(0, 3);
     griglia->setColumnStretch(3, 4);
-    griglia->setRowStretch(Borftea::righeVisibili + 1, 1);
+    griglia->setRowStretch(linee + 1, 1);
     banco.invio.catena(percorso);
     return {gruppo, percorso.front(), percorso.back()};
 }

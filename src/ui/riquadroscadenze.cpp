@@ -20,13 +20,15 @@ std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia) {
     constexpr int perColonna = 3;
     constexpr int colonneRata = 4; // number, date, amount, gap
     std::vector<QWidget*> percorso;
-    auto& rate = banco.form.scadenze().rate;
-    for (int i = 0; i < std::ssize(rate); ++i) {
-        Rata& rata = rate[static_cast<std::size_t>(i)];
+    const auto rata = [&](int i, QString Rata::*testo) {
+        return legame(banco.form, &Scadenze::rate, i, testo);
+    };
+    for (int i = 0; i < std::ssize(banco.form.dato(&Scadenze::rate)); ++i) {
         const QString quale = u"%1' rata"_s.arg(i + 1);
         auto* data = banco.campi.data(indicizzato(u"dsca", i), indicizzato(u"ddsca", i),
-                                      u"Data scadenza, "_s + quale, rata.scadenza);
-        auto* importo = banco.campi.importo(indicizzato(u"sca", i), u"Importo, "_s + quale, rata.importo);
+                                      u"Data scadenza, "_s + quale, rata(i, &Rata::scadenza));
+        auto* importo =
+            banco.campi.importo(indicizzato(u"sca", i), u"Importo, "_s + quale, rata(i, &Rata::importo));
         // The room goes to the VAT rows.
         importo->setMinimumWidth(importo->fontMetrics().horizontalAdvance(u"-1000000.00 "_s));
         const int colonna = i / perColonna * colonneRata;
@@ -49,13 +51,11 @@ QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso)
     auto* linea = new QHBoxLayout(insieme);
     linea->setContentsMargins(0, 0, 0, 0);
     Borftea& form = banco.form;
-    auto* aliquota = new CampoTesto(u"pro(0)"_s, u"Provvigione agente: Aliquota"_s, 4);
+    auto* aliquota = banco.campi.testo(u"pro(0)"_s, u"Provvigione agente: Aliquota"_s, 4,
+                                       legame(form, &Scadenze::provaliq));
     aliquota->setAlignment(Qt::AlignRight);
-    banco.legami.testo(
-        aliquota, [&form] { return form.scadenze().provaliq; },
-        [&form](const QString& testo) { form.cambiaAliquotaProvvigione(testo); });
     auto* importo =
-        banco.campi.importo(u"pro(1)"_s, u"Provvigione agente: Importo"_s, form.scadenze().provimp);
+        banco.campi.importo(u"pro(1)"_s, u"Provvigione agente: Importo"_s, legame(form, &Scadenze::provimp));
     for (QWidget* campo : {static_cast<QWidget*>(aliquota), static_cast<QWidget*>(importo)})
         campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     linea->addWidget(new QLabel(u"Provvigione agente"_s));
@@ -79,11 +79,9 @@ RiquadroTea creaScadenze(const BancoTea& banco) {
     colonna->setSpacing(8);
     Borftea& form = banco.form;
     const QString modo = u"Modalità di pagamento"_s;
-    auto* pagamento = listaTea(u"Combo1"_s, modo, form.pagamenti());
-    banco.legami.lista(
-        pagamento, [&form] { return form.scadenze().pagamento; },
-        [&form](int posizione) { form.cambiaPagamento(posizione); });
-    auto* rib = banco.campi.spunta(u"rib"_s, u"Emissione Ri.Ba."_s, form.scadenze().rib);
+    auto* pagamento = banco.campi.lista(u"Combo1"_s, modo, form.voci(Borftea::Lista::Pagamenti),
+                                        legame(form, &Scadenze::pagamento));
+    auto* rib = banco.campi.spunta(u"rib"_s, u"Emissione Ri.Ba."_s, legame(form, &Scadenze::rib));
     auto* testa = new QHBoxLayout;
     testa->addWidget(didascalia(modo, pagamento));
     testa->addWidget(pagamento, 1);

@@ -85,12 +85,13 @@ QWidget* VistaBorftea::creaScelta() {
 QWidget* VistaBorftea::creaTotali() {
     auto* riquadro = new QGroupBox(u"Totali"_s);
     auto* griglia = new QGridLayout(riquadro);
+    // In the order of `Borftea::Totale`.
     const QStringList testi = {u"Imponibile"_s, u"Imposta"_s, u"Importi in esenzione iva"_s,
                                u"Importo complessivo documento"_s};
     for (int i = 0; i < testi.size(); ++i) {
         auto* casella = new CampoTesto(indicizzato(u"total", i), testi[i], 24);
         casella->setAlignment(Qt::AlignRight);
-        legami.testo(casella, [this, i] { return m_form.totale(i); });
+        legami.testo(casella, [this, i] { return m_form.totale(static_cast<Borftea::Totale>(i)); });
         riga(griglia, i, testi[i], casella);
         if (i + 1 == testi.size()) {
             griglia->itemAtPosition(i, 0)->widget()->setObjectName(u"Label1(14)"_s);
@@ -105,9 +106,8 @@ QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
     auto* barra = new QWidget;
     auto* linea = new QHBoxLayout(barra);
     linea->setContentsMargins(0, 0, 0, 0);
-    Estremi& estremi = m_form.estremi();
     const QString documento = u"Documento in formato PDF"_s;
-    auto* pdf = banco.campi.testo(u"pdf"_s, documento, caratteriPdf, estremi.pdf);
+    auto* pdf = banco.campi.testo(u"pdf"_s, documento, caratteriPdf, legame(m_form, &Estremi::pdf));
     auto* etichetta = didascalia(documento, pdf);
     etichetta->setObjectName(u"Label2"_s);
     linea->addWidget(etichetta);
@@ -117,22 +117,19 @@ QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
     scelta->setObjectName(u"Picture1"_s);
     auto* bottoni = new QHBoxLayout(scelta);
     bottoni->setContentsMargins(0, 0, 0, 0);
-    const auto bottone = [&](int i, const QString& testo, const QString& tasto,
-                             std::function<void()> azione) {
+    const auto bottone = [&](int i, const QString& testo, const QString& tasto, Comando quale) {
         auto* b = new BottoneComando(indicizzato(u"command3d2", i), testo, {}, QKeySequence(tasto));
-        legami.comando(b, std::move(azione));
+        legami.comando(b, [this, quale] { m_form.esegui(quale); });
+        legami.abilitato(b, [this, quale] { return m_form.abilitato(quale); });
         bottoni->addWidget(b);
-        return b;
     };
-    auto* scegli = bottone(0, u"Scegli il file PDF"_s, u"Ctrl+O"_s, [this] { m_form.scegliPdf(); });
-    auto* apri = bottone(1, u"Apri"_s, u"Ctrl+P"_s, [this] { m_form.apripdf(); });
-    legami.abilitato(scegli, [this] { return m_form.scegliPdfAbilitato(); });
-    legami.abilitato(apri, [&estremi] { return !estremi.pdf.trimmed().isEmpty(); });
+    bottone(0, u"Scegli il file PDF"_s, u"Ctrl+O"_s, Comando::ScegliPdf);
+    bottone(1, u"Apri"_s, u"Ctrl+P"_s, Comando::ApriPdf);
     legami.visibile(scelta, [this] { return m_form.pdfVisibile(); });
     linea->addWidget(scelta);
     linea->addSpacing(16);
-    linea->addWidget(
-        banco.campi.spunta(u"postael"_s, u"Invia il documento per posta elettronica"_s, estremi.postael));
+    linea->addWidget(banco.campi.spunta(u"postael"_s, u"Invia il documento per posta elettronica"_s,
+                                        legame(m_form, &Estremi::postael)));
     return barra;
 }
 
@@ -240,7 +237,7 @@ QString VistaBorftea::titolo() const {
 void VistaBorftea::keyPressEvent(QKeyEvent* evento) {
     const int tasto = evento->key();
     if (tasto == Qt::Key_PageDown || tasto == Qt::Key_PageUp)
-        legami.esegui([&] { m_form.scorri(tasto == Qt::Key_PageDown ? Borftea::ultimaPosizione : 1); });
+        legami.esegui([&] { m_form.scorri(tasto == Qt::Key_PageDown ? m_form.finestra().ultima() : 1); });
     else
         Vista::keyPressEvent(evento);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/barracomandi.h"
 #include "ui/campi.h"
+#include "ui/legame.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -56,13 +57,12 @@ QWidget* VistaBorftec::creaTestata() {
     auto* giorno = new CampoData(u"Text2"_s, u"calendario"_s, u"Data del movimento"_s);
     auto* descrizione = new CampoTesto(u"Text1(0)"_s, u"Descrizione"_s, 40);
     auto* riferimento = new CampoTesto(u"Text1(1)"_s, u"Riferimento"_s, 20);
-    const auto aggiungi = [&](const QString& testo, QWidget* widget, QLineEdit* campo,
+    const auto aggiungi = [&](const QString& nome, QWidget* widget, QLineEdit* campo,
                               QString Movimento::*dato) {
-        riga->addWidget(didascalia(testo, campo));
+        riga->addWidget(didascalia(nome, campo));
         riga->addWidget(widget);
-        legami.testo(
-            campo, [this, dato] { return m_form.testi().*dato; },
-            [this, dato](const QString& t) { m_form.testi().*dato = t; });
+        const auto testo = legame(m_form, dato);
+        legami.testo(campo, testo.leggi, testo.scrivi);
     };
     aggiungi(u"Data"_s, giorno, giorno->campo(), &Movimento::data);
     aggiungi(u"Descrizione"_s, descrizione, descrizione, &Movimento::descrizione);

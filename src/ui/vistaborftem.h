@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/borftem.h"
+#include "ui/campilegati.h"
 #include "ui/vista.h"
 
 #include <array>
@@ -45,19 +46,19 @@ private:
     void collegaPercorsi(const Percorso& cliente);
 
     /// A box for one text of the head.
+    template <class... Membri>
     QLineEdit* campo(Percorso& percorso, const QString& nome, const QString& didascalia, int caratteri,
-                     QString& dove);
+                     Membri... membri);
     QComboBox* lista(Percorso& percorso, const QString& nome, const QString& didascalia,
-                     const QStringList& voci, int& dove);
-    QComboBox* lista(Percorso& percorso, const QString& nome, const QString& didascalia,
-                     const QStringList& voci, std::function<int()> leggi, std::function<void(int)> scrivi);
+                     const QStringList& voci, const Legame<int>& dato);
     /// One account: three boxes from `Text2(indice)` on.
     void conto(QGridLayout* griglia, int numero, Percorso& percorso, int indice, const QString& didascalia,
-               ContoTesti& dove);
+               ContoTesti DatiCliente::*dato);
     QGroupBox* riquadro(const QString& nome, const QString& titolo, RiquadroTestata quale);
     Percorso& percorso(RiquadroTestata quale) { return m_percorsi[static_cast<std::size_t>(quale)]; }
 
     Borftem& m_form;
+    CampiLegati m_campi{legami};
     std::array<Percorso, 3> m_percorsi; ///< by `RiquadroTestata`
     std::array<QRadioButton*, 3> m_mezzo{};
     QLineEdit* m_nome = nullptr;

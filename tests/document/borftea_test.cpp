@@ -70,12 +70,12 @@ TEST_F(DocumentForm, NuovoDocumento_NumeriDateECliente) {
     documento.coppia.fte.parcella = 1;
     nuovo(1);
     EXPECT_EQ(form.titolo(), u"Memorizzazione nota di credito emessa");
-    EXPECT_EQ(form.estremi().numero, u"42");
-    EXPECT_EQ(form.estremi().protocollo, u"2");
-    EXPECT_EQ(form.estremi().data + form.estremi().datareg, u"15/03/201515/03/2015");
-    EXPECT_TRUE(form.estremi().esig && form.estremi().postael && form.scadenze().rib);
-    EXPECT_EQ(form.scadenze().rate[0].scadenza, u"15/04/2015");
-    EXPECT_EQ(form.scadenze().rate[0].importo, u"") << "no split before there are amounts";
+    EXPECT_EQ(documento.estremi.numero, u"42");
+    EXPECT_EQ(documento.estremi.protocollo, u"2");
+    EXPECT_EQ(documento.estremi.data + documento.estremi.datareg, u"15/03/201515/03/2015");
+    EXPECT_TRUE(documento.estremi.esig && documento.estremi.postael && documento.scadenze.rib);
+    EXPECT_EQ(documento.scadenze.rate[0].scadenza, u"15/04/2015");
+    EXPECT_EQ(documento.scadenze.rate[0].importo, u"") << "no split before there are amounts";
     EXPECT_EQ(documento.testata.cliente.email, u"typed@in.head");
     EXPECT_EQ(documento.ddd[0].descrizione, u"");
     EXPECT_EQ(documento.coppia.fte.parcella, 0);
@@ -98,19 +98,19 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     EXPECT_EQ(sessione.tipoparcella, 1);
     EXPECT_TRUE(form.abilitato(Comando::Elimina) && form.abilitato(Comando::Testata));
     EXPECT_EQ(documento.testata.cliente.sede.ragione1, u"Rossi");
-    EXPECT_TRUE(form.estremi().esig);
-    form.estremi().numero = u"8"_s;
+    EXPECT_TRUE(documento.estremi.esig);
+    form.cambia(u"8"_s, &Estremi::numero);
     form.attiva();
-    EXPECT_EQ(form.estremi().numero, u"8") << "a form still open is not filled again";
+    EXPECT_EQ(documento.estremi.numero, u"8") << "a form still open is not filled again";
 
     form.esegui(Comando::Righe);
     EXPECT_EQ(documento.coppia.fte.nfile, -1.0F);
     form.scorri(5);
     contesto.tabelle.esenzioni[0][1].clear();
     form.attiva();
-    EXPECT_EQ(form.estremi().numero, u"8");
-    EXPECT_EQ(form.primariga(), 1);
-    EXPECT_FALSE(form.estremi().esig) << "the regime forbids it";
+    EXPECT_EQ(documento.estremi.numero, u"8");
+    EXPECT_EQ(form.finestra().prima(), 1);
+    EXPECT_FALSE(documento.estremi.esig) << "the regime forbids it";
     form.esegui(Comando::Esci);
     EXPECT_EQ(contesto.navigatore.mostrati, (QList{Schermo::Borftek, Schermo::Borfte}));
     EXPECT_FALSE(sessione.documentoletto || sessione.righelette);
@@ -121,7 +121,7 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     EXPECT_EQ(form.titolo(), u"Modifica dati fatturaPA emessa");
     EXPECT_EQ(sessione.recordfpa, 3);
     EXPECT_TRUE(form.abilitato(Comando::FatturaPa));
-    EXPECT_EQ(form.scadenze().pagamento, -1) << "what a document has does not come from the customer";
+    EXPECT_EQ(documento.scadenze.pagamento, -1) << "what a document has does not come from the customer";
     form.esegui(Comando::Righe);
     EXPECT_EQ(contesto.navigatore.mostrati.last(), Schermo::Borftex);
 }
@@ -136,10 +136,10 @@ TEST_F(DocumentForm, RigheIva_EtichetteScorrimentoETotali) {
     EXPECT_EQ(form.etichettaIva(1), u"Non definito") << "a caption of one character is none";
     EXPECT_EQ(form.etichettaEsente(1), u"Art. 15");
     EXPECT_EQ(form.etichettaIva(4), u"Cessioni UE");
-    EXPECT_EQ(form.totale(3), u" ");
+    EXPECT_EQ(form.totale(Borftea::Totale::Documento), u" ");
     form.cambiaImporto(1, VoceIva::Imponibile, u"1000,505"_s);
     form.scorri(9);
-    EXPECT_EQ(form.primariga(), 5);
+    EXPECT_EQ(form.finestra().prima(), 5);
     EXPECT_EQ(form.etichettaIva(0), u"Cessioni UE");
     form.cambiaImporto(7, VoceIva::Esente, u"50"_s);
     form.cambiaImporto(7, VoceIva::Imposta, u"2x"_s);
@@ -147,51 +147,51 @@ TEST_F(DocumentForm, RigheIva_EtichetteScorrimentoETotali) {
     EXPECT_EQ(double{documento.coppia.f2e.esen[3]}, 50);
     EXPECT_EQ(form.importo(7, VoceIva::Esente), u"50");
     EXPECT_EQ(form.importo(6, VoceIva::Esente), u"");
-    EXPECT_EQ(form.totale(0), u" 1.000,51");
-    EXPECT_EQ(form.totale(1), u" 2,00");
-    EXPECT_EQ(form.totale(2), u" 50,00");
-    EXPECT_EQ(form.totale(3), u" 1.052,51");
-    EXPECT_EQ(form.scadenze().rate[0].importo, u"1052.505");
-    form.cambiaRitenuta(2, u"52.5"_s);
-    EXPECT_EQ(form.scadenze().rate[0].importo, u"1000.005");
-    form.scadenze().rate[0].importo = u"900"_s;
-    form.cambiaAliquotaProvvigione(u"10"_s);
-    EXPECT_EQ(form.scadenze().provimp, u"105.05");
-    EXPECT_EQ(form.scadenze().rate[0].importo, u"900") << "a typed instalment stands";
+    EXPECT_EQ(form.totale(Borftea::Totale::Imponibile), u" 1.000,51");
+    EXPECT_EQ(form.totale(Borftea::Totale::Imposta), u" 2,00");
+    EXPECT_EQ(form.totale(Borftea::Totale::Esente), u" 50,00");
+    EXPECT_EQ(form.totale(Borftea::Totale::Documento), u" 1.052,51");
+    EXPECT_EQ(documento.scadenze.rate[0].importo, u"1052.505");
+    form.cambia(u"52.5"_s, &Prospetti::ritenute, 2, &Ritenuta::raimp);
+    EXPECT_EQ(documento.scadenze.rate[0].importo, u"1000.005");
+    form.cambia(u"900"_s, &Scadenze::rate, 0, &Rata::importo);
+    form.cambia(u"10"_s, &Scadenze::provaliq);
+    EXPECT_EQ(documento.scadenze.provimp, u"105.05");
+    EXPECT_EQ(documento.scadenze.rate[0].importo, u"900") << "a typed instalment stands";
     contesto.tabelle.tipopagamenti[2][1] = u"001002"_s;
-    form.cambiaPagamento(1);
-    EXPECT_EQ(form.scadenze().rate[0].importo, u"500.005");
-    EXPECT_EQ(form.scadenze().rate[1].importo, u"500");
-    EXPECT_EQ(form.scadenze().rate[1].scadenza, u"15/05/2015");
+    form.cambia(1, &Scadenze::pagamento);
+    EXPECT_EQ(documento.scadenze.rate[0].importo, u"500.005");
+    EXPECT_EQ(documento.scadenze.rate[1].importo, u"500");
+    EXPECT_EQ(documento.scadenze.rate[1].scadenza, u"15/05/2015");
 }
 
 TEST_F(DocumentForm, UscitaDallaDataDiEmissione) {
     nuovo();
-    form.estremi().data = u"31122015"_s;
-    form.estremi().datareg = u"mai"_s;
+    form.cambia(u"31122015"_s, &Estremi::data);
+    form.cambia(u"mai"_s, &Estremi::datareg);
     form.lasciaData();
-    EXPECT_EQ(form.estremi().data, u"31/12/2015");
-    EXPECT_EQ(form.estremi().datareg, u"31/12/2015");
-    EXPECT_EQ(form.scadenze().rate[0].scadenza, u"31/01/2016");
-    EXPECT_EQ(form.prospetti().terminemese + form.prospetti().termineanno, u"122016");
-    form.estremi().data = u"31/02/2016"_s;
+    EXPECT_EQ(documento.estremi.data, u"31/12/2015");
+    EXPECT_EQ(documento.estremi.datareg, u"31/12/2015");
+    EXPECT_EQ(documento.scadenze.rate[0].scadenza, u"31/01/2016");
+    EXPECT_EQ(documento.prospetti.terminemese + documento.prospetti.termineanno, u"122016");
+    form.cambia(u"31/02/2016"_s, &Estremi::data);
     form.lasciaData();
-    EXPECT_EQ(form.scadenze().rate[0].scadenza, u"31/01/2016");
-    form.estremi().data = u"01/03/2016"_s;
+    EXPECT_EQ(documento.scadenze.rate[0].scadenza, u"31/01/2016");
+    form.cambia(u"01/03/2016"_s, &Estremi::data);
     form.lasciaData();
-    EXPECT_EQ(form.estremi().datareg, u"31/12/2015") << "a valid date stays";
+    EXPECT_EQ(documento.estremi.datareg, u"31/12/2015") << "a valid date stays";
 }
 
 TEST_F(DocumentForm, AvvisoSulNumeroCambiato) {
     nuovo();
-    form.estremi().numero = u"99"_s;
+    form.cambia(u"99"_s, &Estremi::numero);
     form.lasciaNumero();
     EXPECT_EQ(testi(), QStringList()) << "a new document has no PDF yet";
     esistente(documentoDi(cliente, u"7"_s, 100, 22));
-    form.estremi().numero = u" 7 "_s;
+    form.cambia(u" 7 "_s, &Estremi::numero);
     form.lasciaNumero();
     EXPECT_EQ(testi(), QStringList());
-    form.estremi().numero = u"8"_s;
+    form.cambia(u"8"_s, &Estremi::numero);
     form.lasciaNumero();
     form.lasciaNumero();
     EXPECT_EQ(
@@ -245,7 +245,7 @@ TEST_F(DocumentForm, DopoIlSalvataggio) {
     form.esegui(Comando::Salva);
     EXPECT_TRUE(contesto.navigatore.mostrati.isEmpty() && sessione.documentoletto);
     EXPECT_EQ(form.prendiFuoco()->indice, 3);
-    form.scadenze().rate[3].scadenza = u"30/04/2015"_s;
+    form.cambia(u"30/04/2015"_s, &Scadenze::rate, 3, &Rata::scadenza);
     contesto.operatore.risposte = {true};
     form.esegui(Comando::Salva);
     EXPECT_TRUE(sessione.listadaaggiornare);

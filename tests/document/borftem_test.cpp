@@ -77,7 +77,7 @@ TEST_F(HeadForm, DocumentoEsistente_TieneCioCheSiScriveSopra) {
     EXPECT_EQ(form.riquadro(), RiquadroTestata::Spedizione);
     contesto.sessione.tipoparcella = 1;
     EXPECT_EQ(form.riquadro(), RiquadroTestata::Pratica);
-    form.testata().cliente.email = u"nuova@esempio.it"_s;
+    form.cambia(u"nuova@esempio.it"_s, &DatiCliente::email);
     form.avanti();
     form.attiva();
     EXPECT_EQ(documento.testata.cliente.email, u"nuova@esempio.it");

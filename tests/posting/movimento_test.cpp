@@ -162,10 +162,10 @@ TEST_F(MovimentoTest, ScriveGiornaleESaldiEPoiSostituisceSulPosto) {
 TEST_F(MovimentoTest, DataEContiSbagliatiNonScrivonoNulla) {
     form.prepara(setfat(documento, prova.contesto));
     form.attiva();
-    form.testi().data = u"31/02/2015"_s;
+    form.cambia(u"31/02/2015"_s, &Movimento::data);
     form.salva();
     EXPECT_EQ(prova.operatore.messaggi.back().testo, u"La data del movimento non è valida"_s);
-    form.testi().data = u"28/02/2015"_s;
+    form.cambia(u"28/02/2015"_s, &Movimento::data);
     form.salva();
     EXPECT_EQ(prova.operatore.messaggi.back().testo, u"Uno o più conti selezionati non esistono"_s);
     EXPECT_TRUE(azienda.leggi(u"borlano.gio"_s).isEmpty());
