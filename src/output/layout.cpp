@@ -9,6 +9,14 @@ namespace bor {
 namespace {
 
 constexpr std::size_t rigaModello = 99;
+constexpr int cifreCoordinata = 3;
+
+/// Where `borlano.pdf` has the folder, and the e-mail's text of each kind of document.
+constexpr std::size_t rigaCartella = 1;
+constexpr std::size_t rigaFattura = 1;
+constexpr std::size_t rigaParcella = 3;
+constexpr std::size_t colonnaCartella = 0;
+constexpr std::size_t colonnaTesto = 3;
 
 VoceLayout leggiVoce(FileTesto& file) {
     VoceLayout voce;
@@ -31,11 +39,11 @@ VoceLayout vocePredefinita() {
 } // namespace
 
 double VoceLayout::x() const {
-    return valore(pezzo(posizione, 1, 3));
+    return valore(pezzo(posizione, 1, cifreCoordinata));
 }
 
 double VoceLayout::y() const {
-    return valore(posizione.right(3));
+    return valore(posizione.right(cifreCoordinata));
 }
 
 Layout caricaLayout(const Archivio& archivio, bool parcella) {
@@ -50,12 +58,12 @@ Layout caricaLayout(const Archivio& archivio, bool parcella) {
 }
 
 QString TestiPdf::cartella() const {
-    const QString scelta = righe[1][0].trimmed();
+    const QString scelta = righe[rigaCartella][colonnaCartella].trimmed();
     return scelta.isEmpty() ? QStringLiteral("\\suprok\\pdf") : scelta;
 }
 
 QString TestiPdf::testo(bool parcella) const {
-    return righe[parcella ? 3 : 1][3].trimmed();
+    return righe[parcella ? rigaParcella : rigaFattura][colonnaTesto].trimmed();
 }
 
 TestiPdf caricaTestiPdf(const Archivio& archivio) {

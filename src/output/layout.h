@@ -26,6 +26,8 @@ struct VoceLayout {
 struct Layout {
     std::array<VoceLayout, 101> voci;
     bool modello = false; ///< the page template is drawn under the items
+
+    const VoceLayout& voce(int numero) const { return voci[static_cast<std::size_t>(numero)]; }
 };
 
 /// A layout file that cannot be read whole gives a page on which no item has a place.

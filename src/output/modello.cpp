@@ -42,8 +42,9 @@ OggettoModello leggiOggetto(FileTesto& file) {
     o.testo = file.linea();
     o.carattere = file.linea().trimmed();
     const int tipo = valoreIntero(file.campo());
-    if (tipo >= 1 && tipo <= 4)
-        o.tipo = static_cast<OggettoModello::Tipo>(tipo);
+    using Tipo = OggettoModello::Tipo;
+    if (tipo > static_cast<int>(Tipo::Nessuno) && tipo <= static_cast<int>(Tipo::Immagine))
+        o.tipo = static_cast<Tipo>(tipo);
     o.x1 = valore(file.campo());
     o.y1 = valore(file.campo());
     o.x2 = valore(file.campo());
@@ -66,13 +67,13 @@ bool riquadroPieno(const OggettoModello& o) {
     return o.tipo == OggettoModello::Tipo::Riquadro && o.misura == 1.0;
 }
 
-void disegna(const OggettoModello& o, int tipo, Foglio& foglio) {
+void disegna(const OggettoModello& o, bool notaCredito, Foglio& foglio) {
     if (o.tipo == OggettoModello::Tipo::Riquadro && o.misura == 0.0)
         foglio.riquadro(o.x1, o.y1, o.x2, o.y2, o.colore, false);
     if (o.tipo == OggettoModello::Tipo::Linea)
         foglio.linea(o.x1, o.y1, o.x2, o.y2, o.colore);
     if (o.tipo == OggettoModello::Tipo::Testo) {
-        const bool nota = tipo == 1 && o.testo.trimmed().toUpper() == u"FATTURA NUMERO";
+        const bool nota = notaCredito && o.testo.trimmed().toUpper() == u"FATTURA NUMERO";
         foglio.testo(o.x1, o.y1, nota ? u"Nota credito numero"_s : o.testo,
                      {o.carattere, o.misura, o.grassetto, o.corsivo}, o.colore);
     }
@@ -93,7 +94,7 @@ Modello caricamodello(const Archivio& archivio, CodiceModello codice) {
     return modello;
 }
 
-void disegnamodello(Modello& modello, int tipo, Foglio& foglio) {
+void disegnamodello(Modello& modello, bool notaCredito, Foglio& foglio) {
     for (const OggettoModello& o : modello) {
         if (o.tipo == OggettoModello::Tipo::Immagine)
             foglio.immagine(o.x1, o.y1, o.x2, o.y2, o.testo.trimmed());
@@ -104,7 +105,7 @@ void disegnamodello(Modello& modello, int tipo, Foglio& foglio) {
             foglio.riquadro(o.x1, o.y1, o.x2, o.y2, o.colore, true);
     }
     for (const OggettoModello& o : modello)
-        disegna(o, tipo, foglio);
+        disegna(o, notaCredito, foglio);
 }
 
 } // namespace bor

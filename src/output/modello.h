@@ -43,8 +43,8 @@ enum class CodiceModello {
 Modello caricamodello(const Archivio& archivio, CodiceModello codice);
 
 /// Draws pictures first, then filled boxes, then the rest. Objects are kept within an A4 page from then on:
-/// the pictures of the first page alone stand where the file has them. In a credit note (`tipo` 1) the text
+/// the pictures of the first page alone stand where the file has them. In a credit note the text
 /// "Fattura numero" becomes that of a credit note.
-void disegnamodello(Modello& modello, int tipo, Foglio& foglio);
+void disegnamodello(Modello& modello, bool notaCredito, Foglio& foglio);
 
 } // namespace bor

@@ -1,7 +1,5 @@
 #include "output/pagina.h"
 
-#include "common/numeri.h"
-#include "common/testo.h"
 #include "output/foglio.h"
 
 #include <algorithm>
@@ -11,55 +9,48 @@ namespace bor {
 
 namespace {
 
-constexpr double passo = 4; ///< millimetres from a line to the next
-constexpr int ultimaLinea = 499;
+constexpr double passo = 4;      ///< millimetres from a line to the next
+constexpr int ultimaLinea = 499; ///< the last of 500 goods lines has never been printed
 
-/// The first three digits of a layout row: the y of an edge of the body.
-double bordo(const Layout& layout, std::size_t riga) {
-    return layout.voci[riga].x();
+/// The y of an edge of the body stands where other layout rows have their x.
+double bordo(const Layout& layout, int riga) {
+    return layout.voce(riga).x();
 }
 
-void scrivi(const VoceLayout& voce, double y, const TestoVoce& testo, Foglio& foglio) {
-    if (testo.testo.isEmpty() || voce.x() <= 0 || y <= 0)
+void scrivi(const VoceLayout& voce, double y, const QString& testo, bool aDestra, Foglio& foglio) {
+    if (testo.isEmpty() || voce.x() <= 0 || y <= 0)
         return;
-    if (testo.adestra)
-        foglio.testoADestra(voce.x(), y, testo.testo, voce.carattere, voce.colore);
+    if (aDestra)
+        foglio.testoADestra(voce.x(), y, testo, voce.carattere, voce.colore);
     else
-        foglio.testo(voce.x(), y, testo.testo, voce.carattere, voce.colore);
+        foglio.testo(voce.x(), y, testo, voce.carattere, voce.colore);
 }
 
-void disegnaVoci(const Layout& layout, const Pianta& pianta, const ContenutoPagina& contenuto,
-                 bool ultimaPagina, Foglio& foglio) {
-    for (int i = 1; i <= pianta.voci; ++i) {
-        if (!ultimaPagina && i >= pianta.primaUltima && i <= pianta.ultimaUltima)
-            continue;
-        const VoceLayout& voce = layout.voci[static_cast<std::size_t>(i)];
-        const int iva = i - pianta.primaRigaIva;
-        if (iva < 0 || iva >= 7) {
-            scrivi(voce, voce.y(), contenuto.voce(i), foglio);
-            continue;
-        }
+void disegnaGruppo(const Layout& layout, const GruppoVoci& gruppo, const QStringList& testi, Foglio& foglio) {
+    for (int i = 0; i < gruppo.quante; ++i) {
+        const VoceLayout& voce = layout.voce(gruppo.prima + i);
         if (voce.y() <= 0)
             continue;
+        const bool aDestra = gruppo.lato == Lato::Destra || (gruppo.lato == Lato::Coppie && i % 2 == 0);
         double y = voce.y();
-        for (const auto& riga : contenuto.righeIva) {
-            scrivi(voce, y, riga[static_cast<std::size_t>(iva)], foglio);
+        for (qsizetype t = i; t < testi.size(); t += gruppo.quante) {
+            scrivi(voce, y, testi[t], aDestra, foglio);
             y += passo;
         }
     }
 }
 
-void disegnaCorpo(const Layout& layout, const Pianta& pianta, const ContenutoPagina& contenuto, int pagina,
+void disegnaCorpo(const Layout& layout, const Pianta& pianta, const DatiStampa& dati, int pagina,
                   Foglio& foglio) {
     const int perPagina = righePerPagina(layout, pianta);
     for (int r = 1; r <= perPagina; ++r) {
         const int linea = r + perPagina * (pagina - 1);
-        if (linea > std::min(pianta.righe, ultimaLinea))
+        if (linea > std::min(pianta.linee, ultimaLinea))
             break;
         const double y = bordo(layout, pianta.rigaSopra) + passo * (r - 1);
-        for (int j = 1; j <= pianta.colonne; ++j)
-            scrivi(layout.voci[pianta.rigaSopra + 1 + static_cast<std::size_t>(j)], y,
-                   contenuto.cella(linea, j), foglio);
+        for (const Colonna& colonna : pianta.colonne)
+            scrivi(layout.voce(colonna.riga), y, colonna.testo(dati, linea), colonna.lato == Lato::Destra,
+                   foglio);
     }
 }
 
@@ -67,26 +58,32 @@ void disegnaCorpo(const Layout& layout, const Pianta& pianta, const ContenutoPag
 
 int righePerPagina(const Layout& layout, const Pianta& pianta) {
     const double altezza =
-        std::max(std::fabs(bordo(layout, pianta.rigaSopra + 1) - bordo(layout, pianta.rigaSopra)), 1.0);
+        std::max(std::fabs(bordo(layout, pianta.rigaSotto) - bordo(layout, pianta.rigaSopra)), 1.0);
     return std::max(static_cast<int>(altezza / passo), 1);
 }
 
-int pagine(const Layout& layout, const Pianta& pianta, const ContenutoPagina& contenuto) {
-    int ultima = pianta.righe;
-    while (ultima > 0 && !contenuto.usata(ultima))
+int pagine(const Layout& layout, const Pianta& pianta, const DatiStampa& dati) {
+    int ultima = pianta.linee;
+    while (ultima > 0 && pianta.descrizione(dati, ultima).isEmpty())
         --ultima;
     const int perPagina = righePerPagina(layout, pianta);
     return (ultima + perPagina - 1) / perPagina;
 }
 
-void disegnaPagine(const Layout& layout, Modello modello, const Pianta& pianta,
-                   const ContenutoPagina& contenuto, int tipo, Foglio& foglio) {
-    const int quante = pagine(layout, pianta, contenuto);
+void disegnaPagine(const Layout& layout, Modello modello, const Pianta& pianta, const DatiStampa& dati,
+                   Foglio& foglio) {
+    std::vector<QStringList> testi;
+    for (const GruppoVoci& gruppo : pianta.voci)
+        testi.push_back(gruppo.testi(dati));
+    const int quante = pagine(layout, pianta, dati);
     for (int pagina = 1; pagina <= quante; ++pagina) {
         if (layout.modello)
-            disegnamodello(modello, tipo, foglio);
-        disegnaVoci(layout, pianta, contenuto, pagina == quante, foglio);
-        disegnaCorpo(layout, pianta, contenuto, pagina, foglio);
+            disegnamodello(modello, dati.notaCredito, foglio);
+        for (std::size_t i = 0; i < testi.size(); ++i) {
+            if (pianta.voci[i].pagine == SuPagine::Tutte || pagina == quante)
+                disegnaGruppo(layout, pianta.voci[i], testi[i], foglio);
+        }
+        disegnaCorpo(layout, pianta, dati, pagina, foglio);
         foglio.finePagina();
     }
 }

@@ -1,22 +1,19 @@
 #include "output/voci.h"
 
-#include "archive/contesto.h"
+#include "archive/tabelle.h"
 #include "common/numeri.h"
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::voci {
 
 namespace {
 
-constexpr std::size_t codiciIva = 12;
-constexpr qsizetype caratteriEsenzione = 100; ///< what follows them is for the electronic invoice
+constexpr qsizetype lineeIntestazione = 16;
+constexpr int annoDellaData = 7; ///< position of the year in "dd/mm/yyyy"
 
-/// The fields of an address in the order of the items: two name lines, street, postcode, town.
-QString campoSede(const SedeTesti& sede, int indice) {
-    const std::array<const QString*, 5> campi = {&sede.ragione1, &sede.ragione2, &sede.indirizzo, &sede.cap,
-                                                 &sede.citta};
-    return *campi[static_cast<std::size_t>(indice)];
+QStringList campiSede(const SedeTesti& sede) {
+    return {sede.ragione1, sede.ragione2, sede.indirizzo, sede.cap, sede.citta};
 }
 
 QString coordinateBanca(const Cli& cliente) {
@@ -25,109 +22,107 @@ QString coordinateBanca(const Cli& cliente) {
     return parti.join(QString()).isEmpty() ? QString() : parti.join(u'.');
 }
 
-QString numeroStampato(const Documento& documento, const Contesto& contesto) {
-    const bool conAnno = contesto.impostazioni.gnr.annonumero.text() == u"1";
-    return documento.estremi.numero.trimmed() +
-           (conAnno ? u'/' + pezzo(documento.estremi.data, 7) : QString());
-}
-
-QString codiceIva(std::size_t codice) {
-    return zeriDavanti(QString::number(codice), 2);
-}
-
 } // namespace
 
-TestoVoce voceComune(int voce, const Documento& documento, const Contesto& contesto,
-                     const QStringList& intestazione) {
-    const DatiCliente& cliente = documento.testata.cliente;
-    if (voce >= 1 && voce <= 16)
-        return {intestazione.value(voce - 1).trimmed()};
-    if (voce >= 18 && voce <= 22)
-        return {campoSede(cliente.sede, voce - 18)};
-    if (voce >= 25 && voce <= 29)
-        return {campoSede(cliente.amministrazione, voce - 25)};
-    if (voce >= 30 && voce <= 32)
-        return {cliente.telefono[static_cast<std::size_t>(voce - 30)]};
-    switch (voce) {
-    case 17:
-        return {documento.estremi.esig
-                    ? u"'Iva per cassa': documento emesso ai sensi dell'art.32 bis del D.L. 22/6/2012 n.83 "
-                      "convertito dalla L. 7/8/2012 n.134"_s
-                    : QString()};
-    case 23:
-        return {puliscitesto(cliente.nazione.trimmed() + cliente.partitaiva)};
-    case 24:
-        return {cliente.codicefiscale};
-    case 33:
-        return {numeroStampato(documento, contesto)};
-    case 34:
-        return {documento.estremi.data};
-    case 40:
-        return {coordinateBanca(documento.cliente)};
-    case 41:
-        return {documento.cliente.banca.trimmed()};
-    default:
-        return {};
+QStringList intestazione(const DatiStampa& dati) {
+    QStringList linee;
+    for (qsizetype i = 0; i < lineeIntestazione; ++i)
+        linee.append(dati.intestazione.value(i).trimmed());
+    return linee;
+}
+
+QStringList ivaPerCassa(const DatiStampa& dati) {
+    return {dati.documento.estremi.esig
+                ? u"'Iva per cassa': documento emesso ai sensi dell'art.32 bis del D.L. 22/6/2012 n.83 "
+                  "convertito dalla L. 7/8/2012 n.134"_s
+                : QString()};
+}
+
+QStringList sede(const DatiStampa& dati) {
+    return campiSede(dati.documento.testata.cliente.sede);
+}
+
+QStringList codiciFiscali(const DatiStampa& dati) {
+    const DatiCliente& cliente = dati.documento.testata.cliente;
+    return {puliscitesto(cliente.nazione.trimmed() + cliente.partitaiva), cliente.codicefiscale};
+}
+
+QStringList amministrazione(const DatiStampa& dati) {
+    return campiSede(dati.documento.testata.cliente.amministrazione);
+}
+
+QStringList telefoni(const DatiStampa& dati) {
+    const auto& telefono = dati.documento.testata.cliente.telefono;
+    return {telefono.begin(), telefono.end()};
+}
+
+QStringList numeroEData(const DatiStampa& dati) {
+    const Estremi& estremi = dati.documento.estremi;
+    const QString anno = dati.numeroConAnno ? u'/' + pezzo(estremi.data, annoDellaData) : QString();
+    return {estremi.numero.trimmed() + anno, estremi.data};
+}
+
+QStringList bancaCliente(const DatiStampa& dati) {
+    const Cli& cliente = dati.documento.cliente;
+    return {coordinateBanca(cliente), cliente.banca.trimmed()};
+}
+
+QStringList pagamento(const DatiStampa& dati) {
+    const auto riga = static_cast<std::size_t>(dati.documento.scadenze.pagamento + 1);
+    const auto& tipi = dati.tabelle.tipopagamenti;
+    return {riga >= 1 && riga < tipi.size() ? tipi[riga][0].trimmed() : QString()};
+}
+
+QStringList bancaPagamento(const DatiStampa& dati) {
+    return {dati.documento.testata.cliente.banca};
+}
+
+QStringList rate(const DatiStampa& dati, std::size_t prima, std::size_t ultima) {
+    QStringList testi;
+    for (std::size_t i = prima; i <= ultima; ++i) {
+        const Rata& rata = dati.documento.scadenze.rate[i - 1];
+        const double importo = valore(rata.importo);
+        testi << dati.importo(importo) << (importo == 0.0 ? QString() : rata.scadenza);
     }
+    return testi;
 }
 
-TestoVoce voceRata(int indice, const Documento& documento, const Contesto& contesto) {
-    const Rata& rata = documento.scadenze.rate[static_cast<std::size_t>(indice / 2)];
-    if (indice % 2 == 0)
-        return voceImporto(valore(rata.importo), contesto);
-    return {valore(rata.importo) == 0.0 ? QString() : rata.scadenza};
+QStringList ivaCodici(const DatiStampa& dati) {
+    QStringList testi;
+    for (const RigaIvaStampata& riga : dati.righeIva)
+        testi << riga.codice << riga.descrizione;
+    return testi;
 }
 
-TestoVoce voceImporto(double importo, const Contesto& contesto) {
-    return {contesto.valuta().importotesto(importo), true};
+QStringList ivaImporti(const DatiStampa& dati) {
+    QStringList testi;
+    for (const RigaIvaStampata& riga : dati.righeIva)
+        testi << riga.imponibile << riga.aliquota << riga.imposta << riga.esente;
+    return testi;
 }
 
-QString testoPagamento(const Documento& documento, const Contesto& contesto) {
-    const auto riga = static_cast<std::size_t>(documento.scadenze.pagamento + 1);
-    const auto& tipi = contesto.tabelle.tipopagamenti;
-    return riga >= 1 && riga < tipi.size() ? tipi[riga][0].trimmed() : QString();
+QStringList ivaRiferimenti(const DatiStampa& dati) {
+    QStringList testi;
+    for (const RigaIvaStampata& riga : dati.righeIva)
+        testi << riga.riferimento;
+    return testi;
 }
 
-QString testoProvvigione(const Documento& documento, const Contesto& contesto) {
-    const double importo = valore(documento.scadenze.provimp);
-    return importo == 0.0
-               ? QString()
-               : documento.scadenze.provaliq.trimmed() + u"% "_s + contesto.valuta().importotesto(importo);
+QStringList provvigione(const DatiStampa& dati) {
+    const Scadenze& scadenze = dati.documento.scadenze;
+    const double importo = valore(scadenze.provimp);
+    return {importo == 0.0 ? QString() : scadenze.provaliq.trimmed() + u"% "_s + dati.importo(importo)};
 }
 
-QString testoTermine(const Documento& documento) {
-    const Prospetti& p = documento.prospetti;
-    return documento.estremi.esig && !p.terminemese.isEmpty() ? p.terminemese + u'/' + p.termineanno
-                                                              : QString();
+QStringList termineIva(const DatiStampa& dati) {
+    const Prospetti& p = dati.documento.prospetti;
+    return {dati.documento.estremi.esig && !p.terminemese.isEmpty() ? p.terminemese + u'/' + p.termineanno
+                                                                    : QString()};
 }
 
-std::vector<std::array<TestoVoce, 7>> righeIvaStampate(const TabellaIva& iva, const Contesto& contesto) {
-    std::vector<std::array<TestoVoce, 7>> righe;
-    for (std::size_t r = 1; r <= codiciIva; ++r) {
-        if (iva.imponibili[r] == 0.0 && iva.imposte[r] == 0.0)
-            continue;
-        const QString aliquota = contesto.tabelle.aliquote[r][0].trimmed();
-        righe.push_back({{{codiceIva(r)},
-                          {u"Iva "_s + aliquota + u'%'},
-                          voceImporto(iva.imponibili[r], contesto),
-                          {aliquota, true},
-                          voceImporto(iva.imposte[r], contesto),
-                          {},
-                          {}}});
-    }
-    for (std::size_t r = 1; r <= codiciIva; ++r) {
-        if (iva.esenti[r] == 0.0)
-            continue;
-        const auto& [riferimento, descrizione] = contesto.tabelle.esenzioni[r];
-        righe.push_back({{{codiceIva(r + codiciIva)},
-                          {descrizione.left(caratteriEsenzione).trimmed()},
-                          {},
-                          {},
-                          {},
-                          voceImporto(iva.esenti[r], contesto),
-                          {riferimento.trimmed()}}});
-    }
-    return righe;
+QStringList note(const DatiStampa& dati) {
+    const auto& nota = dati.documento.testata.cliente.nota;
+    return {nota.begin(), nota.end()};
 }
 
-} // namespace bor
+} // namespace bor::voci

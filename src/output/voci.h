@@ -1,28 +1,55 @@
-// The items that invoices and fee bills have in common.
+// The texts that invoices and fee bills have in common.
 #pragma once
 
-#include "document/documento.h"
-#include "document/totaliriga.h"
-#include "output/pagina.h"
+#include "output/pianta.h"
 
-namespace bor {
+#include <algorithm>
+#include <array>
 
-/// Items 1 to 34, 40 and 41: heading, customer, number, date, bank. Empty for any other item.
-TestoVoce voceComune(int voce, const Documento& documento, const Contesto& contesto,
-                     const QStringList& intestazione);
+namespace bor::voci {
 
-/// Amount and due date of the six instalments, one after the other: index 0 is the first amount.
-TestoVoce voceRata(int indice, const Documento& documento, const Contesto& contesto);
-
-TestoVoce voceImporto(double importo, const Contesto& contesto);
-QString testoPagamento(const Documento& documento, const Contesto& contesto);
-/// Rate and amount of the agent's commission; empty without one.
-QString testoProvvigione(const Documento& documento, const Contesto& contesto);
+QStringList intestazione(const DatiStampa& dati);
+QStringList ivaPerCassa(const DatiStampa& dati);
+QStringList sede(const DatiStampa& dati);
+QStringList codiciFiscali(const DatiStampa& dati);
+QStringList amministrazione(const DatiStampa& dati);
+QStringList telefoni(const DatiStampa& dati);
+QStringList numeroEData(const DatiStampa& dati);
+QStringList bancaCliente(const DatiStampa& dati);
+QStringList pagamento(const DatiStampa& dati);
+QStringList bancaPagamento(const DatiStampa& dati);
+/// Amount and due date of the instalments from one to another, counted from 1.
+QStringList rate(const DatiStampa& dati, std::size_t prima, std::size_t ultima);
+/// Code and description of each VAT row.
+QStringList ivaCodici(const DatiStampa& dati);
+/// Taxable amount, rate, tax and exempt amount of each VAT row.
+QStringList ivaImporti(const DatiStampa& dati);
+/// The law of each VAT row's exemption.
+QStringList ivaRiferimenti(const DatiStampa& dati);
+/// Rate and amount of the agent's commission, empty without one.
+QStringList provvigione(const DatiStampa& dati);
 /// Last term of deferred VAT, "mm/yyyy"; empty unless the document has it.
-QString testoTermine(const Documento& documento);
+QStringList termineIva(const DatiStampa& dati);
+QStringList note(const DatiStampa& dati);
 
-/// One row for each VAT row that has an amount: code, description, taxable, rate, tax, exempt amount, legal
-/// reference.
-std::vector<std::array<TestoVoce, 7>> righeIvaStampate(const TabellaIva& iva, const Contesto& contesto);
+/// Items 1 to 34, the same on every kind of page.
+inline constexpr std::array comuni = {
+    GruppoVoci{1, 16, SuPagine::Tutte, Lato::Sinistra, intestazione},
+    GruppoVoci{17, 1, SuPagine::Tutte, Lato::Sinistra, ivaPerCassa},
+    GruppoVoci{18, 5, SuPagine::Tutte, Lato::Sinistra, sede},
+    GruppoVoci{23, 2, SuPagine::Tutte, Lato::Sinistra, codiciFiscali},
+    GruppoVoci{25, 5, SuPagine::Tutte, Lato::Sinistra, amministrazione},
+    GruppoVoci{30, 3, SuPagine::Tutte, Lato::Sinistra, telefoni},
+    GruppoVoci{33, 2, SuPagine::Tutte, Lato::Sinistra, numeroEData},
+};
 
-} // namespace bor
+/// The common items with those of one kind of document behind them.
+template <std::size_t N>
+constexpr std::array<GruppoVoci, comuni.size() + N> conComuni(const std::array<GruppoVoci, N>& proprie) {
+    std::array<GruppoVoci, comuni.size() + N> tutte{};
+    std::ranges::copy(comuni, tutte.begin());
+    std::ranges::copy(proprie, tutte.begin() + comuni.size());
+    return tutte;
+}
+
+} // namespace bor::voci

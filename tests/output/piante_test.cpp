@@ -1,0 +1,260 @@
+// The plans of the printed pages against each other and against the table of docs/moduli.md.
+#include "output/pianta.h"
+#include "support/azienda.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+struct Tratto {
+    int primo;
+    int ultimo;
+
+    friend auto operator<=>(const Tratto&, const Tratto&) = default;
+};
+
+/// What is told of a kind of document: its plan, its column in the tables of the page, and its own numbers.
+struct Modulo {
+    const char* nome;
+    const Pianta& pianta;
+    qsizetype colonna;
+    bool parcella;
+    Tratto voci;
+    Tratto ultimaPagina;
+    Tratto righeIva;
+    std::vector<int> senzaVoce; ///< numbers that the suite's layouts leave empty
+};
+
+void PrintTo(const Modulo& modulo, std::ostream* uscita) {
+    *uscita << modulo.nome;
+}
+
+/// The numbers "18-22" or "17" in a column of the tables, in ascending order.
+std::vector<Tratto> trattiDocumentati(qsizetype colonna) {
+    QFile file(QStringLiteral(BOR_SOURCE_DIR "/docs/moduli.md"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression numeri(u"^(\\d+)(?:-(\\d+))?$"_s);
+    std::vector<Tratto> tratti;
+    for (const QString& linea : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        const auto trovati = numeri.match(linea.split(u'|').value(colonna).trimmed());
+        if (!trovati.hasMatch())
+            continue;
+        const int primo = trovati.captured(1).toInt();
+        tratti.push_back({primo, trovati.hasCaptured(2) ? trovati.captured(2).toInt() : primo});
+    }
+    std::ranges::sort(tratti);
+    return tratti;
+}
+
+class PiantaTest : public testing::TestWithParam<Modulo> {
+protected:
+    const Modulo& modulo = GetParam();
+    const Pianta& pianta = modulo.pianta;
+};
+
+TEST_P(PiantaTest, OgniNumeroHaUnaVoceSola) {
+    std::vector<int> voci;
+    for (const GruppoVoci& gruppo : pianta.voci) {
+        for (int i = 0; i < gruppo.quante; ++i)
+            voci.push_back(gruppo.prima + i);
+    }
+    std::vector<int> attese;
+    for (int i = modulo.voci.primo; i <= modulo.voci.ultimo; ++i) {
+        if (std::ranges::find(modulo.senzaVoce, i) == modulo.senzaVoce.end())
+            attese.push_back(i);
+    }
+    EXPECT_EQ(voci, attese) << "all of them, in the order of their numbers";
+}
+
+TEST_P(PiantaTest, IlCorpoStaDietroLeVoci) {
+    EXPECT_EQ(pianta.rigaSopra, modulo.voci.ultimo + 1);
+    int riga = pianta.rigaSopra;
+    EXPECT_EQ(pianta.rigaSotto, ++riga);
+    for (const Colonna& colonna : pianta.colonne)
+        EXPECT_EQ(colonna.riga, ++riga);
+    EXPECT_LT(riga, 99) << "this row draws the template";
+}
+
+TEST_P(PiantaTest, ModuliMdElencaGliStessiNumeri) {
+    std::vector<Tratto> tratti;
+    for (const GruppoVoci& gruppo : pianta.voci)
+        tratti.push_back({gruppo.prima, gruppo.prima + gruppo.quante - 1});
+    tratti.push_back({pianta.rigaSopra, pianta.rigaSotto});
+    tratti.push_back({pianta.colonne.front().riga, pianta.colonne.back().riga});
+    EXPECT_EQ(tratti, trattiDocumentati(modulo.colonna));
+}
+
+TEST_P(PiantaTest, SoloIConteggiAspettanoLUltimaPagina) {
+    const auto [prima, ultima] = modulo.ultimaPagina;
+    for (const GruppoVoci& gruppo : pianta.voci) {
+        const bool attesa = gruppo.prima >= prima && gruppo.prima + gruppo.quante - 1 <= ultima;
+        EXPECT_EQ(gruppo.pagine == SuPagine::Ultima, attesa) << gruppo.prima;
+        EXPECT_FALSE(gruppo.prima < prima && gruppo.prima + gruppo.quante > prima) << gruppo.prima;
+    }
+}
+
+TEST_P(PiantaTest, OgniGruppoDaUnTestoAOgniVoce) {
+    const AziendaDiProva azienda;
+    ContestoDiProva prova(azienda);
+    Documento documento;
+    documento.coppia.fte.parcella = modulo.parcella ? 1 : 0;
+    const DatiStampa senzaIva = datiStampa(documento, prova.contesto);
+    for (const GruppoVoci& gruppo : pianta.voci) {
+        const bool iva = gruppo.prima >= modulo.righeIva.primo && gruppo.prima <= modulo.righeIva.ultimo;
+        EXPECT_EQ(gruppo.testi(senzaIva).size(), iva ? 0 : gruppo.quante) << gruppo.prima;
+    }
+    documento.ddd[0] = {.descrizione = u"Vite"_s, .iva = 1, .quantita = 1, .prezzo = 10};
+    documento.ddd[1] = {.descrizione = u"Bollo"_s, .iva = 15, .quantita = 1, .prezzo = 2};
+    documento.dddp[0] = {{}, u"Consulenza"_s, 50, 0, 1000};
+    documento.testata.pratica.ivaspe = 1;
+    const DatiStampa dati = datiStampa(documento, prova.contesto);
+    for (const GruppoVoci& gruppo : pianta.voci) {
+        const bool iva = gruppo.prima >= modulo.righeIva.primo && gruppo.prima <= modulo.righeIva.ultimo;
+        EXPECT_EQ(gruppo.testi(dati).size(), iva ? 2 * gruppo.quante : gruppo.quante) << gruppo.prima;
+    }
+}
+
+/// A document that has a text of its own at every item.
+class VociTest : public testing::Test {
+protected:
+    VociTest() {
+        azienda.scrivi(u"borlano.int"_s, "Ditta\r\nVia Po\r\n\r\n");
+        prova.impostazioni.gnr.annonumero.set(u"1");
+        prova.tabelle.aliquote[1] = {u"22"_s, u"20"_s, u"2"_s, u"4"_s};
+        prova.tabelle.tipopagamenti[2][0] = u"Bonifico"_s;
+        prova.tabelle.vettori[1] = {u"Vendita"_s, u"A vista"_s, {}, {}, {}, {}};
+        documento.estremi.numero = u"12"_s;
+        documento.estremi.data = u"15/03/2015"_s;
+        documento.estremi.esig = true;
+        documento.cliente.banca1.set(u"IT60");
+        documento.cliente.abi.set(u"01234");
+        documento.cliente.cab.set(u"56789");
+        documento.cliente.contocorrente.set(u"99");
+        documento.cliente.banca.set(u"Banca A");
+        documento.testata.cliente = {
+            .sede = {u"Rossi"_s, u"e figli"_s, u"Via A"_s, u"20100"_s, u"Milano"_s},
+            .codicefiscale = u"RSS"_s,
+            .nazione = u"IT"_s,
+            .partitaiva = u"077"_s,
+            .amministrazione = {u"Uff"_s, u"Amm"_s, u"Via B"_s, u"00100"_s, u"Roma"_s},
+            .telefono = {u"t1"_s, u"t2"_s, u"t3"_s},
+            .vettore = {u"v1"_s, u"v2"_s, u"v3"_s},
+            .nota = {u"n1"_s, u"n2"_s},
+            .banca = u"Banca B"_s};
+        for (std::size_t i = 0; i < 6; ++i)
+            documento.scadenze.rate[i] = {u"scade %1"_s.arg(i + 1), QString::number(i + 1)};
+        documento.scadenze.rate[5].importo = u"0"_s;
+        documento.scadenze.pagamento = 1;
+        documento.scadenze.provaliq = u"5"_s;
+        documento.scadenze.provimp = u"7.5"_s;
+        documento.prospetti.terminemese = u"04"_s;
+        documento.prospetti.termineanno = u"2016"_s;
+    }
+
+    /// Texts of the items from a number on, without those of the VAT rows.
+    QStringList testi(const Pianta& pianta, int da, int a) {
+        const DatiStampa dati = datiStampa(documento, prova.contesto);
+        QStringList tutti;
+        for (const GruppoVoci& gruppo : pianta.voci) {
+            if (gruppo.prima >= da && gruppo.prima <= a)
+                tutti += gruppo.testi(dati);
+        }
+        return tutti;
+    }
+
+    AziendaDiProva azienda;
+    ContestoDiProva prova{azienda};
+    Documento documento;
+};
+
+TEST_F(VociTest, DiUnaFattura) {
+    documento.testata.trasporto = {.ddt = u"ddt"_s,
+                                   .ordine = u"oda"_s,
+                                   .colli = u"3"_s,
+                                   .peso = u"kg 8"_s,
+                                   .inizio = u"16/03/2015"_s,
+                                   .ora = u"9.30"_s,
+                                   .causale = 0,
+                                   .aspetto = 0,
+                                   .spedizione = 1};
+    documento.ddd[0] = {.descrizione = u"Vite"_s, .iva = 1, .quantita = 4, .prezzo = 25};
+    documento.ddd[1] = {.descrizione = u"Bollo"_s, .iva = 15, .quantita = Riga::soloPrezzo, .prezzo = 2};
+    documento.coppia.f2e.fpa = 1.0F;
+    riportaTotali(documento, ricalcola(documento.ddd, false, prova.tabelle, prova.contesto.valuta()).iva, 100,
+                  20, prova.contesto);
+    const Pianta& p = piantaFattura();
+    EXPECT_EQ(testi(p, 1, 2).mid(0, 3), QStringList({u"Ditta"_s, u"Via Po"_s, {}}));
+    EXPECT_TRUE(testi(p, 17, 17)[0].startsWith(u"'Iva per cassa': documento"_s));
+    EXPECT_EQ(testi(p, 18, 35),
+              QStringList({u"Rossi"_s, u"e figli"_s, u"Via A"_s, u"20100"_s, u"Milano"_s, u"IT077"_s,
+                           u"RSS"_s, u"Uff"_s, u"Amm"_s, u"Via B"_s, u"00100"_s, u"Roma"_s, u"t1"_s, u"t2"_s,
+                           u"t3"_s, u"12/2015"_s, u"15/03/2015"_s}));
+    EXPECT_EQ(testi(p, 36, 51),
+              QStringList({u"Vendita"_s, u"3"_s, u"kg 8"_s, u"A vista"_s, u"IT60.01234.56789.99"_s,
+                           u"Banca A"_s, u"Destinatario"_s, u"v1"_s, u"v2"_s, u"v3"_s, u"16/03/2015"_s,
+                           u"9.30"_s, u"ddt"_s, u"oda"_s, u"Bonifico"_s, u"Banca B"_s}));
+    EXPECT_EQ(testi(p, 60, 66), QStringList({u"01"_s,
+                                             u"Iva 22%"_s,
+                                             u"15"_s,
+                                             {},
+                                             u"100,00"_s,
+                                             u"22"_s,
+                                             u"22,00"_s,
+                                             {},
+                                             {},
+                                             {},
+                                             {},
+                                             u"2,00"_s,
+                                             {},
+                                             {}}));
+    EXPECT_EQ(testi(p, 67, 74), QStringList({u"100,00"_s, u"22,00"_s, u"2,00"_s, u"124,00"_s, u"100,00"_s,
+                                             u"20,00"_s, u"104,00"_s, u"4"_s}));
+    EXPECT_EQ(testi(p, 79, 84), QStringList({u"5% 5,10"_s, u"04/2016"_s, u"COPIA DOCUMENTO AD USO INTERNO"_s,
+                                             u"FATTURA"_s, u"n1"_s, u"n2"_s}));
+}
+
+TEST_F(VociTest, DiUnaParcella) {
+    documento.coppia.fte.parcella = 1;
+    documento.testata.pratica.descrizione = {u"d1"_s, u"d2"_s, u"d3"_s, u"d4"_s};
+    prova.tabelle.aliquote[2][0] = u"10"_s;
+    documento.testata.pratica.ivaspe = 1;
+    documento.dddp[0] = {{}, u"Consulenza"_s, 50, 30, 1000};
+    const Pianta& p = piantaParcella();
+    EXPECT_EQ(testi(p, 36, 42), QStringList({u"d1"_s, u"d2"_s, u"d3"_s, u"d4"_s, u"IT60.01234.56789.99"_s,
+                                             u"Banca A"_s, u"Bonifico"_s}));
+    EXPECT_EQ(testi(p, 43, 54), QStringList({u"1,00"_s,
+                                             u"scade 1"_s,
+                                             u"2,00"_s,
+                                             u"scade 2"_s,
+                                             u"3,00"_s,
+                                             u"scade 3"_s,
+                                             u"4,00"_s,
+                                             u"scade 4"_s,
+                                             u"5,00"_s,
+                                             u"scade 5"_s,
+                                             {},
+                                             {}}));
+    EXPECT_EQ(testi(p, 62, 72),
+              QStringList({u"30,00"_s, u"50,00"_s, u"1.000,00"_s, u"20,00"_s, u"40,00"_s, u"1.090,00"_s,
+                           u"233,80"_s, u"1.373,80"_s, u"1.040,00"_s, u"208,00"_s, u"1.165,80"_s}));
+    EXPECT_EQ(testi(p, 73, 79),
+              QStringList({u"5% 7,50"_s, u"04/2016"_s, u"Banca B"_s, u"PARCELLA"_s, u"n1"_s, u"n2"_s}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Moduli, PiantaTest,
+    testing::Values(Modulo{"Fattura", piantaFattura(), 2, false, {1, 84}, {52, 82}, {60, 66}, {35}},
+                    Modulo{"Parcella", piantaParcella(), 3, true, {1, 79}, {42, 76}, {55, 61}, {35, 76}}),
+    [](const auto& caso) { return std::string(caso.param.nome); });
+
+} // namespace
+} // namespace bor
