@@ -1,6 +1,6 @@
 // Finding a document's movement among 32,000, and taking its rows out of 32,000 warehouse rows, beside
 // reading the bytes.
-#include "document/conti.h"
+#include "document/trovamovimento.h"
 #include "posting/scarico.h"
 #include "support/azienda.h"
 

@@ -74,7 +74,8 @@ void Pavimento_LetturaDeiTreFile(benchmark::State& stato) {
 
 void RiempimentoDellElenco(benchmark::State& stato) {
     ContestoDiProva prova(grande());
-    Borfte form(prova.contesto, nullptr);
+    Documento documento;
+    Borfte form(prova.contesto, documento, nullptr);
     form.carica();
     for (auto _ : stato)
         form.cambiaFiltro(FiltroFatture::Tutte);
@@ -82,7 +83,8 @@ void RiempimentoDellElenco(benchmark::State& stato) {
 
 void FiltroSoloPa(benchmark::State& stato) {
     ContestoDiProva prova(grande());
-    Borfte form(prova.contesto, nullptr);
+    Documento documento;
+    Borfte form(prova.contesto, documento, nullptr);
     form.carica();
     for (auto _ : stato)
         form.cambiaFiltro(FiltroFatture::SoloPa);
@@ -91,7 +93,8 @@ void FiltroSoloPa(benchmark::State& stato) {
 /// The texts of a column, sorted by the standard library alone.
 void Pavimento_Ordinamento(benchmark::State& stato) {
     ContestoDiProva prova(grande());
-    Borfte form(prova.contesto, nullptr);
+    Documento documento;
+    Borfte form(prova.contesto, documento, nullptr);
     form.carica();
     QStringList chiavi;
     for (int r = 0; r < documenti; ++r)
@@ -105,7 +108,8 @@ void Pavimento_Ordinamento(benchmark::State& stato) {
 
 void Ordinamento(benchmark::State& stato) {
     ContestoDiProva prova(grande());
-    Borfte form(prova.contesto, nullptr);
+    Documento documento;
+    Borfte form(prova.contesto, documento, nullptr);
     form.carica();
     const auto colonna = stato.range(0) == 9 ? 1 : static_cast<int>(stato.range(0));
     for (auto _ : stato) {
@@ -146,7 +150,8 @@ void RiordinoPerData(benchmark::State& stato) {
 /// own.
 int avvia(const AziendaDiProva& azienda) {
     ContestoDiProva prova(azienda);
-    Borfte form(prova.contesto, nullptr);
+    Documento documento;
+    Borfte form(prova.contesto, documento, nullptr);
     form.carica();
     VistaBorfte vista(form);
     vista.resize(1280, 720);

@@ -21,13 +21,14 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
     : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda),
       m_contesto{m_sessione,     m_archivio,    m_impostazioni,   m_tabelle, porte.operatore,
                  porte.orologio, porte.sistema, porte.navigatore, m_timbro},
-      m_borfte(m_contesto, [this] { return !m_sospese.vuoto(); }), m_borftem(m_contesto, m_documento),
-      m_borsel(m_contesto, m_borftem), m_borftex(m_contesto, m_documento), m_borftek(m_contesto, m_documento),
-      m_borftec(m_contesto, m_documento), m_registrazioni(m_contesto, m_borftec),
+      m_borfte(m_contesto, m_documento, [this] { return !m_sospese.vuoto(); }),
+      m_borftem(m_contesto, m_documento), m_borsel(m_contesto, m_borftem), m_borftex(m_contesto, m_documento),
+      m_borftek(m_contesto, m_documento), m_borftec(m_contesto, m_documento),
+      m_registrazioni(m_contesto, m_borftec),
       m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)),
       m_borftepa(m_contesto, m_documento) {
     m_sessione.codiceazienda = codiceazienda;
-    m_impostazioni = caricaimpostazioni(m_archivio, m_sessione);
+    m_impostazioni = caricaimpostazioni(m_archivio);
     m_archivio.apri();
     m_tabelle = leggiTabelle(m_archivio);
     m_borfte.carica();

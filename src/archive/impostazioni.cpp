@@ -3,7 +3,6 @@
 #include "archive/archivio.h"
 #include "archive/filetesto.h"
 #include "common/numeri.h"
-#include "common/sessione.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -90,12 +89,12 @@ std::optional<Gnr> leggiGnr(Archivio& archivio, const QString& dos) {
     return file.leggi(1);
 }
 
-Gnr caricaGnr(Archivio& archivio, const Sessione& sessione) {
+Gnr caricaGnr(Archivio& archivio) {
     if (auto gnr = leggiGnr(archivio, archivio.borlano(u"gnr"))) {
         const bool riparato = riparaRighemodulo(*gnr);
         const bool migrato = migraGnr(*gnr);
         if (riparato || migrato)
-            salvagnr(archivio, sessione, *gnr);
+            salvagnr(archivio, *gnr);
         return *gnr;
     }
     auto gnr = leggiGnr(archivio, nellaRadice(u"borlano.gnr"));
@@ -105,7 +104,7 @@ Gnr caricaGnr(Archivio& archivio, const Sessione& sessione) {
         gnr = gnrPredefinito();
         QDir().mkpath(archivio.reale(u"\\SUPROK\\PDF"));
     }
-    salvagnr(archivio, sessione, *gnr);
+    salvagnr(archivio, *gnr);
     return *gnr;
 }
 
@@ -121,20 +120,18 @@ Valuta leggiValuta(const Archivio& archivio) {
     return imp.valuta();
 }
 
-Impostazioni caricaimpostazioni(Archivio& archivio, const Sessione& sessione) {
+Impostazioni caricaimpostazioni(Archivio& archivio) {
     Impostazioni imp;
     const QStringList intestazione = leggiIntestazione(archivio);
     for (qsizetype i = 0; i < 3; ++i)
         imp.datilinea[static_cast<std::size_t>(i) + 1] = intestazione.value(i);
     leggiEur(FileTesto(archivio.reale(nellaRadice(u"borlano.eur"))), imp.eur);
     leggiTbl(FileTesto(archivio.reale(nellaRadice(u"borlano.tbl"))), imp.tabellastampa);
-    imp.gnr = caricaGnr(archivio, sessione);
+    imp.gnr = caricaGnr(archivio);
     return imp;
 }
 
-bool salvagnr(Archivio& archivio, const Sessione& sessione, const Gnr& gnr) {
-    if (sessione.ripristino)
-        return true;
+bool salvagnr(Archivio& archivio, const Gnr& gnr) {
     RecordFile<Gnr> file(archivio.disco());
     return file.apri(archivio.reale(archivio.borlano(u"gnr"))) && file.scrivi(1, gnr);
 }

@@ -12,7 +12,6 @@
 namespace bor {
 
 class Archivio;
-struct Sessione;
 
 /// A font and further values of one row of `borlano.tbl`.
 struct RigaStampa {
@@ -41,14 +40,13 @@ struct Impostazioni {
 
 /// Reads all settings of the company. Where it has no `gnr` record of its own, one is taken from the suite's
 /// root folder or made new, and saved; an older one is migrated and saved.
-Impostazioni caricaimpostazioni(Archivio& archivio, const Sessione& sessione);
+Impostazioni caricaimpostazioni(Archivio& archivio);
 
 /// The currency of the books alone, for programs that only read: `caricaimpostazioni` may write a `gnr`.
 Valuta leggiValuta(const Archivio& archivio);
 
-/// Writes the `gnr` record into the company's folder, unless options are just being restored. False when that
-/// failed.
-bool salvagnr(Archivio& archivio, const Sessione& sessione, const Gnr& gnr);
+/// Writes the `gnr` record into the company's folder. False when that failed.
+bool salvagnr(Archivio& archivio, const Gnr& gnr);
 
 /// All lines of `borlano.int`, at most twenty: the heading of printed documents.
 QStringList leggiIntestazione(const Archivio& archivio);

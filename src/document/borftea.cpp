@@ -1,11 +1,7 @@
 #include "document/borftea.h"
 
 #include "common/numeri.h"
-#include "document/caricadoc.h"
-#include "document/clienti.h"
-#include "document/defaultcliente.h"
-#include "document/filerighe.h"
-#include "document/integrata.h"
+#include "document/apridoc.h"
 #include "document/scadenze.h"
 
 #include <utility>
@@ -32,56 +28,27 @@ void Borftea::attiva() {
     if (!sessione.documentoletto) {
         sessione.documentoletto = true;
         m_prospetto = Prospetto::RigheIva;
-        if (sessione.recordfattura == 0)
-            apriNuovo();
-        else
-            apriEsistente();
-        m_numeroletto = m_documento.estremi.numero.trimmed();
+        apri();
     }
     m_finestra.scorri(1);
     m_fuoco = PostoTea{CampoTea::Numero};
 }
 
-void Borftea::apriNuovo() {
-    Sessione& sessione = m_contesto.sessione;
-    sessione.tipoparcella = 0;
-    Documento documento;
-    documento.testata = std::move(m_documento.testata); // typed in the head form, the screen before this one
-    m_documento = std::move(documento);
-    inizializza2(m_documento.coppia.f2e);
-    m_documento.coppia.fte.tipo = static_cast<std::int16_t>(sessione.tipodocumento);
-    m_documento.cliente = m_contesto.archivio.cli.leggi(sessione.recordcliente);
-    prendiDefaults(m_documento, m_contesto);
-
-    const Tot contatore = m_contesto.archivio.leggiTot(Conta::Fte);
-    Estremi& estremi = m_documento.estremi;
-    estremi.numero = QString::number(contatore.ultimonumero + 1);
-    estremi.protocollo = QString::number(contatore.numero + 1);
-    estremi.data = testoData(m_contesto.orologio.oggi());
-    estremi.datareg = estremi.data;
-    calcolascadenze(m_documento, m_contesto);
-}
-
-void Borftea::apriEsistente() {
-    Sessione& sessione = m_contesto.sessione;
-    m_documento = {};
-    m_documento.record = sessione.recordfattura;
-    m_documento.coppia = m_contesto.archivio.leggi(m_documento.record);
-    const Fte& fte = m_documento.coppia.fte;
-    sessione.recordcliente = fte.cliente;
-    sessione.recordfpa = m_documento.coppia.f2e.fpa;
-    sessione.tipodocumento = fte.tipo;
-    sessione.tipodocumentoletto = fte.tipo;
-    sessione.tipoparcella = fte.parcella;
-    prendiCliente(m_documento, m_contesto.archivio, sessione.recordcliente);
-    m_documento.estremi.postael = m_documento.cliente.postael.text() == u"1";
-    caricadoc(m_documento, m_contesto);
-    leggedoc(m_documento, m_contesto, m_sospese);
-    m_documento.integrata = cercaIntegrata(m_documento.coppia, m_contesto.tabelle);
+void Borftea::apri() {
+    if (nuovo()) {
+        // What was typed in the head form, the screen before this one, stays.
+        Testata testata = std::move(m_documento.testata);
+        m_documento = nuovoDocumento(m_contesto, m_documento.tipodocumento(), m_documento.recordcliente);
+        m_documento.testata = std::move(testata);
+    } else {
+        m_documento = documentoEsistente(m_contesto, m_documento.recordfattura, m_sospese);
+        m_contesto.sessione.testataletta = true;
+    }
+    m_numeroletto = m_documento.estremi.numero.trimmed();
 }
 
 QString Borftea::titolo() const {
-    const bool nota = m_documento.coppia.fte.tipo == 1;
+    const bool nota = m_documento.notaCredito();
     if (nuovo())
         return nota ? u"Memorizzazione nota di credito emessa"_s : u"Memorizzazione fattura emessa"_s;
     if (m_documento.fatturaPa())

@@ -109,9 +109,8 @@ private:
             return m_documento.prospetti;
     }
     void cambiato(const void* dato);
-    bool nuovo() const { return m_documento.record == 0; }
-    void apriNuovo();
-    void apriEsistente();
+    bool nuovo() const { return m_documento.recordfattura == 0; }
+    void apri();
 
     void chiudi();
     void esci();

@@ -72,6 +72,8 @@ void Borftea::salva() {
     m_fuoco = esito.fuoco;
     if (esito.dopo == DopoSalva::Resta)
         return;
+    if (esito.dopo == DopoSalva::Movimento)
+        m_contesto.sessione.modificamovimento = esito.modificamovimento;
     chiudi();
     m_contesto.navigatore.mostra(esito.dopo == DopoSalva::Movimento ? Schermo::Borftec : Schermo::Borfte);
 }
@@ -94,7 +96,6 @@ void Borftea::righe() {
 }
 
 void Borftea::testata() {
-    m_contesto.sessione.tipoparcella = m_documento.coppia.fte.parcella;
     m_contesto.navigatore.mostra(Schermo::Borftem);
 }
 

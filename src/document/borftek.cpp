@@ -70,7 +70,7 @@ bool Borftek::attiva() {
 }
 
 QString Borftek::titolo() const {
-    return m_contesto.sessione.tipodocumento == 1 ? u"Ristampa nota credito"_s : u"Ristampa parcella"_s;
+    return m_documento.notaCredito() ? u"Ristampa nota credito"_s : u"Ristampa parcella"_s;
 }
 
 QString Borftek::testo(int riga, Campo campo) const {

@@ -44,16 +44,16 @@ void Borftem::attiva() {
     m_numero = m_contesto.archivio.leggiTot(Conta::Cli).numero;
     m_poscliente = 1;
     if (!sessione.testataletta) {
-        if (sessione.recordfattura == 0)
+        if (m_documento.recordfattura == 0)
             m_documento.testata = {};
         mostraCliente();
-    } else if (sessione.recordcliente > 0) {
+    } else if (m_documento.recordcliente > 0) {
         // The bar moves without showing: what was typed over the customer's data stays. Only a customer that
         // was looked at and not chosen gives way to the document's own, also when the index does not hold
         // him.
-        m_poscliente = std::max(posizionecliente(m_contesto.archivio, sessione.recordcliente), 1);
-        if (m_recordcorrente != sessione.recordcliente)
-            prendi(sessione.recordcliente);
+        m_poscliente = std::max(posizionecliente(m_contesto.archivio, m_documento.recordcliente), 1);
+        if (m_recordcorrente != m_documento.recordcliente)
+            prendi(m_documento.recordcliente);
     }
     sessione.testataletta = true;
 }
@@ -61,9 +61,9 @@ void Borftem::attiva() {
 RiquadroTestata Borftem::riquadro() const {
     // The document form offers the lines of every stored document, and with them its transport or practice
     // data; a new one has none before it is saved.
-    if (m_contesto.sessione.recordfattura == 0)
+    if (m_documento.recordfattura == 0)
         return RiquadroTestata::Contabili;
-    return m_contesto.sessione.tipoparcella != 0 ? RiquadroTestata::Pratica : RiquadroTestata::Spedizione;
+    return m_documento.parcella() ? RiquadroTestata::Pratica : RiquadroTestata::Spedizione;
 }
 
 void Borftem::prendi(int record) {
@@ -121,19 +121,18 @@ void Borftem::avanti() {
     if (!puoProseguire())
         return;
     m_contesto.sessione.righelette = false;
-    m_contesto.sessione.recordcliente = m_recordcorrente;
+    m_documento.recordcliente = m_recordcorrente;
     m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
 void Borftem::lascia() {
-    const Sessione& sessione = m_contesto.sessione;
     if (puoProseguire()) {
         avanti();
-    } else if (sessione.recordfattura == 0) {
+    } else if (m_documento.recordfattura == 0) {
         m_contesto.navigatore.mostra(Schermo::Borfte);
     } else {
-        if (m_recordcorrente != sessione.recordcliente)
-            prendi(sessione.recordcliente);
+        if (m_recordcorrente != m_documento.recordcliente)
+            prendi(m_documento.recordcliente);
         m_contesto.navigatore.mostra(Schermo::Borftea);
     }
 }

@@ -25,7 +25,7 @@ Borftex::Borftex(Contesto& contesto, Documento& documento)
 
 void Borftex::attiva() {
     const Archivio& archivio = m_contesto.archivio;
-    m_documento.cliente = archivio.cli.leggi(m_contesto.sessione.recordcliente);
+    m_documento.cliente = archivio.cli.leggi(m_documento.recordcliente);
     m_barcode = m_contesto.impostazioni.gnr.barcode != 0;
     m_listino = m_documento.cliente.listino.text() == u"1" ? 2 : 1;
     m_listaCaricata = false;
@@ -49,7 +49,7 @@ void Borftex::attiva() {
 }
 
 QString Borftex::titolo() const {
-    return m_contesto.sessione.tipodocumento == 1 ? u"Ristampa nota credito"_s : u"Ristampa fattura"_s;
+    return m_documento.notaCredito() ? u"Ristampa nota credito"_s : u"Ristampa fattura"_s;
 }
 
 QString Borftex::numfat() const {

@@ -76,7 +76,9 @@ struct Prospetti {
 enum class Integrata { No, ReverseCharge, Intracomunitaria };
 
 struct Documento {
-    int record = 0; ///< `fte` record; 0 for a new document
+    int recordfattura = 0; ///< `fte` record; 0 for a new document
+    int recordcliente = 0; ///< `cli` record of the chosen customer, stored by the next save; 0 for none yet
+    double recordfpa = 0;  ///< number of the electronic invoice's data, stored by the next save; 0 for none
     CoppiaFte coppia = vuoto<CoppiaFte>();
     Cli cliente = vuoto<Cli>();
     Testata testata;
@@ -88,7 +90,12 @@ struct Documento {
     bool scorporo = false; ///< prices of the goods lines include VAT
     Integrata integrata = Integrata::No;
 
-    bool parcella() const { return coppia.fte.parcella != 0; }
+    /// 0 invoice or fee bill, 1 credit note. It never changes once the document is begun, so the kind on
+    /// screen and the kind read (`tipodocumentoletto`) are one.
+    int tipodocumento() const { return coppia.fte.tipo; }
+    bool notaCredito() const { return tipodocumento() == 1; }
+    int tipoparcella() const { return coppia.fte.parcella; } ///< non-zero for a fee bill
+    bool parcella() const { return tipoparcella() != 0; }
     bool fatturaPa() const { return coppia.f2e.fatturaPa(); }
 };
 

@@ -3,10 +3,10 @@
 #include "archive/contesto.h"
 #include "common/numeri.h"
 #include "document/avvisi.h"
-#include "document/conti.h"
 #include "document/filerighe.h"
 #include "document/registrazioni.h"
 #include "document/righeinsospeso.h"
+#include "document/trovamovimento.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,10 +34,10 @@ bool segnaCancellato(Archivio& archivio, Conta quale) {
 /// Marks the record as it is on file: what was typed over it on screen is not stored on this occasion.
 bool annulla(Documento& documento, Archivio& archivio) {
     Fte fte;
-    if (!archivio.fte.leggi(documento.record, fte))
+    if (!archivio.fte.leggi(documento.recordfattura, fte))
         fte = documento.coppia.fte;
     fte.annullata = 1;
-    if (!segnaCancellato(archivio, Conta::Fte) || !archivio.fte.scrivi(documento.record, fte))
+    if (!segnaCancellato(archivio, Conta::Fte) || !archivio.fte.scrivi(documento.recordfattura, fte))
         return false;
     documento.coppia.fte.annullata = 1;
     return true;
@@ -62,17 +62,15 @@ bool eliminaRighe(const Documento& documento, Archivio& archivio, RigheInSospeso
 }
 
 /// Takes the movement's amounts out of its accounts and marks it.
-bool storna(Archivio& archivio, int movimento) {
+bool storna(Archivio& archivio, int movimento, Registrazioni& registrazioni) {
     Gio gio = archivio.gio.leggi(movimento);
-    for (const VoceGio& voce : gio.voce) {
-        if (!puliscitesto(voce.conto.text()).isEmpty() && !stornaconto(archivio, voce))
-            return false;
-    }
+    if (!registrazioni.stornaconti(gio))
+        return false;
     gio.cancellato = 1;
     return archivio.gio.scrivi(movimento, gio) && segnaCancellato(archivio, Conta::Gio);
 }
 
-bool eliminaMovimento(const Documento& documento, const Contesto& contesto) {
+bool eliminaMovimento(const Documento& documento, const Contesto& contesto, Registrazioni& registrazioni) {
     Archivio& archivio = contesto.archivio;
     const double stamp = documento.coppia.fte.stamp;
     if (stamp == 0.0 || archivio.leggiTot(Conta::Gio).numero < 1 ||
@@ -85,7 +83,7 @@ bool eliminaMovimento(const Documento& documento, const Contesto& contesto) {
     }
     {
         const Attesa attesa(contesto.operatore);
-        if (!storna(archivio, movimento))
+        if (!storna(archivio, movimento, registrazioni))
             return false;
     }
     informa(contesto, u"Il movimento associato alla fattura è stato eliminato. Riordinare l'archivio dei "
@@ -101,7 +99,8 @@ bool eliminadoc(Documento& documento, const Contesto& contesto, Registrazioni& r
         return false;
     contesto.archivio.disco().dimentica();
     if (annulla(documento, contesto.archivio) && eliminaScarico(documento, contesto, registrazioni) &&
-        eliminaRighe(documento, contesto.archivio, sospese) && eliminaMovimento(documento, contesto))
+        eliminaRighe(documento, contesto.archivio, sospese) &&
+        eliminaMovimento(documento, contesto, registrazioni))
         return true;
     avvisaNonScritto(contesto);
     return false;

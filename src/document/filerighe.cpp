@@ -1,6 +1,5 @@
 #include "document/filerighe.h"
 
-#include "archive/contesto.h"
 #include "archive/filetesto.h"
 #include "common/numeri.h"
 #include "document/righeinsospeso.h"
@@ -168,9 +167,7 @@ QString percorsoRighe(const Archivio& archivio, const Fte& fte) {
     return archivio.file((fte.parcella != 0 ? u"p"_s : u"f"_s) + testoDecimale(double{fte.nfile}));
 }
 
-void leggedoc(Documento& documento, const Contesto& contesto, const RigheInSospeso& sospese) {
-    const Archivio& archivio = contesto.archivio;
-    contesto.sessione.testataletta = true;
+void leggedoc(Documento& documento, const Archivio& archivio, const RigheInSospeso& sospese) {
     svuota(documento);
     Fte& fte = documento.coppia.fte;
     if (fte.nfile > 0.0F) {

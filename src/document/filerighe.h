@@ -6,13 +6,12 @@
 
 namespace bor {
 
-struct Contesto;
 class RigheInSospeso;
 
 /// Fills lines, head texts and switches of the document from its lines file; from what the run still keeps of
 /// a new one; else from a file of the older name, by number and year. A document without any has no lines,
 /// which is no failure. Where the current file is missing the next save gives the document a new one.
-void leggedoc(Documento& documento, const Contesto& contesto, const RigheInSospeso& sospese);
+void leggedoc(Documento& documento, const Archivio& archivio, const RigheInSospeso& sospese);
 
 /// Writes the document's lines file, which must have a number, over an earlier one. False when it could not
 /// be written: the earlier one is then still there.

@@ -4,6 +4,7 @@
 namespace bor {
 
 struct Documento;
+struct Gio;
 
 class Registrazioni {
 public:
@@ -18,6 +19,10 @@ public:
 
     /// Fills the movement editor with the accounting movement of the document.
     virtual void preparaMovimento(const Documento& documento) = 0;
+
+    /// Takes the amounts of a movement that is deleted with its document out of their accounts. False as
+    /// above.
+    virtual bool stornaconti(const Gio& movimento) = 0;
 };
 
 } // namespace bor

@@ -4,8 +4,8 @@
 #include "common/numeri.h"
 #include "document/avvisi.h"
 #include "document/filerighe.h"
+#include "document/recorddoc.h"
 #include "document/registrazioni.h"
-#include "document/riempirecord.h"
 #include "document/righeinsospeso.h"
 #include "document/totali.h"
 
@@ -50,7 +50,7 @@ std::optional<EsitoSalva> controlla(const Documento& documento, const Contesto& 
             return rifiuta(contesto, u"Una o più date di scadenza non sono valide"_s,
                            {CampoTea::Scadenza, i});
     }
-    if (documento.record == 0 && !frazionamentoAccettato(documento, contesto))
+    if (documento.recordfattura == 0 && !frazionamentoAccettato(documento, contesto))
         return EsitoSalva{};
     return std::nullopt;
 }
@@ -78,8 +78,8 @@ void ricordaNumero(Tot& contatore, const QString& numero) {
 int scriviRecord(Archivio& archivio, CoppiaFte& coppia, const Documento& documento) {
     const BloccoByte blocco = archivio.bloccaContatori();
     Tot contatore = archivio.leggiTot(Conta::Fte);
-    const bool nuovo = documento.record == 0;
-    const int n = nuovo ? Archivio::prossimo(contatore) : documento.record;
+    const bool nuovo = documento.recordfattura == 0;
+    const int n = nuovo ? Archivio::prossimo(contatore) : documento.recordfattura;
     assegnaNfile(coppia.fte, contatore);
     if (n == 0 || !archivio.scrivi(n, coppia))
         return 0;
@@ -89,13 +89,6 @@ int scriviRecord(Archivio& archivio, CoppiaFte& coppia, const Documento& documen
         ricordaNumero(contatore, documento.estremi.numero);
     }
     return archivio.scriviTot(Conta::Fte, contatore) ? n : 0;
-}
-
-void preparaMovimento(const Documento& documento, const Contesto& contesto, Registrazioni& registrazioni,
-                      bool modifica) {
-    contesto.sessione.modificamovimento = modifica;
-    contesto.sessione.righelette = false;
-    registrazioni.preparaMovimento(documento);
 }
 
 bool scriviRighe(const Documento& documento, const Contesto& contesto, RigheInSospeso& sospese) {
@@ -131,7 +124,7 @@ EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazion
         return EsitoSalva{};
     };
 
-    const bool nuovo = documento.record == 0;
+    const bool nuovo = documento.recordfattura == 0;
     CoppiaFte coppia = riempiRecord(documento, contesto);
     int n = 0;
     {
@@ -145,18 +138,17 @@ EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazion
     if (nuovo) {
         sospese.tieni(documento);
         // Prepared while the document still counts as new: it has no earlier movement to ask about.
-        preparaMovimento(documento, contesto, registrazioni, false);
-        documento.record = n;
-        contesto.sessione.recordfattura = n;
-        return {DopoSalva::Movimento, std::nullopt};
+        registrazioni.preparaMovimento(documento);
+        documento.recordfattura = n;
+        return {DopoSalva::Movimento, std::nullopt, false};
     }
     if (!scriviRighe(documento, contesto, sospese) || !aggiornaMagazzino(documento, contesto, registrazioni))
         return nonScritto();
     if (!contesto.operatore.chiedi(u"Desideri aggiornare l'eventuale movimento contabile?"_s,
                                    u"Modifica fattura"_s))
         return {DopoSalva::Registro, std::nullopt};
-    preparaMovimento(documento, contesto, registrazioni, true);
-    return {DopoSalva::Movimento, std::nullopt};
+    registrazioni.preparaMovimento(documento);
+    return {DopoSalva::Movimento, std::nullopt, true};
 }
 
 } // namespace bor

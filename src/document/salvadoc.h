@@ -24,6 +24,7 @@ enum class DopoSalva { Resta, Registro, Movimento };
 struct EsitoSalva {
     DopoSalva dopo = DopoSalva::Resta;
     std::optional<PostoTea> fuoco;
+    bool modificamovimento = false; ///< the prepared movement replaces the one that the document has
 };
 
 /// Checks and stores the document. A new one gets the next record number, its movement is prepared, and its

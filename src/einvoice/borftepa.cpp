@@ -26,11 +26,10 @@ Fpa bianca() {
 
 } // namespace
 
-Borftepa::Borftepa(Contesto& contesto, const Documento& documento)
-    : m_contesto(contesto), m_documento(documento) {}
+Borftepa::Borftepa(Contesto& contesto, Documento& documento) : m_contesto(contesto), m_documento(documento) {}
 
 void Borftepa::attiva() {
-    m_cliente = m_contesto.archivio.cli.leggi(m_contesto.sessione.recordcliente);
+    m_cliente = m_contesto.archivio.cli.leggi(m_documento.recordcliente);
     vuotaCampi();
     apriAzienda();
     if (valore(m_fpaazienda.statoquadri.text()) != Fpa::compilato) {
@@ -46,7 +45,7 @@ void Borftepa::attiva() {
     if (apriDocumento()) {
         ripristina();
     } else {
-        m_contesto.sessione.recordfpa = 0;
+        m_documento.recordfpa = 0;
         cambia(testoProgressivo, testoDecimale(valore(m_fpaazienda.progressivoinvio.text()) + 1));
     }
 }
@@ -76,7 +75,7 @@ void Borftepa::proponi() {
     esig = m_documento.estremi.esig;
     cambia(1, m_documento.testata.trasporto.ddt);
     cambia(2, m_documento.testata.trasporto.ordine);
-    scegli(ListaFpa::TipoDocumento, m_contesto.sessione.tipodocumento == 0 ? 0 : 3);
+    scegli(ListaFpa::TipoDocumento, m_documento.tipodocumento() == 0 ? 0 : 3);
     scegli(ListaFpa::Causale, 0);
     scegli(ListaFpa::TipoRitenuta, 0);
     scegli(ListaFpa::Condizioni, valore(m_documento.scadenze.rate[1].importo) == 0.0 ? 1 : 0);
@@ -98,7 +97,7 @@ void Borftepa::proponiPagamento() {
 }
 
 bool Borftepa::apriDocumento() {
-    return m_contesto.sessione.recordfpa > 0 && leggiFpa(fileDocumento(), m_fpadoc);
+    return m_documento.recordfpa > 0 && leggiFpa(fileDocumento(), m_fpadoc);
 }
 
 void Borftepa::ripristina() {
@@ -229,8 +228,8 @@ void Borftepa::raccogli() {
 }
 
 void Borftepa::scriviDati() {
-    if (m_contesto.sessione.recordfpa < 1)
-        m_contesto.sessione.recordfpa = nuovoProgressivo();
+    if (m_documento.recordfpa < 1)
+        m_documento.recordfpa = nuovoProgressivo();
     scriviFpa(fileDocumento(), m_fpadoc);
     scriviFpa(u"borlano.fpa"_s, m_fpaazienda);
 }
@@ -274,7 +273,7 @@ void Borftepa::scriviFpa(const QString& nome, const Fpa& fpa) const {
 }
 
 QString Borftepa::fileDocumento() const {
-    return u"fpa"_s + testoDecimale(m_contesto.sessione.recordfpa);
+    return u"fpa"_s + testoDecimale(m_documento.recordfpa);
 }
 
 QString Borftepa::voce(ListaFpa lista) const {

@@ -26,7 +26,7 @@ public:
         friend bool operator==(const Posto&, const Posto&) = default;
     };
 
-    Borftepa(Contesto& contesto, const Documento& documento);
+    Borftepa(Contesto& contesto, Documento& documento);
 
     /// Proposes the data from the document, or restores those entered before. Where the company's own data
     /// were never compiled it says so and returns to the document.
@@ -84,7 +84,7 @@ private:
     void scegliSeEsiste(ListaFpa lista, int posizione);
 
     Contesto& m_contesto;
-    const Documento& m_documento;
+    Documento& m_documento;
     Cli m_cliente = vuoto<Cli>();
     Fpa m_fpaazienda = vuoto<Fpa>();
     Fpa m_fpadoc = vuoto<Fpa>();

@@ -51,7 +51,6 @@ DatiStampa datiStampa(const Documento& documento, const Contesto& contesto) {
     DatiStampa dati{.documento = documento,
                     .tabelle = contesto.tabelle,
                     .valuta = contesto.valuta(),
-                    .notaCredito = contesto.sessione.tipodocumento == 1,
                     .numeroConAnno = contesto.impostazioni.gnr.annonumero.text() == u"1",
                     .intestazione = leggiIntestazione(contesto.archivio)};
     if (documento.parcella()) {

@@ -30,7 +30,6 @@ struct DatiStampa {
     const Documento& documento;
     const Tabelle& tabelle;
     Valuta valuta;
-    bool notaCredito;
     bool numeroConAnno; ///< "/" and the year follow the document number
     QStringList intestazione;
     std::vector<RigaIvaStampata> righeIva = {};

@@ -78,7 +78,7 @@ void disegnaPagine(const Layout& layout, Modello modello, const Pianta& pianta, 
     const int quante = pagine(layout, pianta, dati);
     for (int pagina = 1; pagina <= quante; ++pagina) {
         if (layout.modello)
-            disegnamodello(modello, dati.notaCredito, foglio);
+            disegnamodello(modello, dati.documento.notaCredito(), foglio);
         for (std::size_t i = 0; i < testi.size(); ++i) {
             if (pianta.voci[i].pagine == SuPagine::Tutte || pagina == quante)
                 disegnaGruppo(layout, pianta.voci[i], testi[i], foglio);

@@ -68,7 +68,7 @@ QStringList titolo(const DatiStampa& dati) {
     case Integrata::No:
         break;
     }
-    return {dati.notaCredito ? u"NOTA CREDITO"_s : u"FATTURA"_s};
+    return {dati.documento.notaCredito() ? u"NOTA CREDITO"_s : u"FATTURA"_s};
 }
 
 QStringList primeRate(const DatiStampa& dati) {

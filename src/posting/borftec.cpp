@@ -2,7 +2,8 @@
 
 #include "common/numeri.h"
 #include "document/avvisi.h"
-#include "document/conti.h"
+#include "document/trovamovimento.h"
+#include "posting/saldi.h"
 
 #include <algorithm>
 #include <cmath>
@@ -226,17 +227,6 @@ bool Borftec::scriviMovimento(int vecchiomovimento) {
     gio.riferimentofattura = m_documento.coppia.fte.stamp;
     return vecchiomovimento > 0 ? archivio.cambia(archivio.gio, Conta::Gio, vecchiomovimento, gio)
                                 : archivio.aggiungi(archivio.gio, Conta::Gio, gio) > 0;
-}
-
-bool applicaconto(Archivio& archivio, const VoceGio& voce) {
-    const QString codice = voce.conto.text();
-    const int n = valore(codice) > 0 ? trovaconto(archivio, codice) : 0;
-    if (n == 0)
-        return true;
-    Con conto = archivio.con.leggi(n);
-    Reale& progressivo = voce.segno == 0 ? conto.progressivodare : conto.progressivoavere;
-    progressivo -= voce.importo;
-    return archivio.con.scrivi(n, conto);
 }
 
 } // namespace bor

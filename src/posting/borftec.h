@@ -79,8 +79,4 @@ private:
     int m_rigacorrente = 0;
 };
 
-/// Takes the amount of a replaced movement out of the balance of its account, on its own side. An account
-/// that is not in the chart is passed over. False when it could not be written.
-bool applicaconto(Archivio& archivio, const VoceGio& voce);
-
 } // namespace bor

@@ -1,5 +1,6 @@
 #include "posting/registrazionicontabili.h"
 
+#include "posting/saldi.h"
 #include "posting/scarico.h"
 #include "posting/setfat.h"
 
@@ -15,6 +16,10 @@ bool RegistrazioniContabili::mettiscarico(const Documento& documento) {
 
 void RegistrazioniContabili::preparaMovimento(const Documento& documento) {
     m_editor.prepara(documento.parcella() ? setpar(documento, m_contesto) : setfat(documento, m_contesto));
+}
+
+bool RegistrazioniContabili::stornaconti(const Gio& movimento) {
+    return bor::stornaconti(m_contesto.archivio, movimento);
 }
 
 } // namespace bor

@@ -13,6 +13,7 @@ public:
     bool togliscarico(const Documento& documento) override;
     bool mettiscarico(const Documento& documento) override;
     void preparaMovimento(const Documento& documento) override;
+    bool stornaconti(const Gio& movimento) override;
 
 private:
     Contesto& m_contesto;

@@ -10,10 +10,6 @@ namespace bor {
 
 namespace {
 
-bool notaCredito(const Contesto& contesto) {
-    return contesto.sessione.tipodocumento == 1;
-}
-
 /// Net unit price: the discounts one after the other, then the tax out of prices that include it.
 double prezzoNetto(const Riga& riga, bool scorporo, const Contesto& contesto) {
     const Valuta valuta = contesto.valuta();
@@ -31,16 +27,16 @@ void muovi(Art& articolo, double quantita, double valore) {
     articolo.venduto2 += valore;
 }
 
-Mag rigaMagazzino(const Documento& documento, const Riga& riga, double prezzo, const Contesto& contesto) {
+Mag rigaMagazzino(const Documento& documento, const Riga& riga, double prezzo) {
     Mag mag = vuoto<Mag>();
     mag.data.set(annoMeseGiorno(documento.estremi.datareg));
     mag.descrizione.set(u"Scarico per vendita");
     mag.causale = 1;
-    mag.riferimento.set((notaCredito(contesto) ? u"NC "_s : u"FT "_s) + documento.estremi.numero);
+    mag.riferimento.set((documento.notaCredito() ? u"NC "_s : u"FT "_s) + documento.estremi.numero);
     mag.stampmag = documento.coppia.fte.stamp;
     mag.articolo = static_cast<std::int16_t>(riga.recart);
-    mag.clientemag = static_cast<std::int16_t>(contesto.sessione.recordcliente);
-    mag.quantita = notaCredito(contesto) ? -riga.quantita : riga.quantita;
+    mag.clientemag = static_cast<std::int16_t>(documento.recordcliente);
+    mag.quantita = documento.notaCredito() ? -riga.quantita : riga.quantita;
     mag.valore = prezzo;
     mag.segnomag = 1;
     return mag;
@@ -66,7 +62,7 @@ bool togliscarico(const Documento& documento, const Contesto& contesto) {
     archivio.mag.scorri(1, archivio.leggiTot(Conta::Mag).numero, [&](int n, const Mag& mag) {
         // A row that an earlier save took back stays taken back.
         if (mag.stampmag == documento.coppia.fte.stamp && mag.cancellato != 1)
-            riuscito = togli(archivio, n, mag, notaCredito(contesto));
+            riuscito = togli(archivio, n, mag, documento.notaCredito());
         return riuscito;
     });
     return riuscito;
@@ -81,12 +77,12 @@ bool mettiscarico(const Documento& documento, const Contesto& contesto) {
         if (riga.recart < 1 || !riga.codice2.isEmpty())
             continue;
         const double p = prezzoNetto(riga, documento.scorporo, contesto);
-        const double verso = notaCredito(contesto) ? -1 : 1;
+        const double verso = documento.notaCredito() ? -1 : 1;
         const int n = Archivio::prossimo(contatore);
         Art articolo = archivio.art.leggi(riga.recart);
         muovi(articolo, verso * riga.quantita, verso * valuta.arrotonda(p * riga.quantita));
         if (n == 0 || !archivio.art.scrivi(riga.recart, articolo) ||
-            !archivio.mag.scrivi(n, rigaMagazzino(documento, riga, p, contesto)))
+            !archivio.mag.scrivi(n, rigaMagazzino(documento, riga, p)))
             return false;
         contatore.numero = static_cast<std::int16_t>(n);
     }

@@ -2,9 +2,9 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
-#include "document/conti.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
+#include "document/trovamovimento.h"
 
 #include <optional>
 
@@ -40,7 +40,7 @@ const QString& impostazione(const Contesto& contesto, std::size_t voce) {
 Conti contiDi(const Documento& documento, const Contesto& contesto) {
     const DatiCliente& testata = documento.testata.cliente;
     Conti c{testata.contocliente, {}, testata.contoricavi, testata.contoiva, testata.contoesenti};
-    if (contesto.sessione.tipoparcella == 1) {
+    if (documento.tipoparcella() == 1) {
         c.cliente = ContoTesti::da(documento.cliente.contocliente.text());
         c.ricavi = ContoTesti::da(documento.cliente.contoricavi.text());
         c.iva = ContoTesti::da(documento.cliente.contoiva.text());
@@ -61,7 +61,7 @@ void sostituisci(QString& testo, QStringView segno, const QString& valore) {
 }
 
 QString descrizione(const Documento& documento, const Contesto& contesto) {
-    const qsizetype inizio = documento.coppia.fte.tipo == 1 ? 41 : 1;
+    const qsizetype inizio = documento.notaCredito() ? 41 : 1;
     QString testo = pezzo(impostazione(contesto, 15), inizio, 40).trimmed();
     QString numero = puliscitesto(documento.estremi.numero);
     if (contesto.impostazioni.gnr.annonumero.text() == u"1")
@@ -75,7 +75,7 @@ QString descrizione(const Documento& documento, const Contesto& contesto) {
 
 /// The stored movement, if the operator wants it back and it can be found.
 std::optional<Movimento> precedente(const Documento& documento, const Contesto& contesto) {
-    if (documento.record == 0 ||
+    if (documento.recordfattura == 0 ||
         !contesto.operatore.chiedi(
             u"Se desideri modificare il movimento contabile registrato in precedenza clic su 'SI', se invece "
             u"desideri "
@@ -98,7 +98,7 @@ std::optional<Movimento> precedente(const Documento& documento, const Contesto& 
 
 Movimento genera(const Documento& documento, const Contesto& contesto, const Importi& importi) {
     Movimento m;
-    const bool notaCredito = documento.coppia.fte.tipo == 1;
+    const bool notaCredito = documento.notaCredito();
     const Conti conti = contiDi(documento, contesto);
     std::size_t k = 0;
     const auto aggiungi = [&](const ContoTesti& conto, double importo, bool inDare) {

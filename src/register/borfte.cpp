@@ -54,8 +54,8 @@ QString testoFase(FaseRiordino fase) {
 
 } // namespace
 
-Borfte::Borfte(Contesto& contesto, std::function<bool()> righeInSospeso)
-    : m_contesto(contesto), m_righeInSospeso(std::move(righeInSospeso)) {}
+Borfte::Borfte(Contesto& contesto, Documento& documento, std::function<bool()> righeInSospeso)
+    : m_contesto(contesto), m_documento(documento), m_righeInSospeso(std::move(righeInSospeso)) {}
 
 void Borfte::carica() {
     ripristinavista();
@@ -150,10 +150,8 @@ void Borfte::nuovoDocumento(int tipo) {
     }
     sessione.documentoletto = false;
     sessione.testataletta = false;
-    sessione.recordcliente = 0;
-    sessione.recordfattura = 0;
-    sessione.recordfpa = 0;
-    sessione.tipodocumento = tipo;
+    m_documento = {};
+    m_documento.coppia.fte.tipo = static_cast<std::int16_t>(tipo);
     m_contesto.navigatore.mostra(Schermo::Borftem);
 }
 
@@ -165,7 +163,7 @@ void Borfte::cambiaFiltro(FiltroFatture filtro) {
 }
 
 void Borfte::cambiaSelvis(int indice) {
-    if (occupato() || m_contesto.sessione.ripristino)
+    if (occupato())
         return;
     m_selvis = indice;
     salvaVista();
@@ -173,7 +171,7 @@ void Borfte::cambiaSelvis(int indice) {
 }
 
 void Borfte::cambiaVisua(int indice) {
-    if (occupato() || m_contesto.sessione.ripristino)
+    if (occupato())
         return;
     m_visua = indice;
     salvaVista();
@@ -183,7 +181,7 @@ void Borfte::cambiaVisua(int indice) {
 void Borfte::salvaVista() {
     Gnr& gnr = m_contesto.impostazioni.gnr;
     gnr.vistalista = static_cast<std::int16_t>(10 * std::max(m_visua, 0) + std::max(m_selvis, 0));
-    salvagnr(m_contesto.archivio, m_contesto.sessione, gnr);
+    salvagnr(m_contesto.archivio, gnr);
 }
 
 void Borfte::ripristinavista() {
@@ -232,16 +230,17 @@ void Borfte::apri(int riga, int colonna) {
     if (record <= 0)
         return;
     const Fte fte = m_contesto.archivio.fte.leggi(record);
-    Sessione& sessione = m_contesto.sessione;
-    sessione.recordfattura = record;
     if (fte.annullata == 1) {
         m_contesto.operatore.messaggio(u"Fattura annullata"_s, titoloAttenzione, Icona::Esclamazione);
         return;
     }
+    Sessione& sessione = m_contesto.sessione;
     sessione.documentoletto = false;
     sessione.testataletta = false;
     sessione.righelette = false;
-    sessione.recordcliente = fte.cliente;
+    m_documento = {};
+    m_documento.recordfattura = record;
+    m_documento.recordcliente = fte.cliente;
     m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
@@ -253,7 +252,6 @@ void Borfte::caricalista() {
     const Attesa attesa(m_contesto.operatore);
     m_elenco.carica(m_contesto.archivio, primoRecord(m_selvis, m_numero), m_numero, m_filtro);
     const int righelista = m_elenco.quante() + 1;
-    m_contesto.sessione.righelista = righelista;
     m_primaRiga = 0;
     if (m_visua == 1 && righelista > righeSotto + 1)
         m_primaRiga = std::max(righelista, righePiene + 1) - righeSotto - 1;

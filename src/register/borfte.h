@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "document/documento.h"
 #include "register/elencofatture.h"
 #include "register/riordino.h"
 
@@ -14,8 +15,9 @@ namespace bor {
 
 class Borfte {
 public:
+    /// `documento` becomes the one that the operator chooses, which the document form then opens;
     /// `righeInSospeso` tells whether lines typed for new documents would be lost with the run.
-    Borfte(Contesto& contesto, std::function<bool()> righeInSospeso);
+    Borfte(Contesto& contesto, Documento& documento, std::function<bool()> righeInSospeso);
 
     /// The start of the program: options restored from the stored preference, then the list filled.
     void carica();
@@ -79,6 +81,7 @@ private:
     bool colorata() const;
 
     Contesto& m_contesto;
+    Documento& m_documento;
     std::function<bool()> m_righeInSospeso;
     std::function<void()> m_suAvanzamento;
     ElencoFatture m_elenco;

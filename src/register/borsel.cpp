@@ -42,7 +42,6 @@ void Borsel::caricaclienti() {
         if (passa && m_righe.size() < massimoRighe)
             m_righe.push_back(riga);
     }
-    m_contesto.sessione.righelista = quanti() + 1;
     ++m_versione;
 }
 

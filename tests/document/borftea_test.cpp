@@ -24,15 +24,15 @@ protected:
         cliente = azienda.cliente(cli);
         contesto.tabelle.tipopagamenti[1] = {u"Trenta giorni"_s, u"001"_s};
         contesto.tabelle.esenzioni[0][1] = u"01"_s;
-        sessione.recordcliente = cliente;
     }
     void nuovo(int tipo = 0) {
-        sessione.recordfattura = 0;
-        sessione.tipodocumento = tipo;
+        documento.recordfattura = 0;
+        documento.recordcliente = cliente;
+        documento.coppia.fte.tipo = static_cast<std::int16_t>(tipo);
         riapri();
     }
     void esistente(CoppiaFte coppia) {
-        sessione.recordfattura = azienda.documento(coppia);
+        documento.recordfattura = azienda.documento(coppia);
         riapri();
     }
     void riapri() {
@@ -94,8 +94,8 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     coppia.fte.esigdiff.set(u"1");
     esistente(coppia);
     EXPECT_EQ(form.titolo(), u"Modifica dati nota di credito emessa");
-    EXPECT_EQ(sessione.tipodocumento, 1);
-    EXPECT_EQ(sessione.tipoparcella, 1);
+    EXPECT_EQ(documento.tipodocumento(), 1);
+    EXPECT_EQ(documento.tipoparcella(), 1);
     EXPECT_TRUE(form.abilitato(Comando::Elimina) && form.abilitato(Comando::Testata));
     EXPECT_EQ(documento.testata.cliente.sede.ragione1, u"Rossi");
     EXPECT_TRUE(documento.estremi.esig);
@@ -119,7 +119,7 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     coppia.fte.parcella = 0;
     esistente(coppia);
     EXPECT_EQ(form.titolo(), u"Modifica dati fatturaPA emessa");
-    EXPECT_EQ(sessione.recordfpa, 3);
+    EXPECT_EQ(documento.recordfpa, 3);
     EXPECT_TRUE(form.abilitato(Comando::FatturaPa));
     EXPECT_EQ(documento.scadenze.pagamento, -1) << "what a document has does not come from the customer";
     form.esegui(Comando::Righe);
@@ -237,6 +237,15 @@ TEST_F(DocumentForm, FatturaIntegrata_UltimaRigaConImposta) {
     EXPECT_EQ(form.integrata(), u"");
 }
 
+TEST_F(DocumentForm, IlMovimentoDiUnDocumentoNuovoNonNeSostituisceUno) {
+    sessione.modificamovimento = true; // left by the document before
+    nuovo();
+    form.esegui(Comando::Salva);
+    EXPECT_FALSE(sessione.modificamovimento || sessione.righelette || sessione.documentoletto);
+    EXPECT_EQ(contesto.navigatore.mostrati, QList{Schermo::Borftec});
+    EXPECT_EQ(documento.recordfattura, 1);
+}
+
 TEST_F(DocumentForm, DopoIlSalvataggio) {
     CoppiaFte coppia = documentoDi(cliente, u"7"_s, 100, 22);
     coppia.fte.rata[3] = 30;
@@ -251,6 +260,7 @@ TEST_F(DocumentForm, DopoIlSalvataggio) {
     EXPECT_TRUE(sessione.listadaaggiornare);
     EXPECT_FALSE(sessione.documentoletto || sessione.righelette);
     EXPECT_EQ(registrazioni.chiamate, QStringList(u"movimento"_s));
+    EXPECT_TRUE(sessione.modificamovimento);
     riapri();
     contesto.operatore.risposte = {false, false, true};
     form.esegui(Comando::Salva);

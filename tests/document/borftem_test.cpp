@@ -20,8 +20,8 @@ protected:
     }
     QString inVista() const { return documento.testata.cliente.sede.ragione1; }
     void apri(int cliente) {
-        contesto.sessione.recordfattura = 4;
-        contesto.sessione.recordcliente = cliente;
+        documento.recordfattura = 4;
+        documento.recordcliente = cliente;
         contesto.sessione.testataletta = true;
         form.attiva();
     }
@@ -48,7 +48,7 @@ TEST_F(HeadForm, NuovoDocumento_PrimoCliente_EliminatoNonProsegue) {
     contesto.sessione.righelette = true;
     form.avanti();
     EXPECT_EQ(contesto.navigatore.mostrati, QList{Schermo::Borftea});
-    EXPECT_EQ(contesto.sessione.recordcliente, bruno);
+    EXPECT_EQ(documento.recordcliente, bruno);
     EXPECT_FALSE(contesto.sessione.righelette);
 }
 
@@ -75,7 +75,7 @@ TEST_F(HeadForm, DocumentoEsistente_TieneCioCheSiScriveSopra) {
     apri(carla);
     EXPECT_EQ(form.posizione(), 3);
     EXPECT_EQ(form.riquadro(), RiquadroTestata::Spedizione);
-    contesto.sessione.tipoparcella = 1;
+    documento.coppia.fte.parcella = 1;
     EXPECT_EQ(form.riquadro(), RiquadroTestata::Pratica);
     form.cambia(u"nuova@esempio.it"_s, &DatiCliente::email);
     form.avanti();
@@ -91,7 +91,7 @@ TEST_F(HeadForm, ClienteFuoriIndice_RestaQuelloDelDocumento) {
     apri(carla);
     EXPECT_EQ(form.posizione(), 1);
     EXPECT_EQ(inVista(), u"Carla");
-    EXPECT_EQ(contesto.sessione.recordcliente, carla);
+    EXPECT_EQ(documento.recordcliente, carla);
     form.cambiaPosizione(3);
     EXPECT_EQ(inVista(), u"") << "an entry that points nowhere is a blank customer";
 }
@@ -101,8 +101,9 @@ TEST_F(HeadForm, UscitaDovePassareNonSiPuo) {
     form.cambiaPosizione(1);
     form.lascia();
     EXPECT_EQ(inVista(), u"Carla");
-    EXPECT_EQ(contesto.sessione.recordcliente, carla);
+    EXPECT_EQ(documento.recordcliente, carla);
     contesto.sessione = {};
+    documento = {};
     form.attiva();
     form.lascia();
     form.cambiaPosizione(2);

@@ -21,7 +21,7 @@ protected:
         contesto.tabelle.esenzioni[3][1] = u"Esente art.10"_s;
         Cli c = clienteDi(u"ROSSI"_s);
         c.sconto1 = 10;
-        contesto.sessione.recordcliente = azienda.cliente(c);
+        documento.recordcliente = azienda.cliente(c);
         Art vite = articoloDi(u"VITE"_s, u"Vite a legno"_s, 100, 1);
         vite.listino2 = 50;
         vite.peso = 0.25;

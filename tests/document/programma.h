@@ -1,7 +1,7 @@
 // One program at work on a company, without screens: it opens, changes, saves and deletes documents.
 #pragma once
 
-#include "document/caricadoc.h"
+#include "document/apridoc.h"
 #include "document/eliminadoc.h"
 #include "document/filerighe.h"
 #include "document/righeinsospeso.h"
@@ -17,15 +17,13 @@ namespace bor {
 /// One program at work on the company.
 struct Programma {
     explicit Programma(const AziendaDiProva& azienda) : prova(azienda, disco) {
-        prova.sessione.recordcliente = 1;
         prova.tabelle.aliquote[1] = {QStringLiteral("22"), QStringLiteral("20"), {}, QStringLiteral("4")};
         prova.tabelle.tipopagamenti[2] = {QStringLiteral("Rimessa diretta"), QStringLiteral("000")};
     }
     EsitoSalva salva() { return salvadoc(documento, prova.contesto, registrazioni, sospese); }
     bool elimina() { return eliminadoc(documento, prova.contesto, registrazioni, sospese); }
-    void nuovo(const QString& numero) {
-        documento = {};
-        inizializza2(documento.coppia.f2e);
+    void nuovo(const QString& numero, int tipo = 0) {
+        documento = nuovoDocumento(prova.contesto, tipo, 1);
         documento.coppia.fte.nfile = -1.0F;
         documento.estremi.numero = numero;
         documento.estremi.data = QStringLiteral("15/03/2015");
@@ -33,13 +31,7 @@ struct Programma {
         documento.scadenze.pagamento = 1;
         documento.scadenze.rate[0].scadenza = QStringLiteral("15/04/2015");
     }
-    void apri(int record) {
-        documento = {};
-        documento.record = prova.sessione.recordfattura = record;
-        documento.coppia = prova.archivio.leggi(record);
-        caricadoc(documento, prova.contesto);
-        leggedoc(documento, prova.contesto, sospese);
-    }
+    void apri(int record) { documento = documentoEsistente(prova.contesto, record, sospese); }
     void riporta() {
         const TotaliRighe t =
             ricalcola(documento.ddd, documento.scorporo, prova.tabelle, prova.contesto.valuta());

@@ -54,7 +54,7 @@ TEST_F(SalvaTest, FatturaDiMerceConScontiEDueAliquote) {
     d.prospetti.classenoleggio = 1;
     d.prospetti.terminemese = u"3"_s;
     d.prospetti.termineanno = u"2016"_s;
-    p.prova.sessione.recordfpa = 7;
+    d.recordfpa = 7;
     p.prova.tabelle.aliquote[1][1].clear();
     d.ddd[0] = rigaDi(100, 10);
     d.ddd[1] = {.descrizione = u"Trasporto"_s, .iva = 10, .quantita = 2, .prezzo = 25};
@@ -109,9 +109,10 @@ TEST_F(SalvaTest, RigheFinoAlSecondoSalvataggio) {
     p.documento.ddd[0] = rigaDi(12.5, 10);
     p.documento.scorporo = true;
     p.documento.testata.trasporto.ddt = u"DDT 4"_s;
-    ASSERT_EQ(p.salva().dopo, DopoSalva::Movimento);
+    const EsitoSalva esito = p.salva();
+    ASSERT_EQ(esito.dopo, DopoSalva::Movimento);
     EXPECT_EQ(p.registrazioni.chiamate, QStringList({u"movimento"_s}));
-    EXPECT_FALSE(p.prova.sessione.modificamovimento);
+    EXPECT_FALSE(esito.modificamovimento);
     EXPECT_FALSE(p.sospese.vuoto());
 
     p.apri(1);
@@ -153,8 +154,9 @@ TEST_F(SalvaTest, ParcellaConRitenutaEContributi) {
                                             p.prova.contesto.valuta());
     riportaTotali(p.documento, t.iva, t.baseritenuta, t.ritenuta, p.prova.contesto);
     p.prova.operatore.risposte = {true};
-    EXPECT_EQ(p.salva().dopo, DopoSalva::Movimento);
-    EXPECT_TRUE(p.prova.sessione.modificamovimento);
+    const EsitoSalva esito = p.salva();
+    EXPECT_EQ(esito.dopo, DopoSalva::Movimento);
+    EXPECT_TRUE(esito.modificamovimento);
     EXPECT_EQ(p.prova.operatore.domande.size(), 1) << "a fee bill is not asked about the warehouse";
 
     const QByteArray fte = azienda.leggi(u"borlano.fte"_s);
@@ -176,8 +178,7 @@ TEST_F(SalvaTest, ParcellaConRitenutaEContributi) {
 
 TEST_F(SalvaTest, NotaScorporoIvaDifferitaELire) {
     p.prova.tabelle.aliquote[1][1].clear();
-    p.prova.sessione.tipodocumento = 1;
-    p.nuovo(u"1"_s);
+    p.nuovo(u"1"_s, 1);
     p.documento.scorporo = true;
     p.documento.ddd[0] = rigaDi(122);
     p.documento.estremi.esig = true;

@@ -54,7 +54,7 @@ TEST(FormFatturaPa, LaGenerazioneScriveIDatiEDiceDove) {
     f.form.scegliVettore(4);
     f.form.genera();
 
-    EXPECT_EQ(f.prova.sessione.recordfpa, 7);
+    EXPECT_EQ(f.documento.recordfpa, 7);
     EXPECT_EQ(f.prova.archivio.leggiTot(Conta::Fpa).numero, 7);
     const QByteArray bytes = f.azienda.leggi(u"fpa7"_s);
     ASSERT_EQ(bytes.size(), 2421);
@@ -83,7 +83,7 @@ TEST(FormFatturaPa, IlContatoreRicominciaDaUno) {
     f.prova.archivio.scriviTot(Conta::Fpa, contatore);
     f.form.attiva();
     f.form.genera();
-    EXPECT_EQ(f.prova.sessione.recordfpa, 1);
+    EXPECT_EQ(f.documento.recordfpa, 1);
     EXPECT_EQ(f.prova.archivio.leggiTot(Conta::Fpa).numero, 1);
 }
 
@@ -103,7 +103,7 @@ TEST(FormFatturaPa, RipristinoDeiDatiGiaInseriti) {
     d.esigdifferita.set(u"1");
     d.vettorenome.set(u"Trasporti Rapidi");
     f.azienda.scrivi(u"fpa3"_s, bytesDi(d));
-    f.prova.sessione.recordfpa = 3;
+    f.documento.recordfpa = 3;
     f.form.attiva();
     EXPECT_EQ(f.form.scelta(ListaFpa::TipoDocumento), 4);
     EXPECT_EQ(f.form.scelta(ListaFpa::Causale), 5);
@@ -122,7 +122,7 @@ TEST(FormFatturaPa, RipristinoDeiDatiGiaInseriti) {
     // Data that are gone are proposed again and get a new number.
     QFile::remove(f.azienda.percorso(u"fpa3"_s));
     f.form.attiva();
-    EXPECT_EQ(f.prova.sessione.recordfpa, 0);
+    EXPECT_EQ(f.documento.recordfpa, 0);
     EXPECT_EQ(f.form.testo(16), u"42"_s);
     EXPECT_EQ(f.form.testo(13), QString());
     EXPECT_EQ(f.form.nomeVettore(), QString());

@@ -66,7 +66,7 @@ struct FatturaDiProva {
     explicit FatturaDiProva(const Fpa& societa = fpaSocieta(), const Cli& cliente = clienteComune()) {
         azienda.scrivi(QStringLiteral("borlano.fpa"), bytesDi(societa));
         QDir(azienda.percorsi().radiceCorrente()).mkdir(QStringLiteral("xml"));
-        prova.sessione.recordcliente = prova.archivio.aggiungi(prova.archivio.cli, Conta::Cli, cliente);
+        documento.recordcliente = prova.archivio.aggiungi(prova.archivio.cli, Conta::Cli, cliente);
         prova.impostazioni.eur[1] = QStringLiteral("1");
         tabelle.aliquote[1][0] = QStringLiteral("22");
         tabelle.aliquote[2] = {QStringLiteral("22"), QStringLiteral("20"), {}, {}};

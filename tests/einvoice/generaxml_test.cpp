@@ -120,7 +120,7 @@ TEST(FatturaXml, RateConBonificoEIban) {
 TEST(FatturaXml, NotaDiCreditoConIvaNeiPrezzi) {
     FatturaDiProva f;
     f.tipoPagamento(u'2');
-    f.prova.sessione.tipodocumento = 1;
+    f.documento.coppia.fte.tipo = 1;
     f.documento.scorporo = true;
     f.documento.ddd[0].prezzo = 12.2;
     f.form.attiva();

@@ -3,7 +3,6 @@
 #include "archive/archivio.h"
 #include "archive/impostazioni.h"
 #include "archive/tabelle.h"
-#include "common/sessione.h"
 
 #include <QDir>
 #include <QLoggingCategory>
@@ -43,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     bor::Disco disco;
     const bor::Percorsi percorsi(unita.path(), unita.filePath(u"c"_s));
     bor::Archivio archivio(percorsi, disco, 7);
-    const bor::Impostazioni impostazioni = bor::caricaimpostazioni(archivio, bor::Sessione());
+    const bor::Impostazioni impostazioni = bor::caricaimpostazioni(archivio);
     const bor::Tabelle tabelle = bor::leggiTabelle(archivio);
     for (int codice = -1; codice <= 17; ++codice)
         (void)(tabelle.aliquota(codice) + tabelle.ritenuta(codice));

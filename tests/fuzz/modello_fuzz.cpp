@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     documento.coppia.fte.nfile = 1.0F;
     documento.coppia.fte.parcella = quale == 3 ? 1 : 0;
     documento.ddd[0].descrizione = u"Vite"_s;
-    leggedoc(documento, prova.contesto, RigheInSospeso());
+    leggedoc(documento, prova.archivio, RigheInSospeso());
     StampanteFinta stampante;
     (void)stampaDocumento(documento, prova.contesto, stampante);
     return 0;

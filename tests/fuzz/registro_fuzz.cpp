@@ -43,7 +43,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     contatore.numero = conteggio(dati[1]);
     contesto.archivio.scriviTot(bor::Conta::Cli, contatore);
 
-    bor::Borfte registro(contesto.contesto, [] { return false; });
+    bor::Documento documento;
+    bor::Borfte registro(contesto.contesto, documento, [] { return false; });
     registro.carica();
     guarda(registro);
     for (int colonna = 0; colonna < bor::colonneElenco; ++colonna)

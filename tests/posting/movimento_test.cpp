@@ -2,6 +2,7 @@
 #include "document/righeiva.h"
 #include "document/totaliparcella.h"
 #include "posting/borftec.h"
+#include "posting/saldi.h"
 #include "posting/setfat.h"
 #include "support/azienda.h"
 
@@ -140,7 +141,7 @@ TEST_F(MovimentoTest, ScriveGiornaleESaldiEPoiSostituisceSulPosto) {
     EXPECT_EQ(prova.archivio.leggiTot(Conta::Gio).numero, 1);
 
     // The document changed: its movement comes back, is changed and replaced in place.
-    documento.record = 4;
+    documento.recordfattura = 4;
     prova.sessione.modificamovimento = true;
     form.prepara(setfat(documento, prova.contesto));
     EXPECT_EQ(form.testo(3, Borftec::Campo::Avere), u"22"_s);
@@ -194,7 +195,7 @@ TEST_F(MovimentoTest, SiCercanoContiESiSpostanoRighe) {
     EXPECT_EQ(form.testo(0, Borftec::Campo::Mastro), u"40"_s);
 }
 
-TEST_F(MovimentoTest, LoStornoDiUnEliminatoVaDallaParteOpposta) {
+TEST_F(MovimentoTest, UnMovimentoSostituitoTornaDalSuoLatoUnoEliminatoDaQuelloOpposto) {
     const int n = conto(u"10010001", u"Clienti");
     VoceGio voce = vuoto<VoceGio>();
     voce.conto.set(u"10010001");
@@ -204,6 +205,17 @@ TEST_F(MovimentoTest, LoStornoDiUnEliminatoVaDallaParteOpposta) {
     voce.segno = 1;
     EXPECT_TRUE(applicaconto(prova.archivio, voce));
     EXPECT_EQ(saldi(n), QList<double>({-30, -30}));
+    EXPECT_TRUE(stornaconto(prova.archivio, voce));
+    EXPECT_EQ(saldi(n), QList<double>({-60, -30}));
+    voce.segno = 0;
+    EXPECT_TRUE(stornaconto(prova.archivio, voce));
+    EXPECT_EQ(saldi(n), QList<double>({-60, -60}));
+    voce.importo = -1.0;
+    EXPECT_TRUE(stornaconto(prova.archivio, voce));
+    voce.conto.set(u"99");
+    voce.importo = 1.0;
+    EXPECT_TRUE(stornaconto(prova.archivio, voce)) << "an account that is not in the chart";
+    EXPECT_EQ(saldi(n), QList<double>({-60, -60}));
 }
 
 } // namespace

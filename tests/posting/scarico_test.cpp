@@ -29,7 +29,7 @@ protected:
                             .prezzo = 122.33};
         documento.ddd[1] = {.recart = 2, .codice2 = u"X"_s, .quantita = 5, .prezzo = 1};
         documento.ddd[2] = {.descrizione = u"senza articolo"_s, .quantita = 5, .prezzo = 1};
-        prova.sessione.recordcliente = 9;
+        documento.recordcliente = 9;
     }
     QList<double> stato() const {
         const Art a = prova.archivio.art.leggi(2);
@@ -64,7 +64,7 @@ TEST_F(ScaricoTest, UnaFatturaScaricaEIlRitornoRipristinaLaGiacenza) {
 }
 
 TEST_F(ScaricoTest, NotaDiCreditoConPrezziIvati) {
-    prova.sessione.tipodocumento = 1;
+    documento.coppia.fte.tipo = 1;
     documento.scorporo = true;
     documento.ddd[0].prezzo = 122;
     documento.ddd[0].sconto1 = documento.ddd[0].sconto2 = 0;

@@ -24,13 +24,14 @@ class RegistroTest : public testing::Test {
 protected:
     void apri() {
         m_prova = std::make_unique<ContestoDiProva>(azienda);
-        m_form = std::make_unique<Borfte>(m_prova->contesto, [this] { return sospese; });
+        m_form = std::make_unique<Borfte>(m_prova->contesto, documento, [this] { return sospese; });
         m_form->carica();
     }
     Borfte& form() { return *m_form; }
     ContestoDiProva& prova() { return *m_prova; }
 
     AziendaDiProva azienda;
+    Documento documento;
     bool sospese = false;
 
 private:
@@ -170,8 +171,8 @@ TEST_F(RegistroTest, ApreDocumentiEPdf) {
     EXPECT_TRUE(prova().navigatore.mostrati.isEmpty());
     form().apri(0, 4);
     EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftea});
-    EXPECT_EQ(prova().sessione.recordfattura, 1);
-    EXPECT_EQ(prova().sessione.recordcliente, cliente);
+    EXPECT_EQ(documento.recordfattura, 1);
+    EXPECT_EQ(documento.recordcliente, cliente);
 }
 
 TEST_F(RegistroTest, UnDocumentoNuovoVuoleUnCliente) {
@@ -182,7 +183,7 @@ TEST_F(RegistroTest, UnDocumentoNuovoVuoleUnCliente) {
     azienda.cliente(QStringLiteral("Rossi"));
     form().nuovoDocumento(1);
     EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftem});
-    EXPECT_EQ(prova().sessione.tipodocumento, 1);
+    EXPECT_EQ(documento.tipodocumento(), 1);
 }
 
 TEST_F(RegistroTest, UscireChiedeSoloConRigheNonRegistrate) {

@@ -46,7 +46,7 @@ TEST_F(Picker, FiltraInOrdineAlfabetico_SenzaEliminati) {
     EXPECT_EQ(nomi(u"CITTÀ V"_s), QStringList{u"Bar Città verde"_s});
     EXPECT_EQ(nomi(u"   "_s).size(), 3);
     EXPECT_EQ(form.righeGriglia(), 25);
-    EXPECT_EQ(contesto.sessione.righelista, 4);
+    EXPECT_EQ(form.quanti(), 3);
     form.ordina(ColonnaCliente::PartitaIva);
     EXPECT_EQ(form.testo(0, ColonnaCliente::PartitaIva), u"2");
     EXPECT_EQ(form.testo(1, ColonnaCliente::PartitaIva), u"10");

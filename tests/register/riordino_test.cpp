@@ -34,7 +34,8 @@ struct RiordinoTest : testing::Test {
     }
 
     void riordinaPer(ContestoDiProva& prova, TipoRiordino tipo) {
-        Borfte form(prova.contesto, {});
+        Documento documento;
+        Borfte form(prova.contesto, documento, {});
         form.carica();
         form.scegliRiordino();
         form.riordino(tipo);
@@ -70,7 +71,8 @@ TEST_F(RiordinoTest, UnRifiutoNonToccaNullaERiportaIBottoni) {
     const QByteArray tot = azienda.leggi(QStringLiteral("borlano.tot"));
     ContestoDiProva prova(azienda);
     prova.operatore.rispostaSolita = false;
-    Borfte form(prova.contesto, {});
+    Documento documento;
+    Borfte form(prova.contesto, documento, {});
     form.carica();
     form.scegliRiordino();
     EXPECT_EQ(form.etichetta(), QStringLiteral("Seleziona il tipo di riordino da eseguire"));

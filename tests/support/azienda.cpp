@@ -107,7 +107,7 @@ ContestoDiProva::ContestoDiProva(const AziendaDiProva& azienda, Disco& disco)
                                                                    sistema,  navigatore, timbro} {
     sessione.codiceazienda = codiceDiProva;
     archivio.apri();
-    impostazioni = caricaimpostazioni(archivio, sessione);
+    impostazioni = caricaimpostazioni(archivio);
     tabelle = leggiTabelle(archivio);
 }
 

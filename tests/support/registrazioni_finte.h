@@ -5,12 +5,15 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace bor {
 
 class RegistrazioniFinte : public Registrazioni {
 public:
     QStringList chiamate;
     bool esito = true;
+    std::function<bool(const Gio&)> storno; ///< what taking a movement back does, where a test needs it
 
     bool togliscarico(const Documento&) override {
         chiamate.append(QStringLiteral("togli"));
@@ -21,6 +24,10 @@ public:
         return esito;
     }
     void preparaMovimento(const Documento&) override { chiamate.append(QStringLiteral("movimento")); }
+    bool stornaconti(const Gio& movimento) override {
+        chiamate.append(QStringLiteral("storna"));
+        return storno ? storno(movimento) : esito;
+    }
 };
 
 } // namespace bor

@@ -22,7 +22,7 @@ protected:
             azienda.documento(c);
         }
         prova = std::make_unique<ContestoDiProva>(azienda);
-        form = std::make_unique<Borfte>(prova->contesto, nullptr);
+        form = std::make_unique<Borfte>(prova->contesto, documento, nullptr);
         form->carica();
         vista = std::make_unique<VistaBorfte>(*form);
         mostra(*vista);
@@ -35,6 +35,7 @@ protected:
 
     AziendaDiProva azienda;
     std::unique_ptr<ContestoDiProva> prova;
+    Documento documento;
     std::unique_ptr<Borfte> form;
     std::unique_ptr<VistaBorfte> vista;
     QTableView* griglia = nullptr;
@@ -50,7 +51,7 @@ TEST_F(VistaRegistroTest, DallaTastieraSiSceglieSiOrdinaESiApre) {
     tasto(*vista, Qt::Key_Down);
     tasto(*vista, Qt::Key_Return);
     EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
-    EXPECT_EQ(prova->sessione.recordfattura, 4);
+    EXPECT_EQ(documento.recordfattura, 4);
 }
 
 TEST_F(VistaRegistroTest, FiltroEOpzioniRiempionoDiNuovo) {

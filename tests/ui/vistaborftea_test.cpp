@@ -29,10 +29,11 @@ struct AziendaConTabelle {
         t.ricavi[1] = u"Vendita di merci"_s;
         t.ricavi[2] = u"Prestazioni di servizi"_s;
         azienda.scrivi(u"borlano.trb"_s, "1040 Ritenute lavoro autonomo\r\n");
-        prova.sessione.recordcliente = azienda.cliente(u"Officine Rossi"_s);
+        cliente = azienda.cliente(u"Officine Rossi"_s);
     }
 
     AziendaDiProva azienda;
+    int cliente = 0;
     ContestoDiProva prova{azienda};
 };
 
@@ -128,7 +129,7 @@ TEST_F(VistaDocumento, DaiTastiAiTotali) {
 
 TEST_F(VistaDocumento, ProspettiUnoAllaVolta) {
     prova.tabelle.tipiiva[3][1] = u"0010"_s;
-    prova.sessione.recordfattura = azienda.documento(intera());
+    documento.recordfattura = azienda.documento(intera());
     mostra(vista);
     EXPECT_EQ(vista.windowTitle(), u"Modifica dati fatturaPA emessa");
     EXPECT_EQ(foglio(u"Label3"_s), u"Fattura integrata operazione reverse charge");

@@ -49,10 +49,10 @@ protected:
         return cli;
     }
     void apri(int tipoparcella) {
-        prova->sessione.recordfattura = 1;
-        prova->sessione.recordcliente = rossi;
+        documento.recordfattura = 1;
+        documento.recordcliente = rossi;
         prova->sessione.testataletta = true;
-        prova->sessione.tipoparcella = tipoparcella;
+        documento.coppia.fte.parcella = static_cast<std::int16_t>(tipoparcella);
         mostra(*vista);
     }
     /// The fields that a key comes to, from one to another.

@@ -23,7 +23,7 @@ protected:
         azienda.articolo(articoloDi(u"DADO"_s, u"Dado esagonale"_s, 0.8, 2));
         azienda.articolo(articoloDi(u"PERNO"_s, u"Perno temprato"_s, 12.4, 1));
         prova = std::make_unique<ContestoDiProva>(azienda);
-        prova->sessione.recordcliente = 1;
+        documento.recordcliente = 1;
         prova->tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, {}};
         prova->tabelle.aliquote[2] = {u"10"_s, {}, {}, {}};
         prova->tabelle.esenzioni[3][1] = u"Esente art.10"_s;

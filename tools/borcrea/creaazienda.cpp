@@ -130,7 +130,7 @@ bool Cantiere::scriviArchivio() {
     Timbro timbro;
     Sessione sessione;
     sessione.codiceazienda = m_richiesta.codice;
-    Impostazioni impostazioni = caricaimpostazioni(m_archivio, sessione);
+    Impostazioni impostazioni = caricaimpostazioni(m_archivio);
     const Tabelle tabelle = leggiTabelle(m_archivio);
     Contesto contesto{sessione, m_archivio, impostazioni, tabelle, operatore,
                       orologio, sistema,    schermi,      timbro};

@@ -2,7 +2,7 @@
 
 #include "borcrea/foglio.h"
 #include "common/numeri.h"
-#include "document/defaultcliente.h"
+#include "document/apridoc.h"
 #include "document/scadenze.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
@@ -132,11 +132,10 @@ void leggiEstremi(const RigaFoglio& foglio, Documento& d) {
     e.quota2 = testoCasella(foglio.numero(u"quota2"));
     e.pdf = foglio.testo(u"pdf", 60);
     d.scorporo = foglio.segno(u"scorporo");
-    d.coppia.f2e.fpa = foglio.intero(u"fpa", 0, Archivio::massimo);
+    d.recordfpa = foglio.intero(u"fpa", 0, Archivio::massimo);
 }
 
 void leggiTestata(const RigaFoglio& foglio, Documento& d) {
-    d.testata.cliente = DatiCliente::da(d.cliente);
     Trasporto& t = d.testata.trasporto;
     t.ddt = foglio.testo(u"ddt", 120);
     t.ordine = foglio.testo(u"ordine", 40);
@@ -167,18 +166,14 @@ void calcola(Documento& d, const Contesto& contesto) {
 }
 
 DocumentoPronto leggiDocumento(const RigaFoglio& foglio, const Chiave& chiave, const Righe& righe,
-                               const Anagrafiche& a, const Contesto& contesto) {
+                               const Contesto& contesto) {
     DocumentoPronto pronto;
     Documento& d = pronto.documento;
-    d.coppia.fte.cliente = static_cast<std::int16_t>(chiave.cliente);
-    d.coppia.fte.tipo = foglio.testo(u"tipo", senzaLimite) == u"nota" ? 1 : 0;
+    const int tipo = foglio.testo(u"tipo", senzaLimite) == u"nota" ? 1 : 0;
+    d = nuovoDocumento(contesto, tipo, chiave.cliente);
     d.coppia.fte.parcella = chiave.parcella ? 1 : 0;
-    inizializza2(d.coppia.f2e);
-    if (chiave.cliente > 0)
-        d.cliente = a.clienti[static_cast<std::size_t>(chiave.cliente - 1)];
     leggiEstremi(foglio, d);
     leggiTestata(foglio, d);
-    prendiDefaults(d, contesto);
     d.scadenze.pagamento = foglio.intero(u"pagamento", 1, 60, d.scadenze.pagamento + 1) - 1;
     const QString documento = foglio.testo(u"documento", 20);
     std::ranges::copy(righe.merce.value(documento), d.ddd.begin());
@@ -218,7 +213,7 @@ void leggiFpa(const QString& cartella, const QHash<QString, std::size_t>& posti,
     for (const RigaFoglio& riga : foglio.righe()) {
         const QString chiave = riga.obbligatorio(u"documento", 20);
         const auto posto = posti.constFind(chiave);
-        if (posto == posti.constEnd() || !documenti[*posto].documento.fatturaPa()) {
+        if (posto == posti.constEnd() || documenti[*posto].documento.recordfpa < 1) {
             riga.problema(u"documento: \"%1\" non ha un numero fpa in documenti.csv."_s.arg(chiave));
             continue;
         }
@@ -249,7 +244,7 @@ std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagr
         const QString documento = riga.testo(u"documento", 20);
         const Chiave chiave = chiavi.value(documento);
         posti.insert(documento, documenti.size());
-        documenti.push_back(leggiDocumento(riga, chiave, righe, anagrafiche, contesto));
+        documenti.push_back(leggiDocumento(riga, chiave, righe, contesto));
     }
     leggiFpa(cartella, posti, documenti, problemi);
     return documenti;

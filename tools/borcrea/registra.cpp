@@ -3,7 +3,7 @@
 
 #include "common/numeri.h"
 #include "document/filerighe.h"
-#include "document/riempirecord.h"
+#include "document/recorddoc.h"
 #include "posting/borftec.h"
 #include "posting/scarico.h"
 #include "posting/setfat.h"
@@ -58,14 +58,10 @@ bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
     m_ultimo = u"documento n. %1 del %2"_s.arg(d.estremi.numero, d.estremi.data);
     const QDate data = dataValida(d.estremi.datareg).value_or(QDate(2015, 1, 1));
     m_orologio.momento = QDateTime(data, QTime(8, 0)).addSecs(n);
-    const Fte letta = d.coppia.fte;
-    m_contesto.sessione.tipodocumento = letta.tipo;
-    m_contesto.sessione.tipoparcella = letta.parcella;
-    m_contesto.sessione.recordcliente = letta.cliente;
-    m_contesto.sessione.recordfpa = d.coppia.f2e.fpa;
+    const Intero parcella = d.coppia.fte.parcella;
     d.coppia = riempiRecord(d, m_contesto);
     // The program itself begins no fee bill: a record that is one keeps its mark.
-    d.coppia.fte.parcella = letta.parcella;
+    d.coppia.fte.parcella = parcella;
     d.coppia.fte.nfile = static_cast<float>(n);
     d.coppia.fte.annullata = pronto.eliminato ? 1 : 0;
     if (!pronto.eliminato && !scrividoc(d, archivio))
@@ -77,7 +73,7 @@ bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
     }
     if (!archivio.scrivi(n, d.coppia))
         return false;
-    if (pronto.fpa && !scriviFpa(archivio, u"fpa"_s + testoDecimale(double{d.coppia.f2e.fpa}), *pronto.fpa))
+    if (pronto.fpa && !scriviFpa(archivio, u"fpa"_s + testoDecimale(d.recordfpa), *pronto.fpa))
         return false;
     return pronto.eliminato || registra(d);
 }
@@ -93,8 +89,8 @@ bool Registratore::scrivi(std::vector<DocumentoPronto>& documenti) {
         tot.numero = static_cast<std::int16_t>(n);
         tot.ultimonumero = static_cast<std::int16_t>(valoreIntero(pronto.documento.estremi.numero));
         tot.progressivo = static_cast<float>(n);
-        fpa.numero = std::max<std::int16_t>(
-            fpa.numero, static_cast<std::int16_t>(double{pronto.documento.coppia.f2e.fpa}));
+        fpa.numero =
+            std::max<std::int16_t>(fpa.numero, static_cast<std::int16_t>(pronto.documento.recordfpa));
     }
     return m_contesto.archivio.scriviTot(Conta::Fte, tot) && m_contesto.archivio.scriviTot(Conta::Fpa, fpa);
 }

@@ -1,0 +1,43 @@
+#include "document/apridoc.h"
+
+#include "archive/contesto.h"
+#include "document/clienti.h"
+#include "document/defaultcliente.h"
+#include "document/filerighe.h"
+#include "document/integrata.h"
+#include "document/recorddoc.h"
+#include "document/scadenze.h"
+
+namespace bor {
+
+Documento nuovoDocumento(const Contesto& contesto, int tipodocumento, int recordcliente) {
+    Documento documento;
+    inizializza2(documento.coppia.f2e);
+    documento.coppia.fte.tipo = static_cast<std::int16_t>(tipodocumento);
+    documento.recordcliente = recordcliente;
+    prendiCliente(documento, contesto.archivio, recordcliente);
+    prendiDefaults(documento, contesto);
+
+    const Tot contatore = contesto.archivio.leggiTot(Conta::Fte);
+    Estremi& estremi = documento.estremi;
+    estremi.numero = QString::number(contatore.ultimonumero + 1);
+    estremi.protocollo = QString::number(contatore.numero + 1);
+    estremi.data = testoData(contesto.orologio.oggi());
+    estremi.datareg = estremi.data;
+    calcolascadenze(documento, contesto);
+    return documento;
+}
+
+Documento documentoEsistente(const Contesto& contesto, int recordfattura, const RigheInSospeso& sospese) {
+    Documento documento;
+    documento.recordfattura = recordfattura;
+    documento.coppia = contesto.archivio.leggi(recordfattura);
+    caricadoc(documento, contesto.archivio);
+    prendiCliente(documento, contesto.archivio, documento.recordcliente);
+    documento.estremi.postael = documento.cliente.postael.text() == u"1";
+    leggedoc(documento, contesto.archivio, sospese);
+    documento.integrata = cercaIntegrata(documento.coppia, contesto.tabelle);
+    return documento;
+}
+
+} // namespace bor
