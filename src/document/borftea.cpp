@@ -1,6 +1,5 @@
 #include "document/borftea.h"
 
-#include "common/numeri.h"
 #include "document/apridoc.h"
 #include "document/scadenze.h"
 

@@ -1,7 +1,6 @@
 #include "document/eliminadoc.h"
 
 #include "archive/contesto.h"
-#include "common/numeri.h"
 #include "document/avvisi.h"
 #include "document/filerighe.h"
 #include "document/registrazioni.h"
