@@ -1,7 +1,6 @@
 #include "einvoice/borftepa.h"
 
 #include "common/numeri.h"
-#include "einvoice/campifpa.h"
 #include "einvoice/generaxml.h"
 #include "einvoice/tabellefpa.h"
 
@@ -15,7 +14,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString titoloForm = u"Fattura elettronica PA"_s;
-constexpr int testoProgressivo = 16;
+
+/// The codes in front of the rows of the lists, as "MP05".
+constexpr qsizetype lunghezzaCodice = 4;
+constexpr qsizetype cifreCodice = 3; ///< position of the digits, from 1
+constexpr qsizetype cifraTipoDocumento = 4;
+constexpr qsizetype letteraCausale = 1;
 
 Fpa bianca() {
     Fpa fpa = vuoto<Fpa>();
@@ -46,7 +50,7 @@ void Borftepa::attiva() {
         ripristina();
     } else {
         m_documento.recordfpa = 0;
-        cambia(testoProgressivo, testoDecimale(valore(m_fpaazienda.progressivoinvio.text()) + 1));
+        cambia(TestoFpa::Progressivo, testoDecimale(valore(m_fpaazienda.progressivoinvio.text()) + 1));
     }
 }
 
@@ -57,7 +61,6 @@ void Borftepa::lascia() {
 void Borftepa::vuotaCampi() {
     m_fpadoc = bianca();
     m_testi.fill({});
-    m_date.fill({});
     m_vettore = -1;
     m_generato = false;
 }
@@ -69,31 +72,34 @@ void Borftepa::apriAzienda() {
 }
 
 void Borftepa::proponi() {
-    cambia(0, m_documento.estremi.numero);
-    cambiaData(0, m_documento.estremi.data);
+    const Trasporto& trasporto = m_documento.testata.trasporto;
+    const bool completo = valore(m_documento.scadenze.rate[1].importo) == 0.0;
+    cambia(TestoFpa::Numero, m_documento.estremi.numero);
+    cambia(DataFpa::Documento, m_documento.estremi.data);
     art73 = false;
     esig = m_documento.estremi.esig;
-    cambia(1, m_documento.testata.trasporto.ddt);
-    cambia(2, m_documento.testata.trasporto.ordine);
-    scegli(ListaFpa::TipoDocumento, m_documento.tipodocumento() == 0 ? 0 : 3);
-    scegli(ListaFpa::Causale, 0);
-    scegli(ListaFpa::TipoRitenuta, 0);
-    scegli(ListaFpa::Condizioni, valore(m_documento.scadenze.rate[1].importo) == 0.0 ? 1 : 0);
+    cambia(TestoFpa::NumeroDdt, trasporto.ddt);
+    cambia(TestoFpa::OrdineNumero, trasporto.ordine);
+    scegliCodice(ListaFpa::TipoDocumento, m_documento.tipodocumento() == 0 ? u"TD01" : u"TD04");
+    scegliCodice(ListaFpa::Causale, u"A");
+    scegliCodice(ListaFpa::TipoRitenuta, u"RT00");
+    scegliCodice(ListaFpa::Condizioni, completo ? u"TP02" : u"TP01");
     proponiPagamento();
     m_fpadoc.coddestinatario.set(m_cliente.clix2.text());
 }
 
 /// The payment type's code tells how it is paid; a type without one counts as bank receipts.
 void Borftepa::proponiPagamento() {
+    constexpr qsizetype posizioneModalita = 23; // in the code
     const int riga = m_documento.scadenze.pagamento + 1;
     const auto& tipi = m_contesto.tabelle.tipopagamenti;
     const QString codice =
         riga >= 0 && riga < std::ssize(tipi) ? tipi[static_cast<std::size_t>(riga)][1] : QString();
-    constexpr std::array modalita = {11, 4, 0, 8}; // RIBA, bank transfer, cash, RID
-    constexpr int assegno = 1;
-    const int tipo = valoreIntero(pezzo(codice, 23, 1));
-    scegli(ListaFpa::Modalita,
-           tipo < std::ssize(modalita) ? modalita[static_cast<std::size_t>(tipo)] : assegno);
+    // Bank receipt, bank transfer, cash, direct debit.
+    constexpr std::array<QStringView, 4> modalita = {u"MP12", u"MP05", u"MP01", u"MP09"};
+    constexpr QStringView assegno = u"MP02";
+    const auto tipo = static_cast<std::size_t>(valoreIntero(pezzo(codice, posizioneModalita, 1)));
+    scegliCodice(ListaFpa::Modalita, tipo < modalita.size() ? modalita[tipo] : assegno);
 }
 
 bool Borftepa::apriDocumento() {
@@ -102,64 +108,34 @@ bool Borftepa::apriDocumento() {
 
 void Borftepa::ripristina() {
     const Fpa& d = m_fpadoc;
-    const auto posizione = [](const QString& codice) { return valoreIntero(pezzo(codice, 3)) - 1; };
+    const auto posizione = [](const QString& codice) { return valoreIntero(pezzo(codice, cifreCodice)) - 1; };
     art73 = valore(d.art73flag.text()) != 0.0;
-    scegliSeEsiste(ListaFpa::TipoDocumento, valoreIntero(pezzo(d.tipodocpa.text(), 4, 1)) - 1);
-    const QString causale = d.causalepagamento.text();
-    const QStringList& causali = vociFpa(ListaFpa::Causale);
-    const auto trovata =
-        std::ranges::find_if(causali, [&](const QString& voce) { return voce.startsWith(causale); });
-    if (trovata != causali.end())
-        scegli(ListaFpa::Causale, static_cast<int>(trovata - causali.begin()));
+    scegliSeEsiste(ListaFpa::TipoDocumento,
+                   valoreIntero(pezzo(d.tipodocpa.text(), cifraTipoDocumento, 1)) - 1);
+    const int causale = posizioneFpa(ListaFpa::Causale, d.causalepagamento.text());
+    if (causale >= 0)
+        scegli(ListaFpa::Causale, causale);
     // The kinds of withholding count from RT00, so this one comes back a row early.
     scegliSeEsiste(ListaFpa::TipoRitenuta, posizione(d.tiporitenuta.text()));
     scegliSeEsiste(ListaFpa::Condizioni, posizione(d.condizionipagamento.text()));
     scegliSeEsiste(ListaFpa::Modalita, posizione(d.modalitapagamento.text()));
-    for (int i = 0; i < numeroTesti; ++i)
-        conCampoFpa(d, i, [&](const auto& campo) { m_testi[static_cast<std::size_t>(i)] = campo.trimmed(); });
-    for (int i = 0; i < numeroDate; ++i)
-        m_date[static_cast<std::size_t>(i)] = campoDataFpa(d, i).trimmed();
+    for (const CasellaFpa& casella : caselleFpa())
+        m_testi[indiceFpa(casella.posto)] = casella.leggi(d);
 }
 
-void Borftepa::cambia(int indice, const QString& testo) {
-    m_testi[static_cast<std::size_t>(indice)] = testo;
-    conCampoFpa(m_fpadoc, indice, [&](auto& campo) { campo.set(testo); });
+void Borftepa::cambia(PostoFpa posto, const QString& testo) {
+    m_testi[indiceFpa(posto)] = testo;
+    casellaFpa(posto).scrivi(m_fpadoc, testo);
 }
 
-void Borftepa::cambiaData(int indice, const QString& testo) {
-    m_date[static_cast<std::size_t>(indice)] = testo;
-    campoDataFpa(m_fpadoc, indice).set(testo);
+void Borftepa::lasciaData(DataFpa data) {
+    const auto letta = dataValida(completaData(testo(data)));
+    cambia(data, testoData(letta.value_or(m_contesto.orologio.oggi())));
 }
 
-void Borftepa::lasciaData(int indice) {
-    const auto letta = dataValida(completaData(data(indice)));
-    cambiaData(indice, testoData(letta.value_or(m_contesto.orologio.oggi())));
-}
-
-bool Borftepa::dataCompleta(int indice) const {
-    return data(indice).size() == 10 && dataValida(data(indice));
-}
-
-Borftepa::Posto Borftepa::invio(Posto da) {
-    constexpr std::array dopoData = {16, 2, 3, 6, 9, 12};
-    if (da.data)
-        return {false, dopoData[static_cast<std::size_t>(da.indice)]};
-    switch (da.indice) {
-    case 0:
-    case 1:
-    case 2:
-        return {true, da.indice};
-    case 5:
-    case 8:
-    case 11:
-        return {true, da.indice / 3 + 2};
-    case 15:
-        return da;
-    case testoProgressivo:
-        return {false, 1};
-    default:
-        return {false, da.indice + 1};
-    }
+bool Borftepa::dataCompleta(DataFpa data) const {
+    constexpr qsizetype lunghezzaData = 10; // "dd/mm/yyyy"
+    return testo(data).size() == lunghezzaData && dataValida(testo(data));
 }
 
 QStringList Borftepa::vettori() const {
@@ -184,9 +160,10 @@ void Borftepa::genera() {
     }
     m_generato = true;
     // Said of a failed write too, as the suite always did; the check of the file tells the truth.
-    m_contesto.operatore.messaggio(u"Il file %1 è stato creato all'interno della cartella %2"_s.arg(
-                                       nomeXml(m_fpaazienda, testo(0)), cartellaXml(m_fpaazienda)),
-                                   titoloForm, Icona::Informazione);
+    m_contesto.operatore.messaggio(
+        u"Il file %1 è stato creato all'interno della cartella %2"_s.arg(
+            nomeXml(m_fpaazienda, testo(TestoFpa::Numero)), cartellaXml(m_fpaazienda)),
+        titoloForm, Icona::Informazione);
 }
 
 void Borftepa::scriviXml() {
@@ -201,19 +178,19 @@ void Borftepa::scriviXml() {
                                       .coordinate = m_documento.testata.cliente.coordinate,
                                       .tabelle = m_contesto.tabelle,
                                       .valuta = m_contesto.valuta()});
-    const QString percorso = percorsoXml(m_contesto.archivio, m_fpaazienda, testo(0));
+    const QString percorso = percorsoXml(m_contesto.archivio, m_fpaazienda, testo(TestoFpa::Numero));
     if (!percorso.isEmpty())
         m_contesto.archivio.disco().scriviFile(percorso, xml);
 }
 
 void Borftepa::raccogli() {
     Fpa& d = m_fpadoc;
-    d.tipodocpa.set(voce(ListaFpa::TipoDocumento).left(4));
+    d.tipodocpa.set(voce(ListaFpa::TipoDocumento).left(lunghezzaCodice));
     const bool ritenuta = m_riepilogo.percentualeritenuta > 0;
-    d.tiporitenuta.set(ritenuta ? voce(ListaFpa::TipoRitenuta).left(4) : QString());
+    d.tiporitenuta.set(ritenuta ? voce(ListaFpa::TipoRitenuta).left(lunghezzaCodice) : QString());
     d.importoritenuta.set(ritenuta ? testoDecimale(m_riepilogo.totaleritenuta) : QString());
     d.aliquotaritenuta.set(ritenuta ? testoDecimale(m_riepilogo.percentualeritenuta) : QString());
-    d.causalepagamento.set(ritenuta ? voce(ListaFpa::Causale).left(1) : QString());
+    d.causalepagamento.set(ritenuta ? voce(ListaFpa::Causale).left(letteraCausale) : QString());
     d.tipocassa.blank();
     d.alcassa.blank();
     d.importocassa.blank();
@@ -221,8 +198,8 @@ void Borftepa::raccogli() {
     d.aliquotacassa.blank();
     d.ritenutacassa.blank();
     d.naturacassa.blank();
-    d.condizionipagamento.set(voce(ListaFpa::Condizioni).left(4));
-    d.modalitapagamento.set(voce(ListaFpa::Modalita).left(4));
+    d.condizionipagamento.set(voce(ListaFpa::Condizioni).left(lunghezzaCodice));
+    d.modalitapagamento.set(voce(ListaFpa::Modalita).left(lunghezzaCodice));
     d.art73flag.set(art73 ? u"1" : u"0");
     d.esigdifferita.set(esig ? u"1" : u"0");
 }
@@ -246,12 +223,12 @@ double Borftepa::nuovoProgressivo() {
 }
 
 std::optional<std::vector<Rilievo>> Borftepa::controlla() {
-    const QString percorso = percorsoXml(m_contesto.archivio, m_fpaazienda, testo(0));
+    const QString percorso = percorsoXml(m_contesto.archivio, m_fpaazienda, testo(TestoFpa::Numero));
     QFile file(percorso);
     if (percorso.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         m_contesto.operatore.messaggio(
             u"Il file %1 non si trova nella cartella %2: controllare che la cartella esista e che il numero del documento possa far parte del nome di un file"_s
-                .arg(nomeXml(m_fpaazienda, testo(0)), cartellaXml(m_fpaazienda)),
+                .arg(nomeXml(m_fpaazienda, testo(TestoFpa::Numero)), cartellaXml(m_fpaazienda)),
             titoloForm, Icona::Esclamazione);
         return std::nullopt;
     }
@@ -278,6 +255,10 @@ QString Borftepa::fileDocumento() const {
 
 QString Borftepa::voce(ListaFpa lista) const {
     return vociFpa(lista).value(scelta(lista));
+}
+
+void Borftepa::scegliCodice(ListaFpa lista, QStringView codice) {
+    scegli(lista, posizioneFpa(lista, codice));
 }
 
 void Borftepa::scegliSeEsiste(ListaFpa lista, int posizione) {

@@ -5,6 +5,7 @@
 #include "archive/contesto.h"
 #include "archive/fpa.h"
 #include "document/documento.h"
+#include "einvoice/campifpa.h"
 #include "einvoice/controlloxml.h"
 #include "einvoice/listefpa.h"
 #include "einvoice/riepilogofpa.h"
@@ -15,17 +16,6 @@ namespace bor {
 
 class Borftepa {
 public:
-    static constexpr int numeroTesti = 17; ///< `Text2(0)` to `Text2(16)`
-    static constexpr int numeroDate = 6;   ///< `dsca(0)` to `dsca(5)`
-
-    /// A box of the form.
-    struct Posto {
-        bool data; ///< a `dsca`, otherwise a `Text2`
-        int indice;
-
-        friend bool operator==(const Posto&, const Posto&) = default;
-    };
-
     Borftepa(Contesto& contesto, Documento& documento);
 
     /// Proposes the data from the document, or restores those entered before. Where the company's own data
@@ -34,16 +24,12 @@ public:
     /// Returns to the document.
     void lascia(); ///< `comando(4)`
 
-    const QString& testo(int indice) const { return m_testi[static_cast<std::size_t>(indice)]; }
-    void cambia(int indice, const QString& testo);
-    const QString& data(int indice) const { return m_date[static_cast<std::size_t>(indice)]; }
-    void cambiaData(int indice, const QString& testo);
+    const QString& testo(PostoFpa posto) const { return m_testi[indiceFpa(posto)]; }
+    void cambia(PostoFpa posto, const QString& testo);
     /// A text that is no date gives way to today's.
-    void lasciaData(int indice);
+    void lasciaData(DataFpa data);
     /// The box holds a whole date: typing goes on in the next one.
-    bool dataCompleta(int indice) const;
-    /// Where Enter leads to.
-    static Posto invio(Posto da);
+    bool dataCompleta(DataFpa data) const;
 
     /// Positions count from 0; -1 is no selection.
     int scelta(ListaFpa lista) const { return m_scelte[static_cast<std::size_t>(lista)]; }
@@ -81,6 +67,7 @@ private:
     void scriviFpa(const QString& nome, const Fpa& fpa) const;
     QString fileDocumento() const;
     QString voce(ListaFpa lista) const;
+    void scegliCodice(ListaFpa lista, QStringView codice);
     void scegliSeEsiste(ListaFpa lista, int posizione);
 
     Contesto& m_contesto;
@@ -90,8 +77,7 @@ private:
     Fpa m_fpadoc = vuoto<Fpa>();
     TabellaRighe m_righepa;
     RiepilogoFpa m_riepilogo;
-    std::array<QString, numeroTesti> m_testi;
-    std::array<QString, numeroDate> m_date;
+    std::array<QString, numeroPostiFpa> m_testi; ///< as typed, of texts and dates
     std::array<int, numeroListeFpa> m_scelte{};
     int m_vettore = -1;
     bool m_generato = false;

@@ -1,65 +1,58 @@
-// Which field of the record stands behind which box of the electronic invoice form. Only the form uses it.
+// The boxes of the electronic invoice form: their names, the record's field behind each, and where Enter
+// leads.
 #pragma once
 
 #include "archive/fpa.h"
 
+#include <span>
+#include <variant>
+
 namespace bor {
 
-/// The references of the boxes, in the order of the screen.
-template <class R>
-auto& riferimentoFpa(R& fpa, int quale) {
-    switch (quale) {
-    case 0:
-        return fpa.ordine;
-    case 1:
-        return fpa.contratto;
-    case 2:
-        return fpa.convenzione;
-    default:
-        return fpa.ricezione;
-    }
+/// The text boxes, `Text2(0)` to `Text2(16)`.
+enum class TestoFpa {
+    Numero,
+    NumeroDdt,
+    OrdineNumero,
+    OrdineItem,
+    OrdineCommessa,
+    ContrattoNumero,
+    ContrattoItem,
+    ContrattoCommessa,
+    ConvenzioneNumero,
+    ConvenzioneItem,
+    ConvenzioneCommessa,
+    RicezioneNumero,
+    RicezioneItem,
+    RicezioneCommessa,
+    CodiceCup,
+    CodiceCig,
+    Progressivo
+};
+
+/// The date boxes, `dsca(0)` to `dsca(5)`.
+enum class DataFpa { Documento, Ddt, Ordine, Contratto, Convenzione, Ricezione };
+
+using PostoFpa = std::variant<TestoFpa, DataFpa>;
+
+inline constexpr std::size_t numeroTestiFpa = 17;
+inline constexpr std::size_t numeroPostiFpa = numeroTestiFpa + 6;
+
+/// Place of a box among all, from 0: the texts, then the dates.
+constexpr std::size_t indiceFpa(PostoFpa posto) {
+    if (const TestoFpa* testo = std::get_if<TestoFpa>(&posto))
+        return static_cast<std::size_t>(*testo);
+    return numeroTestiFpa + static_cast<std::size_t>(std::get<DataFpa>(posto));
 }
 
-/// Calls `f(field)` with the field of `Text2(indice)`, 0 to 16. From 2 to 13 stand three boxes of each
-/// reference.
-template <class R, class F>
-void conCampoFpa(R& fpa, int indice, F f) {
-    if (indice >= 2 && indice <= 13) {
-        auto& riferimento = riferimentoFpa(fpa, (indice - 2) / 3);
-        switch ((indice - 2) % 3) {
-        case 0:
-            return f(riferimento.numero);
-        case 1:
-            return f(riferimento.item);
-        default:
-            return f(riferimento.commessa);
-        }
-    }
-    switch (indice) {
-    case 0:
-        return f(fpa.numerodoc);
-    case 1:
-        return f(fpa.numeroddt);
-    case 14:
-        return f(fpa.codicecup);
-    case 15:
-        return f(fpa.codicecig);
-    default:
-        return f(fpa.progressivoinvio);
-    }
-}
+struct CasellaFpa {
+    PostoFpa posto;
+    QString (*leggi)(const Fpa& fpa); ///< trimmed
+    void (*scrivi)(Fpa& fpa, QStringView testo);
+    PostoFpa dopo; ///< where Enter leads; to itself where it stays
+};
 
-/// The field of `dsca(indice)`, 0 to 5.
-template <class R>
-auto& campoDataFpa(R& fpa, int indice) {
-    switch (indice) {
-    case 0:
-        return fpa.datadoc;
-    case 1:
-        return fpa.dataddt;
-    default:
-        return riferimentoFpa(fpa, indice - 2).data;
-    }
-}
+std::span<const CasellaFpa> caselleFpa();
+const CasellaFpa& casellaFpa(PostoFpa posto);
 
 } // namespace bor

@@ -1,5 +1,7 @@
 #include "einvoice/listefpa.h"
 
+#include <algorithm>
+
 namespace bor {
 
 using namespace Qt::StringLiterals;
@@ -82,6 +84,13 @@ const QStringList& vociFpa(ListaFpa lista) {
         break;
     }
     return modalita();
+}
+
+int posizioneFpa(ListaFpa lista, QStringView inizio) {
+    const QStringList& voci = vociFpa(lista);
+    const auto trovata =
+        std::ranges::find_if(voci, [inizio](const QString& voce) { return voce.startsWith(inizio); });
+    return trovata == voci.end() ? -1 : static_cast<int>(trovata - voci.begin());
 }
 
 } // namespace bor

@@ -13,4 +13,7 @@ inline constexpr std::size_t numeroListeFpa = 5;
 
 const QStringList& vociFpa(ListaFpa lista);
 
+/// Position of the first row that begins with the text, from 0; -1 for none.
+int posizioneFpa(ListaFpa lista, QStringView inizio);
+
 } // namespace bor

@@ -11,6 +11,10 @@ namespace {
 
 constexpr std::size_t codiciTassati = 12;
 
+/// Widths of the fields of `righepa`.
+constexpr qsizetype larghezzaDescrizione = 60;
+constexpr qsizetype larghezzaUnita = 2;
+
 QString campo(const QString& testo, qsizetype larghezza) {
     return testo.trimmed().left(larghezza).trimmed();
 }
@@ -20,8 +24,8 @@ QString campo(const QString& testo, qsizetype larghezza) {
 TabellaRighe caricarighe(const TabellaRighe& ddd) {
     TabellaRighe righepa = ddd;
     for (Riga& riga : righepa) {
-        riga.descrizione = campo(riga.descrizione, 60);
-        riga.um = campo(riga.um, 2);
+        riga.descrizione = campo(riga.descrizione, larghezzaDescrizione);
+        riga.um = campo(riga.um, larghezzaUnita);
     }
     return righepa;
 }

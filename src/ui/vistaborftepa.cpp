@@ -62,7 +62,7 @@ void VistaBorftepa::mostraCliente(QGridLayout* griglia, int riga, int colonna, i
                                   const std::function<QString(const Cli&)>& leggi) {
     auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(indice), descrizione, caratteri);
     legami.testo(campo, [this, leggi] { return leggi(m_form.cliente()); });
-    legami.entrato(campo, [this] { vai({false, 0}); });
+    legami.entrato(campo, [this] { vai(TestoFpa::Numero); });
     griglia->addWidget(campo, riga, colonna);
 }
 
@@ -89,9 +89,10 @@ QLayout* VistaBorftepa::creaDocumento() {
         linea->addSpacing(16);
     };
     aggiungi(u"Tipo documento"_s, creaLista(ListaFpa::TipoDocumento, u"Tipo documento"_s));
-    aggiungi(u"Numero"_s, creaTesto(0, u"Numero del documento"_s, 20));
-    aggiungi(u"Data"_s, creaData(0, u"Data del documento"_s));
-    aggiungi(u"Numero progressivo invio"_s, creaTesto(16, u"Numero progressivo invio"_s, 6));
+    aggiungi(u"Numero"_s, creaTesto(TestoFpa::Numero, u"Numero del documento"_s, 20));
+    aggiungi(u"Data"_s, creaData(DataFpa::Documento, u"Data del documento"_s));
+    aggiungi(u"Numero progressivo invio"_s,
+             creaTesto(TestoFpa::Progressivo, u"Numero progressivo invio"_s, 6));
     linea->addStretch();
     auto* spunte = new QHBoxLayout;
     spunte->addWidget(
@@ -106,22 +107,27 @@ QLayout* VistaBorftepa::creaDocumento() {
 }
 
 QLayout* VistaBorftepa::creaRiferimenti() {
+    using enum TestoFpa;
     auto* griglia = new QGridLayout;
     griglia->setVerticalSpacing(8);
     int colonna = 1;
     for (const QString& testo : {u"Numero"_s, u"Data"_s, u"Numero Item"_s, u"Commessa"_s})
         griglia->addWidget(new QLabel(testo), 0, colonna++);
-    riga(griglia, 1, u"Documento"_s, creaTesto(1, u"Documento di trasporto, numero"_s, 20));
-    griglia->addWidget(creaData(1, u"Documento di trasporto, data"_s), 1, 2);
-    creaRiferimento(griglia, 2, u"Ordine"_s, 2, 2);
-    creaRiferimento(griglia, 3, u"Contratto"_s, 5, 3);
-    creaRiferimento(griglia, 4, u"Convenzione"_s, 8, 4);
-    creaRiferimento(griglia, 5, u"Ricezione"_s, 11, 5);
+    riga(griglia, 1, u"Documento"_s, creaTesto(TestoFpa::NumeroDdt, u"Documento di trasporto, numero"_s, 20));
+    griglia->addWidget(creaData(DataFpa::Ddt, u"Documento di trasporto, data"_s), 1, 2);
+    creaRiferimento(griglia, 2, u"Ordine"_s, {OrdineNumero, DataFpa::Ordine, OrdineItem, OrdineCommessa});
+    creaRiferimento(griglia, 3, u"Contratto"_s,
+                    {ContrattoNumero, DataFpa::Contratto, ContrattoItem, ContrattoCommessa});
+    creaRiferimento(griglia, 4, u"Convenzione"_s,
+                    {ConvenzioneNumero, DataFpa::Convenzione, ConvenzioneItem, ConvenzioneCommessa});
+    creaRiferimento(griglia, 5, u"Ricezione"_s,
+                    {RicezioneNumero, DataFpa::Ricezione, RicezioneItem, RicezioneCommessa});
     griglia->addWidget(new QLabel(u"Codici progetto investimento pubblico / gara"_s), 6, 1, 1, 4);
     auto* codici = new QHBoxLayout;
     codici->setSpacing(6);
-    for (const auto& [indice, testo] : {std::pair{14, u"Codice CUP"_s}, std::pair{15, u"Codice CIG"_s}}) {
-        QLineEdit* campo = creaTesto(indice, testo, 15);
+    for (const auto& [casella, testo] :
+         {std::pair{CodiceCup, u"Codice CUP"_s}, std::pair{CodiceCig, u"Codice CIG"_s}}) {
+        QLineEdit* campo = creaTesto(casella, testo, 15);
         codici->addWidget(didascalia(testo, campo));
         codici->addWidget(campo);
         codici->addSpacing(8);
@@ -132,12 +138,12 @@ QLayout* VistaBorftepa::creaRiferimenti() {
     return griglia;
 }
 
-void VistaBorftepa::creaRiferimento(QGridLayout* griglia, int linea, const QString& nome, int primoTesto,
-                                    int dataRiferimento) {
-    riga(griglia, linea, nome, creaTesto(primoTesto, nome + u", numero"_s, 20));
-    griglia->addWidget(creaData(dataRiferimento, nome + u", data"_s), linea, 2);
-    griglia->addWidget(creaTesto(primoTesto + 1, nome + u", numero item"_s, 10), linea, 3);
-    griglia->addWidget(creaTesto(primoTesto + 2, nome + u", commessa"_s, 10), linea, 4);
+void VistaBorftepa::creaRiferimento(QGridLayout* griglia, int linea, const QString& nome,
+                                    const CaselleRiferimento& caselle) {
+    riga(griglia, linea, nome, creaTesto(caselle.numero, nome + u", numero"_s, 20));
+    griglia->addWidget(creaData(caselle.data, nome + u", data"_s), linea, 2);
+    griglia->addWidget(creaTesto(caselle.item, nome + u", numero item"_s, 10), linea, 3);
+    griglia->addWidget(creaTesto(caselle.commessa, nome + u", commessa"_s, 10), linea, 4);
 }
 
 QLayout* VistaBorftepa::creaPagamento() {
@@ -155,31 +161,33 @@ QLayout* VistaBorftepa::creaPagamento() {
     return griglia;
 }
 
-QLineEdit* VistaBorftepa::creaTesto(int indice, const QString& descrizione, int caratteri) {
-    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(indice), descrizione, caratteri);
-    m_testi[static_cast<std::size_t>(indice)] = campo;
-    legami.testo(
-        campo, [this, indice] { return m_form.testo(indice); },
-        [this, indice](const QString& t) { m_form.cambia(indice, t); });
-    invio.passo(campo, [this, indice] { vai(Borftepa::invio({false, indice})); });
+QLineEdit* VistaBorftepa::creaTesto(TestoFpa quale, const QString& descrizione, int caratteri) {
+    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(static_cast<int>(quale)), descrizione, caratteri);
+    lega(campo, quale);
+    invio.passo(campo, [this, quale] { vai(casellaFpa(quale).dopo); });
     return campo;
 }
 
-QWidget* VistaBorftepa::creaData(int indice, const QString& descrizione) {
+QWidget* VistaBorftepa::creaData(DataFpa quale, const QString& descrizione) {
+    const int indice = static_cast<int>(quale);
     auto* casella = new CampoData(u"dsca(%1)"_s.arg(indice), u"ddsca(%1)"_s.arg(indice), descrizione);
     QLineEdit* campo = casella->campo();
-    m_date[static_cast<std::size_t>(indice)] = campo;
-    legami.testo(
-        campo, [this, indice] { return m_form.data(indice); },
-        [this, indice](const QString& t) { m_form.cambiaData(indice, t); });
-    legami.lasciato(campo, [this, indice] { m_form.lasciaData(indice); });
-    const auto avanti = [this, indice] { vai(Borftepa::invio({true, indice})); };
+    lega(campo, quale);
+    legami.lasciato(campo, [this, quale] { m_form.lasciaData(quale); });
+    const auto avanti = [this, quale] { vai(casellaFpa(quale).dopo); };
     invio.passo(campo, avanti);
-    connect(campo, &QLineEdit::textEdited, this, [this, campo, indice, avanti] {
-        if (campo->hasFocus() && m_form.dataCompleta(indice))
+    connect(campo, &QLineEdit::textEdited, this, [this, campo, quale, avanti] {
+        if (campo->hasFocus() && m_form.dataCompleta(quale))
             avanti();
     });
     return casella;
+}
+
+void VistaBorftepa::lega(QLineEdit* campo, PostoFpa posto) {
+    m_caselle[indiceFpa(posto)] = campo;
+    legami.testo(
+        campo, [this, posto] { return m_form.testo(posto); },
+        [this, posto](const QString& t) { m_form.cambia(posto, t); });
 }
 
 QComboBox* VistaBorftepa::creaLista(ListaFpa lista, const QString& descrizione) {
@@ -231,9 +239,8 @@ void VistaBorftepa::controlla() {
         (new FinestraRilievi(*rilievi, this))->show();
 }
 
-void VistaBorftepa::vai(Borftepa::Posto posto) {
-    const auto i = static_cast<std::size_t>(posto.indice);
-    vaiA(posto.data ? m_date[i] : m_testi[i]);
+void VistaBorftepa::vai(PostoFpa posto) {
+    vaiA(m_caselle[indiceFpa(posto)]);
 }
 
 void VistaBorftepa::attiva() {
@@ -241,7 +248,7 @@ void VistaBorftepa::attiva() {
     m_vettori->clear();
     m_vettori->addItems(m_form.vettori());
     legami.aggiorna();
-    vai({false, 0});
+    vai(TestoFpa::Numero);
 }
 
 void VistaBorftepa::lascia() {

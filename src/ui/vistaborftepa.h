@@ -21,27 +21,35 @@ public:
     QString titolo() const override;
 
 private:
+    /// The four boxes of a reference.
+    struct CaselleRiferimento {
+        TestoFpa numero;
+        DataFpa data;
+        TestoFpa item;
+        TestoFpa commessa;
+    };
+
     QWidget* creaCliente();
     QWidget* creaEstremi();
     QLayout* creaDocumento();
     QLayout* creaRiferimenti();
     QLayout* creaPagamento();
     QWidget* creaComandi();
-    void creaRiferimento(QGridLayout* griglia, int riga, const QString& nome, int primoTesto,
-                         int dataRiferimento);
-    QLineEdit* creaTesto(int indice, const QString& descrizione, int caratteri);
-    QWidget* creaData(int indice, const QString& descrizione);
+    void creaRiferimento(QGridLayout* griglia, int riga, const QString& nome,
+                         const CaselleRiferimento& caselle);
+    QLineEdit* creaTesto(TestoFpa quale, const QString& descrizione, int caratteri);
+    QWidget* creaData(DataFpa quale, const QString& descrizione);
+    void lega(QLineEdit* campo, PostoFpa posto);
     QComboBox* creaLista(ListaFpa lista, const QString& descrizione);
     QComboBox* creaVettori();
     QWidget* creaSpunta(const QString& nome, const QString& testo, bool Borftepa::*dato);
     void mostraCliente(QGridLayout* griglia, int riga, int colonna, int indice, const QString& descrizione,
                        int caratteri, const std::function<QString(const Cli&)>& leggi);
-    void vai(Borftepa::Posto posto);
+    void vai(PostoFpa posto);
     void controlla();
 
     Borftepa& m_form;
-    std::array<QLineEdit*, Borftepa::numeroTesti> m_testi{};
-    std::array<QLineEdit*, Borftepa::numeroDate> m_date{};
+    std::array<QLineEdit*, numeroPostiFpa> m_caselle{};
     QComboBox* m_vettori = nullptr;
 };
 

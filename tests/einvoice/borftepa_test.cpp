@@ -7,8 +7,6 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-using Posto = Borftepa::Posto;
-
 TEST(FormFatturaPa, SenzaIDatiDellAziendaTornaAlDocumento) {
     FatturaDiProva f;
     QFile::remove(f.azienda.percorso(u"borlano.fpa"_s));
@@ -31,11 +29,11 @@ TEST(FormFatturaPa, PropostaDalDocumento) {
     f.rata(1, u"31/05/2015"_s, u"10"_s);
     f.tipoPagamento(u'3');
     f.form.attiva();
-    EXPECT_EQ(f.form.testo(0), u"12"_s);
-    EXPECT_EQ(f.form.data(0), u"15/03/2015"_s);
-    EXPECT_EQ(f.form.testo(1), u"45"_s);
-    EXPECT_EQ(f.form.testo(2), u"ODA 9"_s);
-    EXPECT_EQ(f.form.testo(16), u"42"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::Numero), u"12"_s);
+    EXPECT_EQ(f.form.testo(DataFpa::Documento), u"15/03/2015"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::NumeroDdt), u"45"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::OrdineNumero), u"ODA 9"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::Progressivo), u"42"_s);
     EXPECT_TRUE(f.form.esig);
     EXPECT_EQ(f.form.scelta(ListaFpa::Condizioni), 0);
     EXPECT_EQ(f.form.scelta(ListaFpa::Modalita), 8);
@@ -50,7 +48,7 @@ TEST(FormFatturaPa, LaGenerazioneScriveIDatiEDiceDove) {
     contatore.numero = 6;
     f.prova.archivio.scriviTot(Conta::Fpa, contatore);
     f.form.attiva();
-    f.form.cambia(5, u"123456789012345678901234"_s);
+    f.form.cambia(TestoFpa::ContrattoNumero, u"123456789012345678901234"_s);
     f.form.scegliVettore(4);
     f.form.genera();
 
@@ -110,11 +108,11 @@ TEST(FormFatturaPa, RipristinoDeiDatiGiaInseriti) {
     EXPECT_EQ(f.form.scelta(ListaFpa::TipoRitenuta), 1); // a row early
     EXPECT_EQ(f.form.scelta(ListaFpa::Condizioni), 2);
     EXPECT_EQ(f.form.scelta(ListaFpa::Modalita), 16);
-    EXPECT_EQ(f.form.testo(0), u"99"_s);
-    EXPECT_EQ(f.form.testo(13), u"RC"_s);
-    EXPECT_EQ(f.form.testo(16), u"7"_s);
-    EXPECT_EQ(f.form.data(0), QString());
-    EXPECT_EQ(f.form.data(5), u"01/03/2015"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::Numero), u"99"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::RicezioneCommessa), u"RC"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::Progressivo), u"7"_s);
+    EXPECT_EQ(f.form.testo(DataFpa::Documento), QString());
+    EXPECT_EQ(f.form.testo(DataFpa::Ricezione), u"01/03/2015"_s);
     EXPECT_TRUE(f.form.art73);
     EXPECT_FALSE(f.form.esig);
     EXPECT_EQ(f.form.nomeVettore(), u"Trasporti Rapidi"_s);
@@ -123,8 +121,8 @@ TEST(FormFatturaPa, RipristinoDeiDatiGiaInseriti) {
     QFile::remove(f.azienda.percorso(u"fpa3"_s));
     f.form.attiva();
     EXPECT_EQ(f.documento.recordfpa, 0);
-    EXPECT_EQ(f.form.testo(16), u"42"_s);
-    EXPECT_EQ(f.form.testo(13), QString());
+    EXPECT_EQ(f.form.testo(TestoFpa::Progressivo), u"42"_s);
+    EXPECT_EQ(f.form.testo(TestoFpa::RicezioneCommessa), QString());
     EXPECT_EQ(f.form.nomeVettore(), QString());
 }
 
@@ -143,22 +141,35 @@ TEST(FormFatturaPa, RigheSenzaCodiceIvaNelSecondoRiepilogo) {
 TEST(FormFatturaPa, DateEInvio) {
     FatturaDiProva f;
     f.form.attiva();
-    f.form.cambiaData(3, u"311214"_s);
-    f.form.lasciaData(3);
-    EXPECT_EQ(f.form.data(3), u"31/12/2014"_s);
-    f.form.cambiaData(3, u"31/02/2015"_s);
-    EXPECT_FALSE(f.form.dataCompleta(3));
-    f.form.lasciaData(3);
-    EXPECT_EQ(f.form.data(3), u"15/03/2015"_s);
-    EXPECT_TRUE(f.form.dataCompleta(3));
+    f.form.cambia(DataFpa::Contratto, u"311214"_s);
+    f.form.lasciaData(DataFpa::Contratto);
+    EXPECT_EQ(f.form.testo(DataFpa::Contratto), u"31/12/2014"_s);
+    f.form.cambia(DataFpa::Contratto, u"31/02/2015"_s);
+    EXPECT_FALSE(f.form.dataCompleta(DataFpa::Contratto));
+    f.form.lasciaData(DataFpa::Contratto);
+    EXPECT_EQ(f.form.testo(DataFpa::Contratto), u"15/03/2015"_s);
+    EXPECT_TRUE(f.form.dataCompleta(DataFpa::Contratto));
 
-    EXPECT_EQ(Borftepa::invio({false, 11}), (Posto{true, 5}));
-    EXPECT_EQ(Borftepa::invio({true, 5}), (Posto{false, 12}));
-    EXPECT_EQ(Borftepa::invio({false, 0}), (Posto{true, 0}));
-    EXPECT_EQ(Borftepa::invio({true, 0}), (Posto{false, 16}));
-    EXPECT_EQ(Borftepa::invio({false, 16}), (Posto{false, 1}));
-    EXPECT_EQ(Borftepa::invio({false, 15}), (Posto{false, 15}));
-    EXPECT_EQ(Borftepa::invio({false, 6}), (Posto{false, 7}));
+    EXPECT_EQ(casellaFpa(TestoFpa::RicezioneNumero).dopo, PostoFpa(DataFpa::Ricezione));
+    EXPECT_EQ(casellaFpa(DataFpa::Ricezione).dopo, PostoFpa(TestoFpa::RicezioneItem));
+    EXPECT_EQ(casellaFpa(TestoFpa::Numero).dopo, PostoFpa(DataFpa::Documento));
+    EXPECT_EQ(casellaFpa(DataFpa::Documento).dopo, PostoFpa(TestoFpa::Progressivo));
+    EXPECT_EQ(casellaFpa(TestoFpa::Progressivo).dopo, PostoFpa(TestoFpa::NumeroDdt));
+    EXPECT_EQ(casellaFpa(TestoFpa::CodiceCig).dopo, PostoFpa(TestoFpa::CodiceCig));
+    EXPECT_EQ(casellaFpa(TestoFpa::ContrattoItem).dopo, PostoFpa(TestoFpa::ContrattoCommessa));
+}
+
+TEST(CaselleFpa, InvioPassaDaTutteEOgniCasellaHaIlSuoCampo) {
+    Fpa fpa = fpaBianca();
+    PostoFpa posto = TestoFpa::Numero;
+    for (std::size_t i = 0; i < numeroPostiFpa; ++i) {
+        EXPECT_EQ(casellaFpa(posto).leggi(fpa), QString()) << "box " << i << " was visited before";
+        casellaFpa(posto).scrivi(fpa, QString::number(i));
+        posto = casellaFpa(posto).dopo;
+    }
+    EXPECT_EQ(posto, PostoFpa(TestoFpa::CodiceCig));
+    EXPECT_EQ(fpa.ordine.commessa.trimmed(), u"8"_s);
+    EXPECT_EQ(fpa.ricezione.data.trimmed(), u"18"_s);
 }
 
 } // namespace

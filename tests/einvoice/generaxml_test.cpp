@@ -56,14 +56,14 @@ TEST(FatturaXml, RitenutaEArticolo73) {
 TEST(FatturaXml, OrdineContrattoCodiciEVettore) {
     FatturaDiProva f;
     f.form.attiva();
-    f.form.cambia(2, u"ODA 77"_s);
-    f.form.cambiaData(2, u"01/02/2015"_s);
-    f.form.cambia(3, u"3"_s);
-    f.form.cambia(4, u"COMM1"_s);
-    f.form.cambia(5, u"C-2014/9"_s);
-    f.form.cambia(14, u"J81H14000210001"_s);
-    f.form.cambia(15, u"Z0512F7A3B"_s);
-    f.form.cambia(1, u"senza numero"_s);
+    f.form.cambia(TestoFpa::OrdineNumero, u"ODA 77"_s);
+    f.form.cambia(DataFpa::Ordine, u"01/02/2015"_s);
+    f.form.cambia(TestoFpa::OrdineItem, u"3"_s);
+    f.form.cambia(TestoFpa::OrdineCommessa, u"COMM1"_s);
+    f.form.cambia(TestoFpa::ContrattoNumero, u"C-2014/9"_s);
+    f.form.cambia(TestoFpa::CodiceCup, u"J81H14000210001"_s);
+    f.form.cambia(TestoFpa::CodiceCig, u"Z0512F7A3B"_s);
+    f.form.cambia(TestoFpa::NumeroDdt, u"senza numero"_s);
     f.form.scegliVettore(3);
     f.form.genera();
     confronta(f, u"ordine"_s);
@@ -73,7 +73,7 @@ TEST(FatturaXml, IlDdtEscludeIlVettore) {
     FatturaDiProva f;
     f.documento.testata.trasporto.ddt = u"45/B"_s;
     f.form.attiva();
-    f.form.cambiaData(1, u"10/03/2015"_s);
+    f.form.cambia(DataFpa::Ddt, u"10/03/2015"_s);
     f.form.scegliVettore(3);
     f.form.genera();
     confronta(f, u"ddt"_s);
@@ -151,7 +151,7 @@ TEST(FatturaXml, UnNumeroCheNonFaUnNomeDiFileNonScriveNulla) {
     FatturaDiProva f;
     f.form.attiva();
     for (const QString& numero : {u"1/2"_s, u"..\\1"_s, u"a\\b"_s, u"1..2"_s, u"c:1"_s, u"1?"_s, u"1\t2"_s}) {
-        f.form.cambia(0, numero);
+        f.form.cambia(TestoFpa::Numero, numero);
         f.form.genera();
         EXPECT_EQ(f.form.controlla(), std::nullopt) << qPrintable(numero);
     }
