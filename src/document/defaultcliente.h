@@ -1,4 +1,4 @@
-// What a new document takes from its customer; used when the document form opens for one.
+// What a new document takes from its customer.
 #pragma once
 
 #include "document/documento.h"
