@@ -73,9 +73,11 @@ void sediAzienda(ScrittoreXml& xml, const Fpa& azienda) {
 }
 
 void iscrizioneRea(ScrittoreXml& xml, const Fpa& azienda) {
-    if (valore(azienda.iscrizionerea.text()) != 1.0)
+    constexpr double iscritta = 1;
+    constexpr double conCapitale = 2;
+    if (valore(azienda.iscrizionerea.text()) != iscritta)
         return;
-    const bool capitale = valore(azienda.formasocieta.text()) == 2.0;
+    const bool capitale = valore(azienda.formasocieta.text()) == conCapitale;
     xml.apri(6, "IscrizioneREA");
     xml.elemento(8, "Ufficio", azienda.reaufficio.text());
     xml.elemento(8, "NumeroREA", azienda.reanumero.text());

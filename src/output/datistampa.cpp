@@ -40,10 +40,10 @@ void aggiungiRigheIva(DatiStampa& dati, const TabellaIva& iva) {
 
 } // namespace
 
-QStringList DatiStampa::importi(std::initializer_list<double> importi) const {
+QStringList DatiStampa::importi(std::initializer_list<double> quanti) const {
     QStringList testi;
-    for (const double i : importi)
-        testi.append(importo(i));
+    for (const double quanto : quanti)
+        testi.append(importo(quanto));
     return testi;
 }
 

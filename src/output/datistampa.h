@@ -38,8 +38,8 @@ struct DatiStampa {
     TotaliParcella parcella = {}; ///< of a fee bill
 
     /// Money text; empty for 0.
-    QString importo(double importo) const { return valuta.importotesto(importo); }
-    QStringList importi(std::initializer_list<double> importi) const;
+    QString importo(double quanto) const { return valuta.importotesto(quanto); }
+    QStringList importi(std::initializer_list<double> quanti) const;
 };
 
 DatiStampa datiStampa(const Documento& documento, const Contesto& contesto);
