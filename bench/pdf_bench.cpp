@@ -1,6 +1,6 @@
 // A report of 1,000 pages made into a PDF, beside the same text drawn with Qt's PDF writer alone.
 #include "borxpdf/disegno.h"
-#include "borxpdf/modello.h"
+#include "borxpdf/layoutpdf.h"
 #include "borxpdf/pdf.h"
 
 #include <benchmark/benchmark.h>
@@ -43,10 +43,10 @@ void RapportoInPdf(benchmark::State& stato) {
     const QByteArray dati = rapporto();
     for (auto _ : stato) {
         QString errore;
-        const auto letto = bor::pdf::Rapporto::leggi(dati, errore);
+        const auto letto = bor::pdf::PagineStampate::leggi(dati, errore);
         bor::pdf::Disegnatore disegnatore([](const QString&) { return QString(); });
         benchmark::DoNotOptimize(
-            bor::pdf::componiPdf(*letto, bor::pdf::Modello(), u"Prova"_s, disegnatore).size());
+            bor::pdf::componiPdf(*letto, bor::pdf::LayoutPdf(), u"Prova"_s, disegnatore).size());
     }
     contaPagine(stato);
 }

@@ -1,4 +1,4 @@
-// Keeps the folders of src/ in their layers: who may include whom, and no window below ui/.
+// Keeps the folders of src/ and tools/ in their layers: who may include whom, and no window below ui/.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -14,6 +14,16 @@ namespace {
 namespace fs = std::filesystem;
 using Cartelle = std::set<std::string>;
 
+/// What each program of tools/ may include.
+const std::map<std::string, Cartelle> frecceStrumenti = {
+    {"borcrea", {"common", "archive", "document", "posting"}},
+    {"borverifica", {"common", "archive"}},
+    {"borxmlcheck", {"einvoice", "common"}},
+    {"borxpdf", {"common"}},
+    {"lanciatore", {"common", "archive", "ui"}},
+    {"tour", {"common", "ui", "app", "borcrea"}},
+};
+
 /// Who may include whom; every folder of src/ has its entry.
 const std::map<std::string, Cartelle> frecce = {
     {"common", {}},
@@ -28,14 +38,16 @@ const std::map<std::string, Cartelle> frecce = {
 };
 
 struct Inclusione {
-    std::string cartella; ///< folder under src/ of the including file
+    std::string cartella; ///< folder of the including file
     std::string file;
     std::string nome; ///< what stands between the quotes or brackets
     bool traVirgolette;
 };
 
-std::vector<Inclusione> leggiInclusioni(const fs::path& src) {
+/// The include lines of the files under `radice`, "src" or "tools".
+std::vector<Inclusione> inclusioni(const std::string& radice) {
     static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
+    const fs::path src = fs::path(BOR_SOURCE_DIR) / radice;
     std::vector<Inclusione> inclusioni;
     for (const auto& voce : fs::recursive_directory_iterator(src)) {
         const fs::path& file = voce.path();
@@ -52,33 +64,34 @@ std::vector<Inclusione> leggiInclusioni(const fs::path& src) {
     return inclusioni;
 }
 
-const std::vector<Inclusione>& inclusioni() {
-    static const std::vector<Inclusione> lette = leggiInclusioni(fs::path(BOR_SOURCE_DIR) / "src");
-    return lette;
-}
-
 bool conFinestre(const std::string& cartella) {
     return cartella == "ui" || cartella == "app";
+}
+
+void verificaInclusioni(const std::string& radice, const std::map<std::string, Cartelle>& ammesse) {
+    for (const Inclusione& i : inclusioni(radice)) {
+        if (!i.traVirgolette)
+            continue;
+        const std::string meta = i.nome.substr(0, i.nome.find('/'));
+        const auto sue = ammesse.find(i.cartella);
+        ASSERT_NE(sue, ammesse.end()) << i.cartella << " is no layer";
+        EXPECT_TRUE(meta == i.cartella || sue->second.contains(meta))
+            << i.file << " may not include " << i.nome;
+    }
 }
 
 } // namespace
 
 TEST(Architettura, OgniCartellaIncludeSoloQuelleSottoDiSe) {
-    ASSERT_GT(inclusioni().size(), 100U);
-    for (const Inclusione& i : inclusioni()) {
-        if (!i.traVirgolette)
-            continue;
-        const std::string meta = i.nome.substr(0, i.nome.find('/'));
-        const auto ammesse = frecce.find(i.cartella);
-        ASSERT_NE(ammesse, frecce.end()) << i.cartella << " is no layer";
-        EXPECT_TRUE(meta == i.cartella || ammesse->second.contains(meta))
-            << i.file << " may not include " << i.nome;
-    }
+    ASSERT_GT(inclusioni("src").size(), 100U);
+    ASSERT_GT(inclusioni("tools").size(), 50U);
+    verificaInclusioni("src", frecce);
+    verificaInclusioni("tools", frecceStrumenti);
 }
 
 /// A header of another Qt module is out of reach where only Qt Core is linked, unless its module is named.
 TEST(Architettura, SottoLeVisteSoloQtCore) {
-    for (const Inclusione& i : inclusioni()) {
+    for (const Inclusione& i : inclusioni("src")) {
         if (!conFinestre(i.cartella) && i.nome.starts_with("Qt") && i.nome.find('/') != std::string::npos) {
             EXPECT_TRUE(i.nome.starts_with("QtCore/")) << i.file << " may not include " << i.nome;
         }

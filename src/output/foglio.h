@@ -3,7 +3,7 @@
 
 #include "archive/contesto.h"
 #include "common/stampante.h"
-#include "output/rapporto.h"
+#include "output/scritturarapporto.h"
 
 namespace bor {
 
@@ -33,7 +33,7 @@ private:
     Stampante& m_stampante;
     Uscita m_uscita;
     bool m_stampa;
-    Rapporto m_rapporto;
+    ScritturaRapporto m_rapporto;
 };
 
 } // namespace bor

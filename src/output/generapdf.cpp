@@ -1,11 +1,11 @@
 #include "output/generapdf.h"
 
 #include "archive/contesto.h"
+#include "common/comandopdf.h"
+#include "common/indirizzoposta.h"
 #include "common/numeri.h"
+#include "common/rapporto.h"
 #include "output/layout.h"
-#include "output/rapporto.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +14,6 @@ namespace bor {
 namespace {
 
 const QString titoloAttenzione = u"Attenzione"_s;
-const QString senzaPosta = u"***"_s;
 
 QString programma(const Contesto& contesto) {
     return contesto.archivio.reale(radiceSuite.toString() + u"borxpdf"_s);
@@ -29,15 +28,8 @@ QString nomePdf(const Documento& documento, const TestiPdf& testi) {
     return testi.cartella() + (documento.parcella() ? u"\\par"_s : u"\\ftr"_s) + numero + u".pdf"_s;
 }
 
-/// One address, with nothing in it that could be taken for a second argument, recipient or header.
-bool indirizzo(const QString& testo) {
-    return testo.count(u'@') == 1 && std::ranges::none_of(testo, [](QChar c) {
-               return c.unicode() <= 32 || c.unicode() == 127 || QStringView(u",;\"<>").contains(c);
-           });
-}
-
-bool avviaStrumento(const Contesto& contesto, const QStringList& argomenti) {
-    const bool avviato = contesto.sistema.avvia(programma(contesto), argomenti);
+bool avviaStrumento(const Contesto& contesto, const ComandoPdf& comando) {
+    const bool avviato = contesto.sistema.avvia(programma(contesto), comando.argomenti());
     if (!avviato)
         contesto.operatore.messaggio(
             u"Non è possibile eseguire il programma invio del documento a mezzo internet."_s,
@@ -54,13 +46,14 @@ void generapdf(Documento& documento, const Contesto& contesto) {
         return;
     const TestiPdf testi = caricaTestiPdf(contesto.archivio);
     const QString pdf = nomePdf(documento, testi);
-    QString destinatario = documento.estremi.postael ? documento.cliente.email.trimmed() : senzaPosta;
-    if (documento.estremi.postael && !indirizzo(destinatario)) {
+    QString destinatario =
+        documento.estremi.postael ? documento.cliente.email.trimmed() : senzaPosta.toString();
+    if (documento.estremi.postael && !indirizzoValido(destinatario)) {
         contesto.operatore.messaggio(
             u"L'indirizzo di posta elettronica del cliente non è valido: \"%1\". Il documento non è stato inviato."_s
                 .arg(destinatario),
             titoloAttenzione, Icona::Stop);
-        destinatario = senzaPosta;
+        destinatario = senzaPosta.toString();
     }
     if (pdf.contains(u',') || contesto.archivio.reale(pdf).isEmpty()) {
         contesto.operatore.messaggio(
@@ -68,17 +61,18 @@ void generapdf(Documento& documento, const Contesto& contesto) {
             Icona::Stop);
         return;
     }
-    QStringList parti = {layoutStrumento(documento, contesto), fileRapporto.toString(), pdf, destinatario};
-    const QString testo = testi.testo(documento.parcella());
-    if (!testo.isEmpty())
-        parti.append(testo);
-    if (avviaStrumento(contesto, {parti.join(u',')}))
+    if (avviaStrumento(contesto, {.layout = layoutStrumento(documento, contesto),
+                                  .rapporto = fileRapporto.toString(),
+                                  .pdf = pdf,
+                                  .indirizzo = destinatario,
+                                  .testo = testi.testo(documento.parcella())}))
         documento.estremi.pdf = pdf;
 }
 
 void anteprima(const Documento& documento, const Contesto& contesto) {
-    avviaStrumento(contesto,
-                   {u"--anteprima"_s, layoutStrumento(documento, contesto) + u',' + fileRapporto.toString()});
+    avviaStrumento(contesto, {.anteprima = true,
+                              .layout = layoutStrumento(documento, contesto),
+                              .rapporto = fileRapporto.toString()});
 }
 
 void scegliPdf(Documento& documento, const Contesto& contesto) {

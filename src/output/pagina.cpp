@@ -48,7 +48,7 @@ void disegnaCorpo(const Layout& layout, const Pianta& pianta, const DatiStampa& 
         if (linea > std::min(pianta.linee, ultimaLinea))
             break;
         const double y = bordo(layout, pianta.rigaSopra) + passo * (r - 1);
-        for (const Colonna& colonna : pianta.colonne)
+        for (const ColonnaCorpo& colonna : pianta.colonne)
             scrivi(layout.voce(colonna.riga), y, colonna.testo(dati, linea), colonna.lato == Lato::Destra,
                    foglio);
     }

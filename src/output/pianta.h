@@ -28,7 +28,7 @@ struct GruppoVoci {
     QStringList (*testi)(const DatiStampa& dati);
 };
 
-struct Colonna {
+struct ColonnaCorpo {
     int riga; ///< layout row of its x and font
     Lato lato;
     QString (*testo)(const DatiStampa& dati, int linea);
@@ -39,7 +39,7 @@ struct Pianta {
     std::span<const GruppoVoci> voci; ///< in the order they are drawn
     int rigaSopra;                    ///< layout row of the body's top
     int rigaSotto;                    ///< layout row of the body's bottom
-    std::span<const Colonna> colonne;
+    std::span<const ColonnaCorpo> colonne;
     int linee;                                                 ///< the most that a document has
     QString (*descrizione)(const DatiStampa& dati, int linea); ///< the last line with one ends the body
 };

@@ -163,9 +163,11 @@ QString aliquota(const DatiStampa& dati, int linea) {
 }
 
 constexpr std::array colonne = {
-    Colonna{87, Sinistra, codice}, Colonna{88, Sinistra, descrizione}, Colonna{89, Destra, quantita},
-    Colonna{90, Sinistra, unita},  Colonna{91, Destra, prezzo},        Colonna{92, Destra, lordo},
-    Colonna{93, Destra, netto},    Colonna{94, Sinistra, sconti},      Colonna{95, Destra, aliquota},
+    ColonnaCorpo{87, Sinistra, codice}, ColonnaCorpo{88, Sinistra, descrizione},
+    ColonnaCorpo{89, Destra, quantita}, ColonnaCorpo{90, Sinistra, unita},
+    ColonnaCorpo{91, Destra, prezzo},   ColonnaCorpo{92, Destra, lordo},
+    ColonnaCorpo{93, Destra, netto},    ColonnaCorpo{94, Sinistra, sconti},
+    ColonnaCorpo{95, Destra, aliquota},
 };
 
 } // namespace

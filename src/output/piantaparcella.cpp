@@ -77,8 +77,9 @@ QString onorari(const DatiStampa& dati, int linea) {
 }
 
 constexpr std::array colonne = {
-    Colonna{82, Sinistra, data}, Colonna{83, Sinistra, descrizione}, Colonna{84, Destra, anticipazioni},
-    Colonna{85, Destra, spese},  Colonna{86, Destra, onorari},
+    ColonnaCorpo{82, Sinistra, data},        ColonnaCorpo{83, Sinistra, descrizione},
+    ColonnaCorpo{84, Destra, anticipazioni}, ColonnaCorpo{85, Destra, spese},
+    ColonnaCorpo{86, Destra, onorari},
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "register/borfte.h"
 
 #include "document/apripdf.h"
-#include "register/griglia.h"
+#include "register/righeelenco.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "register/borsel.h"
 
 #include "document/borftem.h"
-#include "register/griglia.h"
+#include "register/righeelenco.h"
 
 #include <algorithm>
 

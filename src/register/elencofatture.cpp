@@ -1,7 +1,7 @@
 #include "register/elencofatture.h"
 
 #include "common/date.h"
-#include "register/griglia.h"
+#include "register/righeelenco.h"
 
 #include <algorithm>
 

@@ -14,6 +14,7 @@
 #include <cstring>
 
 using namespace bor;
+using namespace bor::crea;
 using namespace Qt::StringLiterals;
 
 namespace {

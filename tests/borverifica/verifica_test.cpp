@@ -17,7 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 namespace {
 
 class VerificaTest : public testing::Test {
@@ -97,7 +97,7 @@ protected:
         Archivio archivio(azienda.percorsi(), disco, 7);
         archivio.apri(Apertura::SolaLettura);
         QStringList testi;
-        for (const Discordanza& d : verifica(archivio))
+        for (const Discordanza& d : verificaArchivio(archivio))
             testi.append(d.testo());
         return testi;
     }
@@ -334,4 +334,4 @@ TEST_F(VerificaTest, IlProgrammaDiceLEsitoAChiLoChiama) {
 }
 
 } // namespace
-} // namespace bor
+} // namespace bor::verifica

@@ -5,14 +5,15 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace bor;
 using namespace bor::pdf;
 
 TEST(Anteprima, SiSfogliaSiIngrandisceESiChiudeDallaTastiera) {
     const Unita unita;
     unita.scrivi(u"c:\\bordoc.rto"_s, dueFogli());
     QString errore;
-    auto documento =
-        apri(*Comando::leggi({u"--anteprima"_s, u"\\manca.lxf,c:\\bordoc.rto"_s}), unita.percorsi(), errore);
+    auto documento = apri(*ComandoPdf::leggi({u"--anteprima"_s, u"\\manca.lxf,c:\\bordoc.rto"_s}),
+                          unita.percorsi(), errore);
     ASSERT_TRUE(documento) << qPrintable(errore);
     Anteprima finestra(std::move(*documento));
     finestra.show();

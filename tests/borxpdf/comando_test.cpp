@@ -1,40 +1,43 @@
 #include "borxpdf/comando.h"
 #include "borxpdf/impostazioniposta.h"
+#include "common/indirizzoposta.h"
 #include "prova.h"
 
 using namespace Qt::StringLiterals;
+using namespace bor;
 using namespace bor::pdf;
 
 TEST(Comando, DivideLaRigaEIlTestoTieneLeSueVirgole) {
-    const auto uno =
-        Comando::leggi({u"\\s\\b.lxf,c:\\bordoc.rto,\\pdf\\ftr1.pdf,a@b.it,Gentile cliente, ecco, saluti"_s});
+    const auto uno = ComandoPdf::leggi(
+        {u"\\s\\b.lxf,c:\\bordoc.rto,\\pdf\\ftr1.pdf,a@b.it,Gentile cliente, ecco, saluti"_s});
     ASSERT_TRUE(uno);
-    EXPECT_EQ(uno->modello, u"\\s\\b.lxf"_s);
+    EXPECT_EQ(uno->layout, u"\\s\\b.lxf"_s);
     EXPECT_EQ(uno->pdf, u"\\pdf\\ftr1.pdf"_s);
     EXPECT_EQ(uno->indirizzo, u"a@b.it"_s);
     EXPECT_EQ(uno->testo, u"Gentile cliente, ecco, saluti"_s);
+    EXPECT_EQ(ComandoPdf::leggi(uno->argomenti())->argomenti(), uno->argomenti());
 
-    const auto spezzato = Comando::leggi({u"l,r,\\miei"_s, u"pdf\\f.pdf,***,due"_s, u"parole"_s});
+    const auto spezzato = ComandoPdf::leggi({u"l,r,\\miei"_s, u"pdf\\f.pdf,***,due"_s, u"parole"_s});
     ASSERT_TRUE(spezzato);
     EXPECT_EQ(spezzato->pdf, u"\\miei pdf\\f.pdf"_s);
     EXPECT_EQ(spezzato->testo, u"due parole"_s);
 
-    EXPECT_TRUE(Comando::leggi({u"--anteprima"_s, u"l,r"_s})->anteprima);
+    EXPECT_TRUE(ComandoPdf::leggi({u"--anteprima"_s, u"l,r"_s})->anteprima);
     for (const QStringList& monca :
          {QStringList{}, {u"l,r"_s}, {u"l,r,p.pdf"_s}, {u"l,r,,***"_s}, {u"--anteprima"_s}})
-        EXPECT_FALSE(Comando::leggi(monca)) << qPrintable(monca.join(u'|'));
+        EXPECT_FALSE(ComandoPdf::leggi(monca)) << qPrintable(monca.join(u'|'));
 }
 
-TEST(Modello, LeggeFoglioTagliETestiNelleDueCodifiche) {
-    const Modello latino(
+TEST(LayoutPdf, LeggeFoglioTagliETestiNelleDueCodifiche) {
+    const LayoutPdf latino(
         FileIni("; nota\r\n[Pagina]\r\nformato=A5\r\ntaglio_alto=10,5\r\nTaglio_Destra = 8\r\n"
                 "senza uguale\r\n[documento]\r\nautore=Citt\xe0\r\n"));
     EXPECT_EQ(latino.pagina(), QSizeF(140, 199.5));
     EXPECT_EQ(latino.autore, u"Città"_s);
-    EXPECT_EQ(Modello(FileIni("[documento]\nautore=Citt\xc3\xa0\n")).autore, u"Città"_s);
+    EXPECT_EQ(LayoutPdf(FileIni("[documento]\nautore=Citt\xc3\xa0\n")).autore, u"Città"_s);
     for (const char* assurdo : {"[pagina]\nlarghezza=1e9\naltezza=-4", "[pagina]\ntaglio_alto=290",
                                 "[pagina\n=\n\xff", "[pagina]\nlarghezza=nan\ntaglio_alto=-5"})
-        EXPECT_EQ(Modello(FileIni(assurdo)).pagina(), QSizeF(210, 297)) << assurdo;
+        EXPECT_EQ(LayoutPdf(FileIni(assurdo)).pagina(), QSizeF(210, 297)) << assurdo;
     EXPECT_EQ(conNumero(u"Fattura {numero}\\nSaluti"_s, u"\\a1\\ftr12.PDF"_s), u"Fattura 12\nSaluti"_s);
 }
 

@@ -10,6 +10,7 @@
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
+using namespace bor;
 using namespace bor::pdf;
 
 namespace {
@@ -28,7 +29,7 @@ QString strumento(const QString& programma, const QStringList& argomenti) {
 
 QImage disegno(const QByteArray& record, const Disegnatore::TrovaImmagine& trova) {
     QString errore;
-    const auto rapporto = Rapporto::leggi("#FILEFORMAT=QLM-RTO\r\n" + record + finePagina(), errore);
+    const auto rapporto = PagineStampate::leggi("#FILEFORMAT=QLM-RTO\r\n" + record + finePagina(), errore);
     EXPECT_TRUE(rapporto) << qPrintable(errore);
     QImage foglio(210, 297, QImage::Format_RGB32); // a point a millimetre
     foglio.fill(Qt::white);
@@ -47,7 +48,7 @@ TEST(Pdf, HaTestiPagineTitoloAutoreECaratteri) {
                  "[documento]\ntitolo=Fattura (n. {numero}) \\) €\nautore=Città ) >> endobj\n"
                  "[pagina]\ntaglio_sinistra=10\ntaglio_basso=97\n");
     QString errore;
-    ASSERT_TRUE(esegui(*Comando::leggi({riga}), unita.percorsi(), errore)) << qPrintable(errore);
+    ASSERT_TRUE(esegui(*ComandoPdf::leggi({riga}), unita.percorsi(), errore)) << qPrintable(errore);
 
     const QString file = unita.reale(nomePdf);
     const QStringList pagine = strumento(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s}).split(u'\f');
@@ -73,7 +74,7 @@ TEST(Pdf, ConUnModelloDiSpazzaturaIlFoglioÈA4) {
     unita.scrivi(u"\\suprok\\suprok\\boraz0.007\\borlano.lxf"_s,
                  QByteArray("[pa\0\xff=\n=[", 10).repeated(1000));
     QString errore;
-    ASSERT_TRUE(esegui(*Comando::leggi({riga}), unita.percorsi(), errore)) << qPrintable(errore);
+    ASSERT_TRUE(esegui(*ComandoPdf::leggi({riga}), unita.percorsi(), errore)) << qPrintable(errore);
     EXPECT_TRUE(strumento(u"pdfinfo"_s, {unita.reale(nomePdf)}).contains(u"(A4)"_s));
 }
 
@@ -81,17 +82,17 @@ TEST(Pdf, SenzaStampaBuonaRestaIlPdfDiPrima) {
     const Unita unita;
     unita.scrivi(nomePdf, "quello di prima");
     QString errore;
-    EXPECT_FALSE(esegui(*Comando::leggi({riga}), unita.percorsi(), errore));
+    EXPECT_FALSE(esegui(*ComandoPdf::leggi({riga}), unita.percorsi(), errore));
     EXPECT_TRUE(errore.contains(u"c:\\bordoc.rto"_s)) << qPrintable(errore);
     unita.scrivi(u"c:\\bordoc.rto"_s, dueFogli().chopped(3));
-    EXPECT_FALSE(esegui(*Comando::leggi({riga}), unita.percorsi(), errore));
+    EXPECT_FALSE(esegui(*ComandoPdf::leggi({riga}), unita.percorsi(), errore));
     EXPECT_EQ(unita.leggi(nomePdf), "quello di prima");
 
     unita.scrivi(u"c:\\bordoc.rto"_s, dueFogli());
     for (const QString& nome :
          {u"\\suprok\\..\\..\\x.pdf"_s, u"d:\\x.pdf"_s, u"\\suprok\\fte"_s, u"c:\\bordoc.rto"_s}) {
         EXPECT_FALSE(
-            esegui(*Comando::leggi({u"l,c:\\bordoc.rto,%1,***"_s.arg(nome)}), unita.percorsi(), errore));
+            esegui(*ComandoPdf::leggi({u"l,c:\\bordoc.rto,%1,***"_s.arg(nome)}), unita.percorsi(), errore));
         EXPECT_TRUE(errore.startsWith(u"Il nome del PDF non è valido"_s)) << qPrintable(nome);
     }
     EXPECT_EQ(unita.leggi(u"c:\\bordoc.rto"_s), dueFogli());

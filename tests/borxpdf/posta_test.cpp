@@ -10,6 +10,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace bor;
 using namespace bor::pdf;
 
 namespace {
@@ -78,10 +79,11 @@ TEST(Posta, IlComandoSpedisceTestoEPdfInteri) {
                  "[posta]\nserver=127.0.0.1\nsicurezza=nessuna\nmittente=info@rossi.it\nporta=" +
                      QByteArray::number(server.porta()));
     QString errore;
-    ASSERT_TRUE(esegui(
-        *Comando::leggi({u"\\suprok\\suprok\\boraz0.007\\borlano.lxf,c:\\bordoc.rto,\\suprok\\pdf\\ftr12.pdf,"
-                         "ada@bianchi.it,Gentile Città, ecco\\nSaluti"_s}),
-        unita.percorsi(), errore))
+    ASSERT_TRUE(
+        esegui(*ComandoPdf::leggi(
+                   {u"\\suprok\\suprok\\boraz0.007\\borlano.lxf,c:\\bordoc.rto,\\suprok\\pdf\\ftr12.pdf,"
+                    "ada@bianchi.it,Gentile Città, ecco\\nSaluti"_s}),
+               unita.percorsi(), errore))
         << qPrintable(errore);
 
     ASSERT_EQ(server.messaggi().size(), 1);
@@ -102,7 +104,7 @@ TEST(Posta, UnIndirizzoCattivoNonRaggiungeIlServerEIlPdfResta) {
     unita.scrivi(u"c:\\bordoc.rto"_s, dueFogli());
     for (const QString& indirizzo : {u""_s, u"a@b.it\r\nRCPT TO:<c@d.it>"_s, u"a@b.it;c@d.it"_s}) {
         QString errore;
-        EXPECT_FALSE(esegui(*Comando::leggi({u"l,c:\\bordoc.rto,\\p\\ftr1.pdf,"_s + indirizzo}),
+        EXPECT_FALSE(esegui(*ComandoPdf::leggi({u"l,c:\\bordoc.rto,\\p\\ftr1.pdf,"_s + indirizzo}),
                             unita.percorsi(), errore));
         EXPECT_TRUE(errore.startsWith(u"Il PDF \\p\\ftr1.pdf è pronto ma non è stato spedito"_s))
             << qPrintable(errore);

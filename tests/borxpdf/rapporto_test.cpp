@@ -1,8 +1,9 @@
-#include "borxpdf/rapporto.h"
-#include "output/rapporto.h"
+#include "borxpdf/paginestampate.h"
+#include "output/scritturarapporto.h"
 #include "prova.h"
 
 using namespace Qt::StringLiterals;
+using namespace bor;
 using namespace bor::pdf;
 
 namespace {
@@ -13,7 +14,7 @@ const QByteArray firma = "#FILEFORMAT=QLM-RTO\r\n";
 
 TEST(Rapporto, LeggeCiascunComandoERaccoglieLePagine) {
     QString errore;
-    const auto letto = Rapporto::leggi(
+    const auto letto = PagineStampate::leggi(
         firma +
             " 0 \r\n 1.5 \r\n 2 \r\n 41 \r\n 22 \r\n 0 \r\n 0 \r\n\\suprok\\logo.png\r\n\r\n 0 \r\n 0 \r\n" +
             " 2 \r\n-3 \r\n 4 \r\n 5 \r\n 6 \r\n 0 \r\n 16711935 \r\n\r\n\r\n 1 \r\n 0 \r\n" + finePagina() +
@@ -24,37 +25,37 @@ TEST(Rapporto, LeggeCiascunComandoERaccoglieLePagine) {
 
     ASSERT_TRUE(letto) << qPrintable(errore);
     ASSERT_EQ(letto->pagine.size(), 2u);
-    const Elemento& immagine = letto->pagine[0][0];
-    EXPECT_EQ(immagine.codice, Codice::Immagine);
+    const RecordRapporto& immagine = letto->pagine[0][0];
+    EXPECT_EQ(immagine.comando, ComandoRapporto::Immagine);
     EXPECT_EQ(immagine.x1, 1.5);
     EXPECT_EQ(immagine.y2, 22);
     EXPECT_EQ(immagine.testo, u"\\suprok\\logo.png"_s);
-    const Elemento& riquadro = letto->pagine[0][1];
+    const RecordRapporto& riquadro = letto->pagine[0][1];
     EXPECT_EQ(riquadro.x1, -3);
-    EXPECT_EQ(riquadro.colore, 0xFF00FFu);
+    EXPECT_EQ(riquadro.colore, 0xFF00FF);
     EXPECT_TRUE(riquadro.grassetto);
-    const Elemento& testo = letto->pagine[1][0];
+    const RecordRapporto& testo = letto->pagine[1][0];
     EXPECT_EQ(testo.testo, u"  Perché 9 "_s);
     EXPECT_EQ(testo.carattere, u"Times New Roman"_s);
-    EXPECT_EQ(testo.colore, 0u) << "a colour of the desktop's palette is black";
+    EXPECT_EQ(testo.colore, 0) << "a colour of the desktop's palette is black";
     EXPECT_TRUE(testo.corsivo);
 }
 
 TEST(Rapporto, LeggeCioCheLaStampaScrive) {
-    bor::Rapporto scritto;
+    bor::ScritturaRapporto scritto;
     scritto.immagine(1, 2, 3, 4, u"logo.png"_s);
     scritto.linea(0.5, 58.25, 200, 58.25, 255);
     scritto.riquadro(120, 20, 200, 45, 0xF0E0D0, true);
     scritto.testo(12.3456, 22, u"Più IVA 22% €"_s, {u"Arial"_s, 8.5, true, false}, 128);
     scritto.finePagina();
     QString errore;
-    const auto letto = Rapporto::leggi(scritto.bytes(), errore);
+    const auto letto = PagineStampate::leggi(scritto.bytes(), errore);
     ASSERT_TRUE(letto) << qPrintable(errore);
     const Pagina& pagina = letto->pagine.at(0);
     ASSERT_EQ(pagina.size(), 4u);
     EXPECT_EQ(pagina[1].x1, 0.5);
     EXPECT_EQ(pagina[1].y2, 58.25);
-    EXPECT_EQ(pagina[2].colore, 0xF0E0D0u);
+    EXPECT_EQ(pagina[2].colore, 0xF0E0D0);
     EXPECT_EQ(pagina[3].x1, 12.3456);
     EXPECT_EQ(pagina[3].testo, u"Più IVA 22% €"_s);
     EXPECT_EQ(pagina[3].dimensione, 8.5);
@@ -83,14 +84,14 @@ TEST(Rapporto, RifiutaUnFileCheNonÈUnaStampaIntera) {
     };
     for (const auto& caso : casi) {
         QString errore;
-        EXPECT_FALSE(Rapporto::leggi(caso.dati, errore)) << caso.caso;
+        EXPECT_FALSE(PagineStampate::leggi(caso.dati, errore)) << caso.caso;
         EXPECT_TRUE(errore.contains(QStringView(caso.parola))) << caso.caso << ": " << qPrintable(errore);
     }
 }
 
 TEST(Rapporto, TieneLeMisureEnormiEntroIlDisegnabile) {
     QString errore;
-    const auto letto = Rapporto::leggi(
+    const auto letto = PagineStampate::leggi(
         firma + QByteArray(rigaDiTesto("1E300", "-99999999", "x")).replace(" 10 ", " 1E9 ") + finePagina(),
         errore);
     ASSERT_TRUE(letto);

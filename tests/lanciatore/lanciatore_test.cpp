@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::lancia {
 namespace {
 
 void scrivi(const QString& percorso, const QByteArray& bytes) {
@@ -134,4 +134,4 @@ TEST(SceltaAzienda, SenzaAziendeInvioCreaLaDimostrativa) {
     EXPECT_EQ(finestra.findChild<QTreeWidget*>(u"elenco"_s)->topLevelItem(0)->text(0), u"001"_s);
 }
 
-} // namespace bor
+} // namespace bor::lancia

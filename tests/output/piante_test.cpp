@@ -79,7 +79,7 @@ TEST_P(PiantaTest, IlCorpoStaDietroLeVoci) {
     EXPECT_EQ(pianta.rigaSopra, modulo.voci.ultimo + 1);
     int riga = pianta.rigaSopra;
     EXPECT_EQ(pianta.rigaSotto, ++riga);
-    for (const Colonna& colonna : pianta.colonne)
+    for (const ColonnaCorpo& colonna : pianta.colonne)
         EXPECT_EQ(colonna.riga, ++riga);
     EXPECT_LT(riga, 99) << "this row draws the template";
 }

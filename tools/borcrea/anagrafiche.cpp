@@ -1,13 +1,13 @@
 #include "borcrea/anagrafiche.h"
 
 #include "borcrea/bianco.h"
-#include "borcrea/foglio.h"
+#include "borcrea/tabellatesto.h"
 #include "common/codicifiscali.h"
 
 #include <algorithm>
 #include <cstring>
 
-namespace bor {
+namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +21,7 @@ void segna(Text<1>& campo, bool acceso) {
     campo.set(acceso ? u"1" : u"0");
 }
 
-void conto(const RigaFoglio& riga, QStringView colonna, Text<8>& campo, const std::vector<Con>& conti) {
+void conto(const RigaTabella& riga, QStringView colonna, Text<8>& campo, const std::vector<Con>& conti) {
     const QString codice = riga.testo(colonna, 8);
     if (!codice.isEmpty() &&
         std::ranges::none_of(conti, [&](const Con& c) { return c.codice.trimmed() == codice; }))
@@ -29,7 +29,7 @@ void conto(const RigaFoglio& riga, QStringView colonna, Text<8>& campo, const st
     campo.set(codice);
 }
 
-void sede(const RigaFoglio& riga, const QString& prefisso, Sede& sede) {
+void sede(const RigaTabella& riga, const QString& prefisso, Sede& sede) {
     sede.ragione1.set(riga.testo(prefisso + u"ragione1"_s, 40));
     sede.ragione2.set(riga.testo(prefisso + u"ragione2"_s, 40));
     sede.indirizzo.set(riga.testo(prefisso + u"indirizzo"_s, 40));
@@ -37,7 +37,7 @@ void sede(const RigaFoglio& riga, const QString& prefisso, Sede& sede) {
     sede.cap.set(riga.testo(prefisso + u"cap"_s, 5));
 }
 
-void fiscali(const RigaFoglio& riga, Cli& cli) {
+void fiscali(const RigaTabella& riga, Cli& cli) {
     const QString nazione = riga.testo(u"nazione", 2);
     const QString partitaiva = riga.testo(u"partitaiva", 11);
     const QString codicefiscale = riga.testo(u"codicefiscale", 16);
@@ -56,7 +56,7 @@ void fiscali(const RigaFoglio& riga, Cli& cli) {
     cli.clix2.set(ufficio);
 }
 
-void commerciali(const RigaFoglio& riga, Cli& cli) {
+void commerciali(const RigaTabella& riga, Cli& cli) {
     cli.pagamento = breve(riga.intero(u"pagamento", 0, 60));
     cli.agente = breve(riga.intero(u"agente", 0, 9999));
     cli.sconto1 = breve(riga.intero(u"sconto1", 0, 100));
@@ -80,7 +80,7 @@ void commerciali(const RigaFoglio& riga, Cli& cli) {
     cli.contocorrente.set(coordinate.mid(14));
 }
 
-Cli cliente(const RigaFoglio& riga, const std::vector<Con>& conti) {
+Cli cliente(const RigaTabella& riga, const std::vector<Con>& conti) {
     Cli cli = bianco<Cli>();
     cli.clix7 = 0;
     sede(riga, QString(), cli.sede);
@@ -102,7 +102,7 @@ Cli cliente(const RigaFoglio& riga, const std::vector<Con>& conti) {
     return cli;
 }
 
-Prx testoAggiunto(const RigaFoglio& riga) {
+Prx testoAggiunto(const RigaTabella& riga) {
     Prx prx = vuoto<Prx>();
     if (riga.vuoto(u"testo"))
         return prx;
@@ -119,7 +119,7 @@ Prx testoAggiunto(const RigaFoglio& riga) {
     return prx;
 }
 
-Art articolo(const RigaFoglio& riga) {
+Art articolo(const RigaTabella& riga) {
     Art art = vuoto<Art>();
     art.codice.set(riga.obbligatorio(u"codice", 15));
     art.descrizione.set(riga.obbligatorio(u"descrizione", 40));
@@ -139,7 +139,7 @@ Art articolo(const RigaFoglio& riga) {
 }
 
 /// Notes the record of a code; a code that comes twice is a problem.
-void nota(const RigaFoglio& riga, QHash<QString, int>& record, std::size_t numero) {
+void nota(const RigaTabella& riga, QHash<QString, int>& record, std::size_t numero) {
     const QString codice = riga.testo(u"codice", 15);
     if (record.contains(codice))
         riga.problema(u"codice: \"%1\" è già usato da un'altra riga."_s.arg(codice));
@@ -152,8 +152,8 @@ void leggiClienti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
         u"telefono2 telefono3 email nazione partitaiva codicefiscale ufficiopa pagamento agente sconto1 "
         u"sconto2 riba listino regimeiva nodifferita spesometro postael banca coordinate contocliente "
         u"contoricavi contoiva contoesenti vettore1 vettore2 vettore3 nota1 nota2 eliminato"_s.split(u' ');
-    const Foglio foglio(cartella, u"clienti.csv"_s, colonne, problemi, true);
-    for (const RigaFoglio& riga : foglio.righe()) {
+    const TabellaTesto foglio(cartella, u"clienti.csv"_s, colonne, problemi, true);
+    for (const RigaTabella& riga : foglio.righe()) {
         a.clienti.push_back(cliente(riga, a.conti));
         riga.obbligatorio(u"codice", 15);
         nota(riga, a.recordCliente, a.clienti.size());
@@ -164,8 +164,8 @@ void leggiArticoli(const QString& cartella, Anagrafiche& a, Problemi& problemi) 
     static const QStringList colonne =
         u"codice descrizione barcode um iva listino1 listino2 giacenza impegnato peso eliminato testo"_s
             .split(u' ');
-    const Foglio foglio(cartella, u"articoli.csv"_s, colonne, problemi);
-    for (const RigaFoglio& riga : foglio.righe()) {
+    const TabellaTesto foglio(cartella, u"articoli.csv"_s, colonne, problemi);
+    for (const RigaTabella& riga : foglio.righe()) {
         a.articoli.push_back(articolo(riga));
         a.testi.push_back(testoAggiunto(riga));
         nota(riga, a.recordArticolo, a.articoli.size());
@@ -173,8 +173,8 @@ void leggiArticoli(const QString& cartella, Anagrafiche& a, Problemi& problemi) 
 }
 
 void leggiConti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
-    const Foglio foglio(cartella, u"conti.csv"_s, {u"codice"_s, u"descrizione"_s}, problemi, true);
-    for (const RigaFoglio& riga : foglio.righe()) {
+    const TabellaTesto foglio(cartella, u"conti.csv"_s, {u"codice"_s, u"descrizione"_s}, problemi, true);
+    for (const RigaTabella& riga : foglio.righe()) {
         Con con = vuoto<Con>();
         const QString codice = riga.obbligatorio(u"codice", 8);
         if (codice.size() != 8)
@@ -189,8 +189,8 @@ void leggiConti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
 void leggiAgenti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
     static const QStringList colonne =
         u"codice ragione1 indirizzo cap citta telefono partitaiva codicefiscale provvigione"_s.split(u' ');
-    const Foglio foglio(cartella, u"agenti.csv"_s, colonne, problemi);
-    for (const RigaFoglio& riga : foglio.righe()) {
+    const TabellaTesto foglio(cartella, u"agenti.csv"_s, colonne, problemi);
+    for (const RigaTabella& riga : foglio.righe()) {
         Age age = bianco<Age>();
         age.agex3 = 0;
         // The head of an agent's record is that of a customer.
@@ -271,4 +271,4 @@ bool scriviAnagrafiche(Archivio& archivio, const Anagrafiche& a) {
            indicizza(archivio.srb, a.articoli, barcode) && indicizza(archivio.sra, a.articoli, codice);
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace bor {
+namespace bor::crea {
 
 struct Anagrafiche {
     std::vector<Cli> clienti;
@@ -25,4 +25,4 @@ Anagrafiche leggiAnagrafiche(const QString& cartella, Problemi& problemi);
 /// Writes the records, their counters and the three indexes. False when a file could not be written.
 bool scriviAnagrafiche(Archivio& archivio, const Anagrafiche& anagrafiche);
 
-} // namespace bor
+} // namespace bor::crea

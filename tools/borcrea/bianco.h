@@ -5,7 +5,7 @@
 
 #include <span>
 
-namespace bor {
+namespace bor::crea {
 
 /// Only for records whose numbers are all set afterwards: blanks are no number.
 template <class R>
@@ -16,4 +16,4 @@ R bianco() {
     return record;
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -1,14 +1,14 @@
 #include "borcrea/creaazienda.h"
 
 #include "borcrea/documenti.h"
-#include "borcrea/foglio.h"
 #include "borcrea/registra.h"
+#include "borcrea/tabellatesto.h"
 #include "common/numeri.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 
-namespace bor {
+namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
@@ -76,10 +76,10 @@ void Cantiere::prendiTesto(const QString& nome, const QString& dove, bool necess
 
 void Cantiere::scriviServizi() {
     constexpr qsizetype massimo = 100;
-    const Foglio foglio(m_richiesta.sorgente, u"servizi.csv"_s,
-                        u"descrizione anticipazioni spese onorari"_s.split(u' '), m_problemi);
+    const TabellaTesto foglio(m_richiesta.sorgente, u"servizi.csv"_s,
+                              u"descrizione anticipazioni spese onorari"_s.split(u' '), m_problemi);
     QStringList linee;
-    for (const RigaFoglio& riga : foglio.righe()) {
+    for (const RigaTabella& riga : foglio.righe()) {
         linee << riga.obbligatorio(u"descrizione", 50) << testoDecimale(riga.numero(u"anticipazioni"))
               << testoDecimale(riga.numero(u"spese")) << testoDecimale(riga.numero(u"onorari")) << QString();
     }
@@ -199,4 +199,4 @@ Problemi creaAzienda(const NuovaAzienda& richiesta) {
     return problemi;
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -4,7 +4,7 @@
 
 #include "borcrea/problemi.h"
 
-namespace bor {
+namespace bor::crea {
 
 struct NuovaAzienda {
     QString sorgente;  ///< folder of the text files
@@ -17,4 +17,4 @@ struct NuovaAzienda {
 /// existing company is never touched. The suite's root settings are written only where they are missing.
 Problemi creaAzienda(const NuovaAzienda& richiesta);
 
-} // namespace bor
+} // namespace bor::crea

@@ -1,11 +1,11 @@
 #include "borcrea/datifpa.h"
 
 #include "borcrea/bianco.h"
-#include "borcrea/foglio.h"
+#include "borcrea/tabellatesto.h"
 
 #include <QFile>
 
-namespace bor {
+namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
@@ -84,10 +84,10 @@ std::optional<Fpa> leggiFpaAzienda(const QString& cartella, Problemi& problemi) 
     const QString nome = u"fpa_azienda.csv"_s;
     if (!QFile::exists(cartella + u'/' + nome))
         return std::nullopt;
-    const Foglio foglio(cartella, nome, {u"campo"_s, u"valore"_s}, problemi);
+    const TabellaTesto foglio(cartella, nome, {u"campo"_s, u"valore"_s}, problemi);
     Fpa fpa = bianco<Fpa>();
     fpa.statoquadri.set(QString::number(Fpa::compilato));
-    for (const RigaFoglio& riga : foglio.righe()) {
+    for (const RigaTabella& riga : foglio.righe()) {
         const QString campo = riga.obbligatorio(u"campo", 40);
         bool trovato = false;
         campiAzienda(fpa, [&](QStringView nomeCampo, auto& testo) {
@@ -109,7 +109,7 @@ QStringList colonneFpa() {
     return colonne;
 }
 
-Fpa leggiFpaDocumento(const RigaFoglio& riga) {
+Fpa leggiFpaDocumento(const RigaTabella& riga) {
     Fpa fpa = bianco<Fpa>();
     campiDocumento(fpa, [&](QStringView nome, auto& testo) {
         testo.set(riga.testo(nome, static_cast<int>(testo.bytes.size())));
@@ -122,4 +122,4 @@ bool scriviFpa(Archivio& archivio, const QString& nome, const Fpa& fpa) {
     return file.apri(archivio.reale(archivio.file(nome))) && file.scrivi(1, fpa);
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -7,9 +7,9 @@
 
 #include <optional>
 
-namespace bor {
+namespace bor::crea {
 
-class RigaFoglio;
+class RigaTabella;
 
 /// The company's data from `fpa_azienda.csv`, a field a row; nothing when there is no such table.
 std::optional<Fpa> leggiFpaAzienda(const QString& cartella, Problemi& problemi);
@@ -18,9 +18,9 @@ std::optional<Fpa> leggiFpaAzienda(const QString& cartella, Problemi& problemi);
 QStringList colonneFpa();
 
 /// A document's data from its row of `fpa.csv`; what belongs to the document itself is left blank.
-Fpa leggiFpaDocumento(const RigaFoglio& riga);
+Fpa leggiFpaDocumento(const RigaTabella& riga);
 
 /// Writes the only record of `borlano.fpa` (`nome` "borlano.fpa") or of a document's `fpa<N>`.
 bool scriviFpa(Archivio& archivio, const QString& nome, const Fpa& fpa);
 
-} // namespace bor
+} // namespace bor::crea

@@ -1,13 +1,13 @@
 #include "borcrea/documenti.h"
 
-#include "borcrea/foglio.h"
+#include "borcrea/tabellatesto.h"
 #include "common/numeri.h"
 #include "document/apridoc.h"
 #include "document/scadenze.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
 
-namespace bor {
+namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +31,7 @@ void daArticolo(Riga& riga, const Art& art, const Cli& cliente) {
     riga.peso = art.peso;
 }
 
-Riga leggiRiga(const RigaFoglio& foglio, const Anagrafiche& a, const Cli& cliente) {
+Riga leggiRiga(const RigaTabella& foglio, const Anagrafiche& a, const Cli& cliente) {
     Riga riga;
     const QString articolo = foglio.testo(u"articolo", 15);
     if (!articolo.isEmpty()) {
@@ -55,7 +55,7 @@ Riga leggiRiga(const RigaFoglio& foglio, const Anagrafiche& a, const Cli& client
     return riga;
 }
 
-Rigap leggiRigap(const RigaFoglio& foglio) {
+Rigap leggiRigap(const RigaTabella& foglio) {
     Rigap riga;
     riga.data = foglio.testo(u"data", 10);
     riga.descrizione = foglio.obbligatorio(u"descrizione", 50);
@@ -72,7 +72,7 @@ struct Chiave {
 };
 
 template <class T>
-void accoda(const RigaFoglio& foglio, std::vector<T>& tabella, const T& riga, int massimo) {
+void accoda(const RigaTabella& foglio, std::vector<T>& tabella, const T& riga, int massimo) {
     if (static_cast<int>(tabella.size()) == massimo)
         foglio.problema(u"il documento ha più di %1 righe."_s.arg(massimo));
     else
@@ -80,7 +80,7 @@ void accoda(const RigaFoglio& foglio, std::vector<T>& tabella, const T& riga, in
 }
 
 /// The key of the document that a line belongs to; empty when there is no such document of this kind.
-QString documentoDi(const RigaFoglio& foglio, const QHash<QString, Chiave>& chiavi, bool parcella) {
+QString documentoDi(const RigaTabella& foglio, const QHash<QString, Chiave>& chiavi, bool parcella) {
     const QString documento = foglio.obbligatorio(u"documento", 20);
     const auto trovato = chiavi.constFind(documento);
     if (!documento.isEmpty() && trovato == chiavi.constEnd())
@@ -98,10 +98,10 @@ QString documentoDi(const RigaFoglio& foglio, const QHash<QString, Chiave>& chia
 Righe leggiRighe(const QString& cartella, const Anagrafiche& a, const QHash<QString, Chiave>& chiavi,
                  Problemi& problemi) {
     Righe righe;
-    const Foglio merce(cartella, u"righe.csv"_s,
-                       u"documento articolo descrizione um quantita prezzo sconto1 sconto2 iva"_s.split(u' '),
-                       problemi);
-    for (const RigaFoglio& foglio : merce.righe()) {
+    const TabellaTesto merce(
+        cartella, u"righe.csv"_s,
+        u"documento articolo descrizione um quantita prezzo sconto1 sconto2 iva"_s.split(u' '), problemi);
+    for (const RigaTabella& foglio : merce.righe()) {
         const QString documento = documentoDi(foglio, chiavi, false);
         const int cliente = chiavi.value(documento).cliente;
         if (cliente == 0)
@@ -109,9 +109,10 @@ Righe leggiRighe(const QString& cartella, const Anagrafiche& a, const QHash<QStr
         accoda(foglio, righe.merce[documento],
                leggiRiga(foglio, a, a.clienti[static_cast<std::size_t>(cliente - 1)]), righeMerce);
     }
-    const Foglio parcelle(cartella, u"prestazioni.csv"_s,
-                          u"documento data descrizione spese anticipazioni onorari"_s.split(u' '), problemi);
-    for (const RigaFoglio& foglio : parcelle.righe()) {
+    const TabellaTesto parcelle(cartella, u"prestazioni.csv"_s,
+                                u"documento data descrizione spese anticipazioni onorari"_s.split(u' '),
+                                problemi);
+    for (const RigaTabella& foglio : parcelle.righe()) {
         const QString documento = documentoDi(foglio, chiavi, true);
         if (!documento.isEmpty())
             accoda(foglio, righe.parcella[documento], leggiRigap(foglio), righeParcella);
@@ -119,7 +120,7 @@ Righe leggiRighe(const QString& cartella, const Anagrafiche& a, const QHash<QStr
     return righe;
 }
 
-void leggiEstremi(const RigaFoglio& foglio, Documento& d) {
+void leggiEstremi(const RigaTabella& foglio, Documento& d) {
     Estremi& e = d.estremi;
     e.numero = foglio.obbligatorio(u"numero", 10);
     e.data = testoData(foglio.data(u"data"));
@@ -135,7 +136,7 @@ void leggiEstremi(const RigaFoglio& foglio, Documento& d) {
     d.recordfpa = foglio.intero(u"fpa", 0, Archivio::massimo);
 }
 
-void leggiTestata(const RigaFoglio& foglio, Documento& d) {
+void leggiTestata(const RigaTabella& foglio, Documento& d) {
     Trasporto& t = d.testata.trasporto;
     t.ddt = foglio.testo(u"ddt", 120);
     t.ordine = foglio.testo(u"ordine", 40);
@@ -165,7 +166,7 @@ void calcola(Documento& d, const Contesto& contesto) {
     riportaTotali(d, t.iva, t.baserit, t.importorit, contesto);
 }
 
-DocumentoPronto leggiDocumento(const RigaFoglio& foglio, const Chiave& chiave, const Righe& righe,
+DocumentoPronto leggiDocumento(const RigaTabella& foglio, const Chiave& chiave, const Righe& righe,
                                const Contesto& contesto) {
     DocumentoPronto pronto;
     Documento& d = pronto.documento;
@@ -189,9 +190,9 @@ DocumentoPronto leggiDocumento(const RigaFoglio& foglio, const Chiave& chiave, c
     return pronto;
 }
 
-QHash<QString, Chiave> leggiChiavi(const Foglio& foglio, const Anagrafiche& a) {
+QHash<QString, Chiave> leggiChiavi(const TabellaTesto& foglio, const Anagrafiche& a) {
     QHash<QString, Chiave> chiavi;
-    for (const RigaFoglio& riga : foglio.righe()) {
+    for (const RigaTabella& riga : foglio.righe()) {
         const QString documento = riga.obbligatorio(u"documento", 20);
         const QString tipo = riga.obbligatorio(u"tipo", senzaLimite);
         const QString cliente = riga.obbligatorio(u"cliente", 15);
@@ -209,8 +210,8 @@ QHash<QString, Chiave> leggiChiavi(const Foglio& foglio, const Anagrafiche& a) {
 /// Gives the documents for a public administration their data.
 void leggiFpa(const QString& cartella, const QHash<QString, std::size_t>& posti,
               std::vector<DocumentoPronto>& documenti, Problemi& problemi) {
-    const Foglio foglio(cartella, u"fpa.csv"_s, colonneFpa(), problemi);
-    for (const RigaFoglio& riga : foglio.righe()) {
+    const TabellaTesto foglio(cartella, u"fpa.csv"_s, colonneFpa(), problemi);
+    for (const RigaTabella& riga : foglio.righe()) {
         const QString chiave = riga.obbligatorio(u"documento", 20);
         const auto posto = posti.constFind(chiave);
         if (posto == posti.constEnd() || documenti[*posto].documento.recordfpa < 1) {
@@ -235,12 +236,12 @@ std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagr
         u"documento tipo numero data registrazione cliente pagamento registro protocollo voce1 voce2 quota2 "
         u"pdf fpa eliminato ddt ordine colli peso inizio ora causale aspetto spedizione scorporo ivaonorari "
         u"ivaspese pratica1 pratica2 versamento filerighe"_s.split(u' ');
-    const Foglio foglio(cartella, u"documenti.csv"_s, colonne, problemi);
+    const TabellaTesto foglio(cartella, u"documenti.csv"_s, colonne, problemi);
     const QHash<QString, Chiave> chiavi = leggiChiavi(foglio, anagrafiche);
     const Righe righe = leggiRighe(cartella, anagrafiche, chiavi, problemi);
     std::vector<DocumentoPronto> documenti;
     QHash<QString, std::size_t> posti;
-    for (const RigaFoglio& riga : foglio.righe()) {
+    for (const RigaTabella& riga : foglio.righe()) {
         const QString documento = riga.testo(u"documento", 20);
         const Chiave chiave = chiavi.value(documento);
         posti.insert(documento, documenti.size());
@@ -250,4 +251,4 @@ std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagr
     return documenti;
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace bor {
+namespace bor::crea {
 
 /// Where the lines of a document are: in the file that a save writes, in one of the name from before those
 /// files had numbers, or lost.
@@ -28,4 +28,4 @@ struct DocumentoPronto {
 std::vector<DocumentoPronto> leggiDocumenti(const QString& cartella, const Anagrafiche& anagrafiche,
                                             const Contesto& contesto, Problemi& problemi);
 
-} // namespace bor
+} // namespace bor::crea

@@ -45,15 +45,15 @@ int main(int argc, char** argv) {
         QTextStream(stdout) << parser.helpText();
         return 0;
     }
-    bor::NuovaAzienda richiesta;
+    bor::crea::NuovaAzienda richiesta;
     richiesta.sorgente = parser.positionalArguments().value(0, parser.value(u"sorgente"_s));
     richiesta.unita = QDir(parser.value(u"unita"_s)).absolutePath();
     richiesta.codice = numero(parser, u"azienda"_s, 999);
     richiesta.documenti = numero(parser, u"documenti"_s, bor::Archivio::massimo);
     if (richiesta.codice < 0 || richiesta.documenti < 0)
         return 2;
-    const bor::Problemi problemi = bor::creaAzienda(richiesta);
-    for (const bor::Problema& problema : problemi)
+    const bor::crea::Problemi problemi = bor::crea::creaAzienda(richiesta);
+    for (const bor::crea::Problema& problema : problemi)
         QTextStream(stderr) << problema.testo() << '\n';
     return problemi.isEmpty() ? 0 : 1;
 }

@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-namespace bor {
+namespace bor::crea {
 
 struct Problema {
     QString file;
@@ -17,4 +17,4 @@ struct Problema {
 
 using Problemi = QList<Problema>;
 
-} // namespace bor
+} // namespace bor::crea

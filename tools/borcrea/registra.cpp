@@ -11,7 +11,7 @@
 #include <QDateTime>
 #include <QFile>
 
-namespace bor {
+namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
@@ -115,4 +115,4 @@ bool ripetiDocumenti(Archivio& archivio, int quanti) {
     return archivio.scriviTot(Conta::Fte, tot);
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace bor {
+namespace bor::crea {
 
 /// The clock of a company in the making. It stands at the registration of the document at hand, a second
 /// apart from the one before it, so that a company made twice is the same to the byte and no two documents
@@ -43,4 +43,4 @@ private:
 /// for measuring. The repeated ones have no detail lines.
 bool ripetiDocumenti(Archivio& archivio, int quanti);
 
-} // namespace bor
+} // namespace bor::crea

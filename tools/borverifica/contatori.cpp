@@ -2,7 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -58,4 +58,4 @@ Discordanze verificaContatori(const Archivio& archivio) {
     return controllo.trovate();
 }
 
-} // namespace bor
+} // namespace bor::verifica

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -120,4 +120,4 @@ Discordanze verificaConti(const Archivio& archivio) {
     return trovate;
 }
 
-} // namespace bor
+} // namespace bor::verifica

@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -134,4 +134,4 @@ Discordanze verificaDocumenti(const Archivio& archivio) {
     return c.trovate;
 }
 
-} // namespace bor
+} // namespace bor::verifica

@@ -2,7 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -84,4 +84,4 @@ Discordanze verificaIndici(const Archivio& archivio) {
     return trovate;
 }
 
-} // namespace bor
+} // namespace bor::verifica

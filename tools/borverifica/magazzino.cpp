@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -82,4 +82,4 @@ Discordanze verificaMagazzino(const Archivio& archivio) {
     return trovate;
 }
 
-} // namespace bor
+} // namespace bor::verifica

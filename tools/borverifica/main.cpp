@@ -27,24 +27,24 @@ Esito verificaAzienda(const QString& unita, int codice) {
         return Illeggibile;
     }
     archivio.apri(bor::Apertura::SolaLettura);
-    if (const QStringList chiusi = bor::nonLeggibili(archivio); !chiusi.isEmpty()) {
+    if (const QStringList chiusi = bor::verifica::nonLeggibili(archivio); !chiusi.isEmpty()) {
         QTextStream(stderr)
             << u"Non si può leggere %1: manca il permesso, o un altro programma lo tiene per sé.\n"_s.arg(
                    chiusi.join(u", "_s));
         return Illeggibile;
     }
-    const bor::Discordanze trovate = bor::verifica(archivio);
+    const bor::verifica::Discordanze trovate = bor::verifica::verificaArchivio(archivio);
     QTextStream uscita(stdout);
-    for (const bor::Discordanza& discordanza : trovate)
+    for (const bor::verifica::Discordanza& discordanza : trovate)
         uscita << discordanza.testo() << '\n';
-    const auto quante = [&](bor::Gravita gravita) {
-        return std::ranges::count(trovate, gravita, &bor::Discordanza::gravita);
+    const auto quante = [&](bor::verifica::Gravita gravita) {
+        return std::ranges::count(trovate, gravita, &bor::verifica::Discordanza::gravita);
     };
-    const auto errori = quante(bor::Gravita::Errore);
-    const auto avvisi = quante(bor::Gravita::Avviso);
+    const auto errori = quante(bor::verifica::Gravita::Errore);
+    const auto avvisi = quante(bor::verifica::Gravita::Avviso);
     uscita
         << u"Azienda %1: %2 errori, %3 avvisi, %4 informazioni.\n"_s.arg(codice).arg(errori).arg(avvisi).arg(
-               quante(bor::Gravita::Informazione));
+               quante(bor::verifica::Gravita::Informazione));
     return errori + avvisi == 0 ? InOrdine : ConDiscordanze;
 }
 

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -90,4 +90,4 @@ Discordanze verificaMovimenti(const Archivio& archivio) {
     return trovate;
 }
 
-} // namespace bor
+} // namespace bor::verifica

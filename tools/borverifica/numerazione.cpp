@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 namespace {
 
@@ -107,4 +107,4 @@ Discordanze verificaNumerazione(const Archivio& archivio) {
     return trovate;
 }
 
-} // namespace bor
+} // namespace bor::verifica

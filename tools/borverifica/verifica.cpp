@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::verifica {
 
 QString Discordanza::testo() const {
     const QString parola = gravita == Gravita::Errore   ? u"ERRORE"_s
@@ -15,7 +15,7 @@ QString Discordanza::testo() const {
     return parola.leftJustified(8) + dove + u": "_s + motivo;
 }
 
-Discordanze verifica(const Archivio& archivio) {
+Discordanze verificaArchivio(const Archivio& archivio) {
     return verificaContatori(archivio) + verificaDocumenti(archivio) + verificaMovimenti(archivio) +
            verificaConti(archivio) + verificaMagazzino(archivio) + verificaIndici(archivio) +
            verificaNumerazione(archivio);
@@ -49,4 +49,4 @@ QString nomeDocumento(const Fte& fte, int record) {
     return u"%1 n. %2 (record %3)"_s.arg(genere, puliscitesto(fte.numero.text()), QString::number(record));
 }
 
-} // namespace bor
+} // namespace bor::verifica

@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-namespace bor {
+namespace bor::verifica {
 
 enum class Gravita {
     Errore,       ///< the archive contradicts itself, or something is lost
@@ -51,7 +51,7 @@ Discordanze verificaIndici(const Archivio& archivio);
 Discordanze verificaNumerazione(const Archivio& archivio);
 
 /// All of them.
-Discordanze verifica(const Archivio& archivio);
+Discordanze verificaArchivio(const Archivio& archivio);
 
 /// The files that are there but could not be opened.
 QStringList nonLeggibili(const Archivio& archivio);
@@ -73,4 +73,4 @@ QString elencoBreve(const QStringList& testi);
 /// "fattura n. 12 (record 7)", or credit note, or fee bill.
 QString nomeDocumento(const Fte& fte, int record);
 
-} // namespace bor
+} // namespace bor::verifica

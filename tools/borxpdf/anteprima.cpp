@@ -24,7 +24,7 @@ constexpr int kMargine = 12; // pixels around the sheet
 /// The sheet on the desk: one page at the present zoom.
 class Anteprima::Foglio : public QWidget {
 public:
-    explicit Foglio(Documento& documento) : m_documento(documento) { ridimensiona(); }
+    explicit Foglio(DocumentoPdf& documento) : m_documento(documento) { ridimensiona(); }
 
     double zoom() const { return m_zoom; }
     void setZoom(double zoom) {
@@ -37,33 +37,33 @@ public:
         update();
     }
     /// Width in pixels of the sheet at natural size.
-    double larghezzaNaturale() const { return m_documento.modello.pagina().width() / 25.4 * logicalDpiX(); }
+    double larghezzaNaturale() const { return m_documento.layout.pagina().width() / 25.4 * logicalDpiX(); }
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter pittore(this);
         pittore.fillRect(rect(), Qt::white);
-        const Modello& modello = m_documento.modello;
+        const LayoutPdf& layout = m_documento.layout;
         pittore.scale(m_zoom * logicalDpiX() / kUnitaPollice, m_zoom * logicalDpiX() / kUnitaPollice);
-        pittore.translate(-unitaDaMillimetri(modello.taglioSinistra), -unitaDaMillimetri(modello.taglioAlto));
+        pittore.translate(-unitaDaMillimetri(layout.taglioSinistra), -unitaDaMillimetri(layout.taglioAlto));
         m_documento.disegnatore.disegna(pittore,
-                                        m_documento.rapporto.pagine[static_cast<std::size_t>(m_pagina)]);
+                                        m_documento.stampa.pagine[static_cast<std::size_t>(m_pagina)]);
     }
 
 private:
     void ridimensiona() {
-        const QSizeF pagina = m_documento.modello.pagina();
+        const QSizeF pagina = m_documento.layout.pagina();
         const double larghezza = larghezzaNaturale() * m_zoom;
         setFixedSize(qRound(larghezza), qRound(larghezza * pagina.height() / pagina.width()));
         update();
     }
 
-    Documento& m_documento;
+    DocumentoPdf& m_documento;
     double m_zoom = 1;
     qsizetype m_pagina = 0;
 };
 
-Anteprima::Anteprima(Documento documento)
+Anteprima::Anteprima(DocumentoPdf documento)
     : m_documento(std::move(documento)), m_foglio(new Foglio(m_documento)), m_area(new QScrollArea(this)),
       m_didascalia(new QLabel(this)) {
     setWindowTitle(u"Anteprima di stampa"_s);
@@ -107,11 +107,11 @@ void Anteprima::preparaComandi() {
         addAction(nuova);
     };
     tasto(Qt::Key_Home, [this] { mostraPagina(0); });
-    tasto(Qt::Key_End, [this] { mostraPagina(std::ssize(m_documento.rapporto.pagine) - 1); });
+    tasto(Qt::Key_End, [this] { mostraPagina(std::ssize(m_documento.stampa.pagine) - 1); });
 }
 
 void Anteprima::mostraPagina(qsizetype pagina) {
-    const qsizetype pagine = std::ssize(m_documento.rapporto.pagine);
+    const qsizetype pagine = std::ssize(m_documento.stampa.pagine);
     if (pagina < 0 || pagina >= pagine)
         return;
     m_foglio->setPagina(pagina);

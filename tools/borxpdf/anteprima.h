@@ -12,7 +12,7 @@ namespace bor::pdf {
 
 class Anteprima : public QMainWindow {
 public:
-    explicit Anteprima(Documento documento);
+    explicit Anteprima(DocumentoPdf documento);
     ~Anteprima() override;
 
     /// Page from 0; outside the document nothing happens.
@@ -28,7 +28,7 @@ private:
     void ingrandisci(double fattore);
     void adattaLarghezza();
 
-    Documento m_documento;
+    DocumentoPdf m_documento;
     Foglio* m_foglio;
     QScrollArea* m_area;
     QLabel* m_didascalia;

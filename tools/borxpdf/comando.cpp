@@ -3,6 +3,7 @@
 #include "borxpdf/impostazioniposta.h"
 #include "borxpdf/pdf.h"
 #include "borxpdf/posta.h"
+#include "common/indirizzoposta.h"
 #include "common/percorsi.h"
 #include "common/testo.h"
 
@@ -15,7 +16,6 @@ namespace {
 
 constexpr qint64 kMassimoRapporto = 256 * 1024 * 1024;
 constexpr qint64 kMassimoTesto = 1024 * 1024;
-constexpr auto kSenzaPosta = "***"_L1;
 
 /// The file's bytes; nothing when it is missing, cannot be read or is larger than `massimo`.
 std::optional<QByteArray> leggiFile(const Percorsi& percorsi, const QString& dos, qint64 massimo) {
@@ -32,10 +32,10 @@ QString cartella(const QString& dos) {
 
 /// Subject of the mail among the company's own texts, the lines of `borlano.pdf` beside the layout: second
 /// line of the first four for invoices, of the third four for fee bills.
-QString oggettoAzienda(const Comando& comando, const Percorsi& percorsi) {
-    const auto testi = leggiFile(percorsi, cartella(comando.modello) + u"borlano.pdf"_s, kMassimoTesto);
+QString oggettoAzienda(const ComandoPdf& comando, const Percorsi& percorsi) {
+    const auto testi = leggiFile(percorsi, cartella(comando.layout) + u"borlano.pdf"_s, kMassimoTesto);
     const QList<QByteArray> righe = testi.value_or(QByteArray()).split('\n');
-    const bool parcella = comando.modello.endsWith(".lxp"_L1, Qt::CaseInsensitive);
+    const bool parcella = comando.layout.endsWith(".lxp"_L1, Qt::CaseInsensitive);
     return daCp1252(righe.value(parcella ? 9 : 1)).trimmed();
 }
 
@@ -46,7 +46,7 @@ QString primoNonVuoto(std::initializer_list<QString> testi) {
     return {};
 }
 
-bool spedisciPdf(const Comando& comando, const Modello& modello, const QByteArray& pdf,
+bool spedisciPdf(const ComandoPdf& comando, const LayoutPdf& layout, const QByteArray& pdf,
                  const Percorsi& percorsi, QString& errore) {
     if (!indirizzoValido(comando.indirizzo)) {
         errore = comando.indirizzo.isEmpty() ? u"il cliente non ha un indirizzo di posta elettronica."_s
@@ -67,10 +67,10 @@ bool spedisciPdf(const Comando& comando, const Modello& modello, const QByteArra
     Messaggio messaggio;
     messaggio.destinatario = comando.indirizzo;
     messaggio.oggetto = conNumero(
-        primoNonVuoto({oggettoAzienda(comando, percorsi), modello.oggetto, u"Documento n. {numero}"_s}),
+        primoNonVuoto({oggettoAzienda(comando, percorsi), layout.oggetto, u"Documento n. {numero}"_s}),
         comando.pdf);
     messaggio.testo =
-        conNumero(primoNonVuoto({comando.testo, modello.testo, u"In allegato il documento n. {numero}."_s}),
+        conNumero(primoNonVuoto({comando.testo, layout.testo, u"In allegato il documento n. {numero}."_s}),
                   comando.pdf);
     messaggio.nomeAllegato = nomeBreve(comando.pdf) + u".pdf"_s;
     messaggio.allegato = pdf;
@@ -79,46 +79,27 @@ bool spedisciPdf(const Comando& comando, const Modello& modello, const QByteArra
 
 } // namespace
 
-std::optional<Comando> Comando::leggi(const QStringList& argomenti) {
-    QStringList parole = argomenti;
-    Comando comando;
-    comando.anteprima = !parole.isEmpty() && parole.first() == "--anteprima"_L1;
-    if (comando.anteprima)
-        parole.removeFirst();
-    const QString tutto = parole.join(u' ');
-    const auto parte = [&](int i) { return tutto.section(u',', i, i).trimmed(); };
-    comando.modello = parte(0);
-    comando.rapporto = parte(1);
-    comando.pdf = parte(2);
-    comando.indirizzo = parte(3);
-    comando.testo = tutto.section(u',', 4).trimmed();
-    const qsizetype parti = tutto.count(u',') + 1;
-    if (comando.rapporto.isEmpty() || (!comando.anteprima && (parti < 4 || comando.pdf.isEmpty())))
-        return std::nullopt;
-    return comando;
-}
-
-std::optional<Documento> apri(const Comando& comando, const Percorsi& percorsi, QString& errore) {
+std::optional<DocumentoPdf> apri(const ComandoPdf& comando, const Percorsi& percorsi, QString& errore) {
     const auto byte = leggiFile(percorsi, comando.rapporto, kMassimoRapporto);
     if (!byte) {
         errore =
             u"Non si può leggere il file di stampa %1: stampare prima il documento."_s.arg(comando.rapporto);
         return std::nullopt;
     }
-    auto rapporto = Rapporto::leggi(*byte, errore);
-    if (!rapporto)
+    auto stampa = PagineStampate::leggi(*byte, errore);
+    if (!stampa)
         return std::nullopt;
-    const auto modello = leggiFile(percorsi, comando.modello, kMassimoTesto);
-    const QString azienda = cartella(comando.modello);
+    const auto layout = leggiFile(percorsi, comando.layout, kMassimoTesto);
+    const QString azienda = cartella(comando.layout);
     const auto trovaImmagine = [percorsi, azienda](const QString& nome) {
         // A name without a folder is a picture of the company's own.
         return percorsi.reale(nome.contains(u'\\') ? nome : azienda + nome).value_or(QString());
     };
-    return Documento{modello ? Modello(FileIni(*modello)) : Modello(), std::move(*rapporto),
-                     Disegnatore(trovaImmagine)};
+    return DocumentoPdf{layout ? LayoutPdf(FileIni(*layout)) : LayoutPdf(), std::move(*stampa),
+                        Disegnatore(trovaImmagine)};
 }
 
-bool esegui(const Comando& comando, const Percorsi& percorsi, QString& errore) {
+bool esegui(const ComandoPdf& comando, const Percorsi& percorsi, QString& errore) {
     // The name comes from settings and a document number: nothing but a PDF may be replaced.
     const auto file = percorsi.reale(comando.pdf);
     if (!file || !comando.pdf.endsWith(".pdf"_L1, Qt::CaseInsensitive)) {
@@ -128,15 +109,15 @@ bool esegui(const Comando& comando, const Percorsi& percorsi, QString& errore) {
     auto documento = apri(comando, percorsi, errore);
     if (!documento)
         return false;
-    const Modello& modello = documento->modello;
-    const QString titolo = conNumero(primoNonVuoto({modello.titolo, nomeBreve(comando.pdf)}), comando.pdf);
-    const QByteArray pdf = componiPdf(documento->rapporto, modello, titolo, documento->disegnatore);
+    const LayoutPdf& layout = documento->layout;
+    const QString titolo = conNumero(primoNonVuoto({layout.titolo, nomeBreve(comando.pdf)}), comando.pdf);
+    const QByteArray pdf = componiPdf(documento->stampa, layout, titolo, documento->disegnatore);
     if (pdf.isEmpty() || !scriviIntero(*file, pdf)) {
         errore = u"Non si può scrivere il PDF %1: controllare la cartella e lo spazio su disco."_s.arg(
             comando.pdf);
         return false;
     }
-    if (comando.indirizzo == kSenzaPosta || spedisciPdf(comando, modello, pdf, percorsi, errore))
+    if (comando.indirizzo == senzaPosta || spedisciPdf(comando, layout, pdf, percorsi, errore))
         return true;
     errore = u"Il PDF %1 è pronto ma non è stato spedito: "_s.arg(comando.pdf) + errore;
     return false;

@@ -16,20 +16,19 @@ namespace {
 constexpr double kSpessoreLinea = 0.2; // millimetres
 constexpr qint64 kMassimoFileImmagine = 32 * 1024 * 1024;
 
-QColor colore(std::uint32_t valore) {
-    return QColor(static_cast<int>(valore & 0xff), static_cast<int>(valore >> 8 & 0xff),
-                  static_cast<int>(valore >> 16 & 0xff));
+QColor colore(int valore) {
+    return QColor(valore & 0xff, valore >> 8 & 0xff, valore >> 16 & 0xff);
 }
 
-QPointF primoPunto(const Elemento& e) {
+QPointF primoPunto(const RecordRapporto& e) {
     return {unitaDaMillimetri(e.x1), unitaDaMillimetri(e.y1)};
 }
 
-QPointF secondoPunto(const Elemento& e) {
+QPointF secondoPunto(const RecordRapporto& e) {
     return {unitaDaMillimetri(e.x2), unitaDaMillimetri(e.y2)};
 }
 
-QPen penna(const Elemento& e) {
+QPen penna(const RecordRapporto& e) {
     return QPen(colore(e.colore), unitaDaMillimetri(kSpessoreLinea), Qt::SolidLine, Qt::SquareCap,
                 Qt::MiterJoin);
 }
@@ -43,31 +42,31 @@ Disegnatore::~Disegnatore() = default;
 void Disegnatore::disegna(QPainter& pittore, const Pagina& pagina) {
     pittore.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
-    for (const Elemento& e : pagina) {
+    for (const RecordRapporto& e : pagina) {
         const QRectF posto = QRectF(primoPunto(e), secondoPunto(e)).normalized();
-        switch (e.codice) {
-        case Codice::Immagine:
+        switch (e.comando) {
+        case ComandoRapporto::Immagine:
             disegnaImmagine(pittore, e.testo, posto);
             break;
-        case Codice::Linea:
+        case ComandoRapporto::Linea:
             pittore.setPen(penna(e));
             pittore.drawLine(primoPunto(e), secondoPunto(e));
             break;
-        case Codice::Riquadro:
+        case ComandoRapporto::Riquadro:
             pittore.setPen(e.grassetto ? QPen(Qt::NoPen) : penna(e));
             pittore.setBrush(e.grassetto ? QBrush(colore(e.colore)) : QBrush(Qt::NoBrush));
             pittore.drawRect(posto);
             break;
-        case Codice::Testo:
+        case ComandoRapporto::Testo:
             disegnaTesto(pittore, e);
             break;
-        case Codice::FinePagina:
+        case ComandoRapporto::FinePagina:
             break;
         }
     }
 }
 
-void Disegnatore::disegnaTesto(QPainter& pittore, const Elemento& elemento) {
+void Disegnatore::disegnaTesto(QPainter& pittore, const RecordRapporto& elemento) {
     if (elemento.testo.isEmpty())
         return;
     const Carattere& scelto = carattere(elemento);
@@ -76,7 +75,7 @@ void Disegnatore::disegnaTesto(QPainter& pittore, const Elemento& elemento) {
     pittore.drawText(primoPunto(elemento) + QPointF(0, scelto.ascendente), elemento.testo);
 }
 
-const Disegnatore::Carattere& Disegnatore::carattere(const Elemento& elemento) {
+const Disegnatore::Carattere& Disegnatore::carattere(const RecordRapporto& elemento) {
     // A size below 2 is recorded as it stands in the template but drawn as 2, as the printer does.
     const int altezza = qRound(std::max(elemento.dimensione, 2.0) * kUnitaPollice / 72);
     const QString chiave = u"%1/%2/%3/%4"_s.arg(elemento.carattere)

@@ -2,7 +2,7 @@
 // tests.
 #pragma once
 
-#include "borxpdf/rapporto.h"
+#include "borxpdf/paginestampate.h"
 
 #include <QFont>
 #include <QHash>
@@ -47,9 +47,9 @@ private:
         bool senzaPerdita = true;
     };
 
-    void disegnaTesto(QPainter& pittore, const Elemento& elemento);
+    void disegnaTesto(QPainter& pittore, const RecordRapporto& elemento);
     void disegnaImmagine(QPainter& pittore, const QString& nome, const QRectF& posto);
-    const Carattere& carattere(const Elemento& elemento);
+    const Carattere& carattere(const RecordRapporto& elemento);
     const Immagine& immagine(const QString& nome);
 
     TrovaImmagine m_trovaImmagine;

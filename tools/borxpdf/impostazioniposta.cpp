@@ -1,5 +1,6 @@
 #include "borxpdf/impostazioniposta.h"
 
+#include "common/indirizzoposta.h"
 #include "common/percorsi.h"
 
 #include <QFile>
@@ -14,10 +15,9 @@ namespace {
 
 constexpr qint64 kMassimaPassword = 1024;
 
-bool combacia(QStringView testo, const QString& forma) {
-    static constexpr auto opzioni = QRegularExpression::DotMatchesEverythingOption;
-    const QRegularExpression regola(QRegularExpression::anchoredPattern(forma), opzioni);
-    return regola.match(testo.toString()).hasMatch();
+bool nomeDiServer(const QString& testo) {
+    static const QRegularExpression forma(QRegularExpression::anchoredPattern(u"[A-Za-z0-9.-]+"_s));
+    return forma.match(testo).hasMatch();
 }
 
 bool suQuestoComputer(const QString& server) {
@@ -73,13 +73,6 @@ bool leggiPassword(const QString& dos, const Percorsi& percorsi, QByteArray& pas
 
 } // namespace
 
-bool indirizzoValido(QStringView indirizzo) {
-    return indirizzo.size() <= 254 &&
-           combacia(indirizzo, u"[A-Za-z0-9!#$%&'*+/=?^_`{|}~-]+(\\.[A-Za-z0-9!#$%&'*+/=?^_`{|}~-]+)*"
-                               u"@[A-Za-z0-9]([A-Za-z0-9-]*[A-Za-z0-9])?"
-                               u"(\\.[A-Za-z0-9]([A-Za-z0-9-]*[A-Za-z0-9])?)*"_s);
-}
-
 std::optional<ImpostazioniPosta> ImpostazioniPosta::leggi(const FileIni& ini, const Percorsi& percorsi,
                                                           QString& errore) {
     ImpostazioniPosta posta;
@@ -91,7 +84,7 @@ std::optional<ImpostazioniPosta> ImpostazioniPosta::leggi(const FileIni& ini, co
         errore = u"manca il server di posta."_s;
         return std::nullopt;
     }
-    if (!combacia(posta.server, u"[A-Za-z0-9.-]+"_s)) {
+    if (!nomeDiServer(posta.server)) {
         errore = u"il nome del server di posta non è valido."_s;
         return std::nullopt;
     }

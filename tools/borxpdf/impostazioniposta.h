@@ -1,4 +1,4 @@
-// The mail settings of borxpdf.ini in the suite's root, and what counts as an address. Used by the mail.
+// The mail settings of borxpdf.ini in the suite's root. Used by the mail.
 #pragma once
 
 #include "borxpdf/fileini.h"
@@ -30,8 +30,5 @@ struct ImpostazioniPosta {
     static std::optional<ImpostazioniPosta> leggi(const FileIni& ini, const Percorsi& percorsi,
                                                   QString& errore);
 };
-
-/// One plain address: no line end, blank, comma, semicolon, quote or bracket, one "@", a domain name.
-bool indirizzoValido(QStringView indirizzo);
 
 } // namespace bor::pdf

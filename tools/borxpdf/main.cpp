@@ -35,7 +35,7 @@ int main(int argc, char* argv[]) {
     const QApplication programma(argc, argv);
     QApplication::setStyle(u"Fusion"_s);
 
-    const auto comando = bor::pdf::Comando::leggi(QApplication::arguments().sliced(1));
+    const auto comando = bor::ComandoPdf::leggi(QApplication::arguments().sliced(1));
     if (!comando) {
         avvisa(u"Uso: borxpdf [--anteprima] layout,rapporto,pdf,indirizzo[,testo]"_s);
         return 2;

@@ -1,7 +1,7 @@
 #include "borxpdf/pdf.h"
 
 #include "borxpdf/disegno.h"
-#include "borxpdf/modello.h"
+#include "borxpdf/layoutpdf.h"
 
 #include <QBuffer>
 #include <QDateTime>
@@ -40,7 +40,7 @@ qint64 numeroDopo(const QByteArray& coda, const QByteArray& chiave) {
 
 } // namespace
 
-QByteArray componiPdf(const Rapporto& rapporto, const Modello& modello, const QString& titolo,
+QByteArray componiPdf(const PagineStampate& stampa, const LayoutPdf& layout, const QString& titolo,
                       Disegnatore& disegnatore) {
     QByteArray pdf;
     {
@@ -51,22 +51,22 @@ QByteArray componiPdf(const Rapporto& rapporto, const Modello& modello, const QS
         scrittore.setCreator(QString::fromLatin1(kProgramma));
         scrittore.setResolution(kUnitaPollice);
         scrittore.setPageSize(
-            QPageSize(modello.pagina(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+            QPageSize(layout.pagina(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
         scrittore.setPageMargins({});
 
         QPainter pittore;
         if (!pittore.begin(&scrittore))
             return {};
-        pittore.translate(-unitaDaMillimetri(modello.taglioSinistra), -unitaDaMillimetri(modello.taglioAlto));
-        for (std::size_t i = 0; i < rapporto.pagine.size(); ++i) {
+        pittore.translate(-unitaDaMillimetri(layout.taglioSinistra), -unitaDaMillimetri(layout.taglioAlto));
+        for (std::size_t i = 0; i < stampa.pagine.size(); ++i) {
             if (i > 0)
                 scrittore.newPage();
-            disegnatore.disegna(pittore, rapporto.pagine[i]);
+            disegnatore.disegna(pittore, stampa.pagine[i]);
         }
         if (!pittore.end())
             return {};
     }
-    aggiungiAutore(pdf, titolo, modello.autore);
+    aggiungiAutore(pdf, titolo, layout.autore);
     return pdf;
 }
 

@@ -7,11 +7,11 @@
 namespace bor::pdf {
 
 class Disegnatore;
-struct Modello;
-struct Rapporto;
+struct LayoutPdf;
+struct PagineStampate;
 
 /// The whole PDF: one page a page of the report, text as text with its fonts embedded. Empty on failure.
-QByteArray componiPdf(const Rapporto& rapporto, const Modello& modello, const QString& titolo,
+QByteArray componiPdf(const PagineStampate& stampa, const LayoutPdf& layout, const QString& titolo,
                       Disegnatore& disegnatore);
 
 /// Puts the author into a PDF that QPdfWriter has made, as an update at its end, the title with it.

@@ -1,6 +1,7 @@
 #include "borxpdf/posta.h"
 
 #include "borxpdf/impostazioniposta.h"
+#include "common/indirizzoposta.h"
 
 #include <QDateTime>
 #include <QUuid>

@@ -11,7 +11,7 @@
 
 #include <map>
 
-namespace bor {
+namespace bor::lancia {
 
 using namespace Qt::StringLiterals;
 
@@ -73,4 +73,4 @@ bool avviaModulo(const Percorsi& percorsi, const QString& cartellaProgrammi, int
     return QProcess::startDetached(comando.programma, comando.argomenti, percorsi.radiceCorrente());
 }
 
-} // namespace bor
+} // namespace bor::lancia

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace bor {
+namespace bor::lancia {
 
 struct Azienda {
     int codice = 0;
@@ -42,4 +42,4 @@ bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi);
 /// Starts the module on a company of the drive and goes on without waiting; false when it did not start.
 bool avviaModulo(const Percorsi& percorsi, const QString& cartellaProgrammi, int codiceazienda);
 
-} // namespace bor
+} // namespace bor::lancia

@@ -21,29 +21,29 @@ int rifiuta(const QString& messaggio) {
 }
 
 bool esiste(const bor::Percorsi& percorsi, int codice) {
-    const QList<bor::Azienda> aziende = bor::elencaAziende(percorsi);
+    const QList<bor::lancia::Azienda> aziende = bor::lancia::elencaAziende(percorsi);
     return std::any_of(aziende.begin(), aziende.end(),
-                       [codice](const bor::Azienda& a) { return a.codice == codice; });
+                       [codice](const bor::lancia::Azienda& a) { return a.codice == codice; });
 }
 
 /// Starts the module on a company that is there, without a window.
 int avvia(const bor::Percorsi& percorsi, int codice) {
     if (!esiste(percorsi, codice))
         return rifiuta(u"L'azienda %1 non c'è in %2."_s.arg(codice).arg(percorsi.radiceCorrente()));
-    if (!bor::avviaModulo(percorsi, QCoreApplication::applicationDirPath(), codice))
+    if (!bor::lancia::avviaModulo(percorsi, QCoreApplication::applicationDirPath(), codice))
         return rifiuta(u"Il programma borfte non si avvia."_s);
     return 0;
 }
 
 int avviaDimostrazione(const bor::Percorsi& percorsi) {
-    if (!esiste(percorsi, bor::codiceDimostrazione)) {
+    if (!esiste(percorsi, bor::lancia::codiceDimostrazione)) {
         QDir().mkpath(percorsi.radiceCorrente());
-        const bor::Comando comando =
-            bor::comandoDimostrazione(QCoreApplication::applicationDirPath(), percorsi.radiceCorrente());
+        const bor::lancia::Comando comando = bor::lancia::comandoDimostrazione(
+            QCoreApplication::applicationDirPath(), percorsi.radiceCorrente());
         if (QProcess::execute(comando.programma, comando.argomenti) != 0)
             return rifiuta(u"L'azienda dimostrativa non è stata creata."_s);
     }
-    return avvia(percorsi, bor::codiceDimostrazione);
+    return avvia(percorsi, bor::lancia::codiceDimostrazione);
 }
 
 int mostraScelta(QApplication& applicazione, const QString& unita) {
@@ -52,9 +52,10 @@ int mostraScelta(QApplication& applicazione, const QString& unita) {
     if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&italiano);
     const QString cartella = QCoreApplication::applicationDirPath();
-    bor::SceltaAzienda finestra(unita, cartella, [cartella](const bor::Percorsi& percorsi, int codice) {
-        return bor::avviaModulo(percorsi, cartella, codice);
-    });
+    bor::lancia::SceltaAzienda finestra(unita, cartella,
+                                        [cartella](const bor::Percorsi& percorsi, int codice) {
+                                            return bor::lancia::avviaModulo(percorsi, cartella, codice);
+                                        });
     finestra.show();
     return QApplication::exec();
 }
@@ -72,7 +73,7 @@ void descriviOpzioni(QCommandLineParser& parser) {
 
 QString unitaScelta(const QCommandLineParser& parser) {
     const QString scelta = parser.value(u"unita"_s);
-    return scelta.isEmpty() ? bor::unitaPredefinita() : QDir::current().absoluteFilePath(scelta);
+    return scelta.isEmpty() ? bor::lancia::unitaPredefinita() : QDir::current().absoluteFilePath(scelta);
 }
 
 int avviaSubito(const QCommandLineParser& parser) {

@@ -14,7 +14,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-namespace bor {
+namespace bor::lancia {
 
 using namespace Qt::StringLiterals;
 
@@ -212,4 +212,4 @@ void SceltaAzienda::finitaDimostrazione(bool riuscita) {
     aggiorna();
 }
 
-} // namespace bor
+} // namespace bor::lancia

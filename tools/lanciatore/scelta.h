@@ -13,7 +13,7 @@ class QPushButton;
 class QStackedWidget;
 class QTreeWidget;
 
-namespace bor {
+namespace bor::lancia {
 
 class SceltaAzienda : public QDialog {
 public:
@@ -47,4 +47,4 @@ private:
     QPushButton* m_apriBottone = nullptr;
 };
 
-} // namespace bor
+} // namespace bor::lancia

@@ -1,5 +1,9 @@
 #include "tour/giro.h"
 
+#include "common/comandopdf.h"
+#include "common/percorsi.h"
+#include "common/rapporto.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
@@ -12,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::tour {
 
 QWidget* Giro::controllo(const QString& nome) {
     // Screens share control names: the one in view is meant.
@@ -64,9 +68,12 @@ void Giro::foto(const QString& nome) {
 void Giro::pdf(const QString& nome, bool parcella) {
     QProcess strumento;
     strumento.setWorkingDirectory(m_unita);
-    strumento.start(QCoreApplication::applicationDirPath() + u"/borxpdf"_s,
-                    {u"\\suprok\\suprok\\boraz0.001\\borlano.%1,c:\\bordoc.rto,\\%2.pdf,***"_s.arg(
-                        parcella ? u"lxp" : u"lxf", nome)});
+    const ComandoPdf comando{.layout =
+                                 cartellaAzienda(1) + u"\\borlano."_s + (parcella ? u"lxp"_s : u"lxf"_s),
+                             .rapporto = fileRapporto.toString(),
+                             .pdf = u'\\' + nome + u".pdf"_s,
+                             .indirizzo = senzaPosta.toString()};
+    strumento.start(QCoreApplication::applicationDirPath() + u"/borxpdf"_s, comando.argomenti());
     const QString fatto = m_unita + u'/' + nome + u".pdf"_s;
     const QString meta = m_cartella.filePath(nome + u".pdf"_s);
     QFile::remove(meta);
@@ -79,4 +86,4 @@ void Giro::fallito(const QString& motivo) {
     m_riuscito = false;
 }
 
-} // namespace bor
+} // namespace bor::tour

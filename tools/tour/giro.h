@@ -6,7 +6,7 @@
 
 #include <QDir>
 
-namespace bor {
+namespace bor::tour {
 
 /// Keys, clicks and pictures on the program's window. A control that is missing, or a picture that cannot be
 /// saved, is told on standard error and remembered.
@@ -41,4 +41,4 @@ private:
 /// All stops of the tour, on a fresh demo company.
 void percorri(Giro& giro);
 
-} // namespace bor
+} // namespace bor::tour

@@ -59,7 +59,8 @@ int main(int argc, char* argv[]) {
     qputenv("XDG_DATA_HOME", unita.path().toLocal8Bit());
     const QString unitaC = unita.path() + u"/borfte/c"_s;
     QDir().mkpath(unitaC);
-    const bor::Problemi problemi = bor::creaAzienda({QStringLiteral(BOR_DEMO_DIR), unita.path(), 1});
+    const bor::crea::Problemi problemi =
+        bor::crea::creaAzienda({QStringLiteral(BOR_DEMO_DIR), unita.path(), 1});
     if (!problemi.empty()) {
         std::fprintf(stderr, "%s\n", qPrintable(problemi.front().testo()));
         return 1;
@@ -77,7 +78,7 @@ int main(int argc, char* argv[]) {
     if (!QTest::qWaitForWindowActive(&finestra))
         return 1;
     finestra.mostra(bor::Schermo::Borfte);
-    bor::Giro giro(finestra, cartella, unita.path());
-    bor::percorri(giro);
+    bor::tour::Giro giro(finestra, cartella, unita.path());
+    bor::tour::percorri(giro);
     return giro.riuscito() ? 0 : 1;
 }

@@ -2,7 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace bor {
+namespace bor::tour {
 
 namespace {
 
@@ -108,4 +108,4 @@ void percorri(Giro& giro) {
     fatturaPa(giro);
 }
 
-} // namespace bor
+} // namespace bor::tour

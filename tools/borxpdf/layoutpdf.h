@@ -10,7 +10,7 @@
 namespace bor::pdf {
 
 /// Lengths are millimetres.
-struct Modello {
+struct LayoutPdf {
     QSizeF foglio{210, 297};
     double taglioSinistra = 0, taglioAlto = 0, taglioDestra = 0, taglioBasso = 0;
     QString titolo; // empty: the name of the PDF
@@ -18,9 +18,9 @@ struct Modello {
     QString oggetto;
     QString testo;
 
-    Modello() = default;
+    LayoutPdf() = default;
     /// Values that leave no usable page (a size or a cut out of reason) give way to A4 without cuts.
-    explicit Modello(const FileIni& ini);
+    explicit LayoutPdf(const FileIni& ini);
 
     /// The page that remains after the cut.
     QSizeF pagina() const;

@@ -1,4 +1,4 @@
-#include "register/griglia.h"
+#include "register/righeelenco.h"
 
 #include "archive/gnr.h"
 #include "common/numeri.h"

@@ -1,4 +1,4 @@
-#include "borcrea/foglio.h"
+#include "borcrea/tabellatesto.h"
 
 #include "common/date.h"
 #include "common/testo.h"
@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace bor {
+namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
@@ -34,15 +34,15 @@ QStringList leggiLinee(const QString& percorso, const QString& nome, Problemi& p
     return linee;
 }
 
-RigaFoglio::RigaFoglio(Foglio& foglio, int numero, QStringList valori)
-    : m_foglio(&foglio), m_numero(numero), m_valori(std::move(valori)) {}
+RigaTabella::RigaTabella(TabellaTesto& tabella, int numero, QStringList valori)
+    : m_tabella(&tabella), m_numero(numero), m_valori(std::move(valori)) {}
 
-void RigaFoglio::problema(const QString& motivo) const {
-    m_foglio->m_problemi.append({m_foglio->m_nome, m_numero, motivo});
+void RigaTabella::problema(const QString& motivo) const {
+    m_tabella->m_problemi.append({m_tabella->m_nome, m_numero, motivo});
 }
 
-QString RigaFoglio::testo(QStringView colonna, int larghezza) const {
-    const QString valore = m_valori.value(m_foglio->m_posti.value(colonna.toString(), -1)).trimmed();
+QString RigaTabella::testo(QStringView colonna, int larghezza) const {
+    const QString valore = m_valori.value(m_tabella->m_posti.value(colonna.toString(), -1)).trimmed();
     if (valore.size() > larghezza)
         problema(u"%1: \"%2\" ha %3 caratteri, ne sono ammessi %4."_s.arg(colonna, valore)
                      .arg(valore.size())
@@ -50,18 +50,18 @@ QString RigaFoglio::testo(QStringView colonna, int larghezza) const {
     return valore;
 }
 
-QString RigaFoglio::obbligatorio(QStringView colonna, int larghezza) const {
+QString RigaTabella::obbligatorio(QStringView colonna, int larghezza) const {
     const QString valore = testo(colonna, larghezza);
     if (valore.isEmpty())
         problema(u"%1: manca."_s.arg(colonna));
     return valore;
 }
 
-bool RigaFoglio::vuoto(QStringView colonna) const {
+bool RigaTabella::vuoto(QStringView colonna) const {
     return testo(colonna, senzaLimite).isEmpty();
 }
 
-int RigaFoglio::intero(QStringView colonna, int minimo, int massimo, int predefinito) const {
+int RigaTabella::intero(QStringView colonna, int minimo, int massimo, int predefinito) const {
     const QString valore = testo(colonna, senzaLimite);
     if (valore.isEmpty())
         return predefinito;
@@ -74,7 +74,7 @@ int RigaFoglio::intero(QStringView colonna, int minimo, int massimo, int predefi
     return predefinito;
 }
 
-double RigaFoglio::numero(QStringView colonna, double predefinito) const {
+double RigaTabella::numero(QStringView colonna, double predefinito) const {
     static const QRegularExpression forma(u"^-?[0-9]{1,12}([.,][0-9]{1,6})?$"_s);
     QString valore = testo(colonna, senzaLimite);
     if (valore.isEmpty())
@@ -86,11 +86,11 @@ double RigaFoglio::numero(QStringView colonna, double predefinito) const {
     return valore.replace(u',', u'.').toDouble();
 }
 
-bool RigaFoglio::segno(QStringView colonna) const {
+bool RigaTabella::segno(QStringView colonna) const {
     return intero(colonna, 0, 1) == 1;
 }
 
-QDate RigaFoglio::data(QStringView colonna) const {
+QDate RigaTabella::data(QStringView colonna) const {
     const QString valore = obbligatorio(colonna, 10);
     const auto data = dataValida(valore);
     if (!valore.isEmpty() && !data)
@@ -98,8 +98,8 @@ QDate RigaFoglio::data(QStringView colonna) const {
     return data.value_or(QDate());
 }
 
-Foglio::Foglio(const QString& cartella, const QString& nome, const QStringList& colonne, Problemi& problemi,
-               bool necessario)
+TabellaTesto::TabellaTesto(const QString& cartella, const QString& nome, const QStringList& colonne,
+                           Problemi& problemi, bool necessario)
     : m_nome(nome), m_problemi(problemi) {
     const QString percorso = cartella + u'/' + nome;
     if (!necessario && !QFile::exists(percorso))
@@ -115,11 +115,11 @@ Foglio::Foglio(const QString& cartella, const QString& nome, const QStringList& 
         }
         QStringList valori;
         if (dividi(numero, linee[i], valori))
-            m_righe.append(RigaFoglio(*this, numero, valori));
+            m_righe.append(RigaTabella(*this, numero, valori));
     }
 }
 
-void Foglio::leggiIntestazione(int numero, const QString& linea, const QStringList& colonne) {
+void TabellaTesto::leggiIntestazione(int numero, const QString& linea, const QStringList& colonne) {
     const QStringList nomi = linea.split(u';');
     m_colonne = static_cast<int>(nomi.size());
     for (int i = 0; i < m_colonne; ++i) {
@@ -134,7 +134,7 @@ void Foglio::leggiIntestazione(int numero, const QString& linea, const QStringLi
     }
 }
 
-bool Foglio::dividi(int numero, const QString& linea, QStringList& valori) {
+bool TabellaTesto::dividi(int numero, const QString& linea, QStringList& valori) {
     QString valore;
     bool virgolette = false;
     for (qsizetype i = 0; i < linea.size(); ++i) {
@@ -162,4 +162,4 @@ bool Foglio::dividi(int numero, const QString& linea, QStringList& valori) {
     return false;
 }
 
-} // namespace bor
+} // namespace bor::crea

@@ -10,7 +10,7 @@
 
 #include <limits>
 
-namespace bor {
+namespace bor::crea {
 
 /// Length of a text that fills no field.
 inline constexpr int senzaLimite = std::numeric_limits<int>::max();
@@ -18,12 +18,12 @@ inline constexpr int senzaLimite = std::numeric_limits<int>::max();
 /// The lines of a text file in UTF-8. A character that the archive's code page lacks is a problem.
 QStringList leggiLinee(const QString& percorso, const QString& nome, Problemi& problemi);
 
-class Foglio;
+class TabellaTesto;
 
 /// A row; reading a value checks it, and what is wrong with it goes to the problems.
-class RigaFoglio {
+class RigaTabella {
 public:
-    RigaFoglio(Foglio& foglio, int numero, QStringList valori);
+    RigaTabella(TabellaTesto& tabella, int numero, QStringList valori);
 
     /// Trimmed text, empty where the table lacks the column; not longer than the field that it is for.
     QString testo(QStringView colonna, int larghezza) const;
@@ -39,22 +39,22 @@ public:
     void problema(const QString& motivo) const;
 
 private:
-    Foglio* m_foglio;
+    TabellaTesto* m_tabella;
     int m_numero;
     QStringList m_valori;
 };
 
-class Foglio {
+class TabellaTesto {
 public:
     /// Reads the table `nome` of the folder. A missing file has no rows, and is a problem only when
     /// `necessario`.
-    Foglio(const QString& cartella, const QString& nome, const QStringList& colonne, Problemi& problemi,
-           bool necessario = false);
+    TabellaTesto(const QString& cartella, const QString& nome, const QStringList& colonne, Problemi& problemi,
+                 bool necessario = false);
 
-    const QList<RigaFoglio>& righe() const { return m_righe; }
+    const QList<RigaTabella>& righe() const { return m_righe; }
 
 private:
-    friend class RigaFoglio;
+    friend class RigaTabella;
 
     void leggiIntestazione(int numero, const QString& linea, const QStringList& colonne);
     bool dividi(int numero, const QString& linea, QStringList& valori);
@@ -63,7 +63,7 @@ private:
     Problemi& m_problemi;
     QHash<QString, int> m_posti; ///< place of each column
     int m_colonne = 0;
-    QList<RigaFoglio> m_righe;
+    QList<RigaTabella> m_righe;
 };
 
-} // namespace bor
+} // namespace bor::crea

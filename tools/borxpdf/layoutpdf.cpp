@@ -1,4 +1,4 @@
-#include "borxpdf/modello.h"
+#include "borxpdf/layoutpdf.h"
 
 #include <algorithm>
 #include <array>
@@ -30,7 +30,7 @@ bool usabile(const QSizeF& lati) {
 
 } // namespace
 
-Modello::Modello(const FileIni& ini)
+LayoutPdf::LayoutPdf(const FileIni& ini)
     : titolo(ini.testo(u"documento/titolo"_s)), autore(ini.testo(u"documento/autore"_s)),
       oggetto(ini.testo(u"posta/oggetto"_s)), testo(ini.testo(u"posta/testo"_s)) {
     const QSizeF nominale = formato(ini.testo(u"pagina/formato"_s));
@@ -46,7 +46,7 @@ Modello::Modello(const FileIni& ini)
         taglioSinistra = taglioAlto = taglioDestra = taglioBasso = 0;
 }
 
-QSizeF Modello::pagina() const {
+QSizeF LayoutPdf::pagina() const {
     return {foglio.width() - taglioSinistra - taglioDestra, foglio.height() - taglioAlto - taglioBasso};
 }
 
