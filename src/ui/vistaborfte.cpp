@@ -1,5 +1,6 @@
 #include "ui/vistaborfte.h"
 
+#include "common/versione.h"
 #include "register/borfte.h"
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
@@ -184,9 +185,9 @@ QWidget* VistaBorfte::creaComandi() {
     });
     layout->addWidget(m_barra, 1);
     layout->addStretch();
-    auto* versione = new QLabel(u"Ver. N.15.1"_s);
-    versione->setObjectName(u"xx_versione"_s);
-    layout->addWidget(versione, 0, Qt::AlignBottom);
+    auto* scritta = new QLabel(u"Ver. N."_s + versione());
+    scritta->setObjectName(u"xx_versione"_s);
+    layout->addWidget(scritta, 0, Qt::AlignBottom);
     return barra;
 }
 

@@ -2,6 +2,7 @@
 #include "borcrea/creaazienda.h"
 
 #include "archive/archivio.h"
+#include "common/versione.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -26,6 +27,7 @@ int numero(const QCommandLineParser& parser, const QString& opzione, int massimo
 
 int main(int argc, char** argv) {
     const QCoreApplication programma(argc, argv);
+    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Crea l'archivio di un'azienda da file di testo. Se un testo contiene errori li elenca tutti, e non "
@@ -35,12 +37,15 @@ int main(int argc, char** argv) {
                        {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
                        {u"documenti"_s, u"Ripete i documenti fino a questo numero, per misurare i tempi."_s,
                         u"numero"_s, u"0"_s},
+                       {u"version"_s, u"Mostra la versione."_s},
                        {{u"h"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s}});
     parser.addPositionalArgument(u"sorgente"_s, u"Cartella dei testi, come --sorgente."_s, u"[sorgente]"_s);
     if (!parser.parse(QCoreApplication::arguments())) {
         QTextStream(stderr) << parser.errorText() << '\n';
         return 2;
     }
+    if (parser.isSet(u"version"_s))
+        parser.showVersion();
     if (parser.isSet(u"aiuto"_s)) {
         QTextStream(stdout) << parser.helpText();
         return 0;

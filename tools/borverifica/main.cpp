@@ -2,6 +2,8 @@
 // wrong, 1 when there are errors or warnings, 2 when the archive cannot be read.
 #include "borverifica/verifica.h"
 
+#include "common/versione.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
@@ -52,17 +54,21 @@ Esito verificaAzienda(const QString& unita, int codice) {
 
 int main(int argc, char** argv) {
     const QCoreApplication programma(argc, argv);
+    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Legge l'archivio di un'azienda e dice che cosa non concorda, senza scrivere nulla. Da usare quando "
         u"nessuno sta registrando documenti."_s);
     parser.addOptions({{u"unita"_s, u"Cartella che fa da radice dell'unità."_s, u"cartella"_s, u"."_s},
                        {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
+                       {u"version"_s, u"Mostra la versione."_s},
                        {{u"h"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s}});
     if (!parser.parse(QCoreApplication::arguments())) {
         QTextStream(stderr) << parser.errorText() << '\n';
         return Illeggibile;
     }
+    if (parser.isSet(u"version"_s))
+        parser.showVersion();
     if (parser.isSet(u"aiuto"_s)) {
         QTextStream(stdout) << parser.helpText();
         return InOrdine;

@@ -1,5 +1,6 @@
 // Checks electronic invoices before they are sent: prints what the receiving system would refuse in each
 // file. Ends with 0 when there is nothing to say, 1 when there is, 2 when a file cannot be read.
+#include "common/versione.h"
 #include "einvoice/controlloxml.h"
 
 #include <QCommandLineParser>
@@ -41,16 +42,19 @@ Esito controlla(const QString& percorso) {
 
 int main(int argc, char** argv) {
     const QCoreApplication applicazione(argc, argv);
+    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser riga;
     riga.setApplicationDescription(
         u"Dice che cosa il sistema di interscambio rifiuterebbe in una fattura elettronica PA, prima dell'invio."_s);
     const QCommandLineOption aiuto({u"h"_s, u"help"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s);
-    riga.addOption(aiuto);
+    riga.addOptions({aiuto, {u"version"_s, u"Mostra la versione."_s}});
     riga.addPositionalArgument(u"file"_s, u"I file XML da controllare."_s, u"file..."_s);
     if (!riga.parse(QCoreApplication::arguments())) {
         scrivi(stderr, riga.errorText() + u'\n');
         return Illeggibile;
     }
+    if (riga.isSet(u"version"_s))
+        riga.showVersion();
     if (riga.isSet(aiuto)) {
         scrivi(stdout, riga.helpText());
         return Buono;

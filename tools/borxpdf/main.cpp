@@ -3,8 +3,10 @@
 #include "borxpdf/anteprima.h"
 #include "borxpdf/comando.h"
 #include "common/percorsi.h"
+#include "common/versione.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QMessageBox>
 
 #include <cstdio>
@@ -28,11 +30,21 @@ void avvisa(const QString& errore) {
         QMessageBox::critical(nullptr, u"Attenzione"_s, errore);
 }
 
+/// Only by itself: words of a command may begin with dashes.
+void mostraVersione(const QStringList& argomenti) {
+    QCoreApplication::setApplicationVersion(bor::versione());
+    QCommandLineParser parser;
+    parser.addVersionOption();
+    if (argomenti.size() == 2 && parser.parse(argomenti) && parser.isSet(u"version"_s))
+        parser.showVersion();
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
     scegliSchermo();
     const QApplication programma(argc, argv);
+    mostraVersione(QCoreApplication::arguments());
     QApplication::setStyle(u"Fusion"_s);
 
     const auto comando = bor::ComandoPdf::leggi(QApplication::arguments().sliced(1));

@@ -1,4 +1,5 @@
 // The launcher: lists the companies of a drive and starts the module on the chosen one.
+#include "common/versione.h"
 #include "lanciatore/scelta.h"
 #include "ui/aspetto.h"
 
@@ -69,6 +70,7 @@ void descriviOpzioni(QCommandLineParser& parser) {
         {u"dimostrazione"_s, u"Apre subito l'azienda dimostrativa, e la crea se non c'è."_s},
     });
     parser.addHelpOption();
+    parser.addVersionOption();
 }
 
 QString unitaScelta(const QCommandLineParser& parser) {
@@ -90,14 +92,15 @@ int avviaSubito(const QCommandLineParser& parser) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     descriviOpzioni(parser);
     QStringList argomenti;
     for (int i = 0; i < argc; ++i)
         argomenti.append(QString::fromLocal8Bit(argv[i]));
-    // What opens no window needs no display: a start by code, the help, a wrong option.
+    // What opens no window needs no display: a start by code, the help, the version, a wrong option.
     const bool valide = parser.parse(argomenti);
-    if (!valide || parser.isSet(u"help"_s) || parser.isSet(u"azienda"_s) ||
+    if (!valide || parser.isSet(u"help"_s) || parser.isSet(u"version"_s) || parser.isSet(u"azienda"_s) ||
         parser.isSet(u"dimostrazione"_s)) {
         const QCoreApplication applicazione(argc, argv);
         parser.process(applicazione);

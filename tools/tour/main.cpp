@@ -3,6 +3,7 @@
 #include "app/schermi.h"
 #include "borcrea/creaazienda.h"
 #include "common/avvio.h"
+#include "common/versione.h"
 #include "tour/giro.h"
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
@@ -48,7 +49,9 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication applicazione(argc, argv);
     bor::applicaAspetto(applicazione);
+    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser opzioni;
+    opzioni.addVersionOption();
     opzioni.addPositionalArgument(u"cartella"_s, u"Dove salvare le immagini."_s);
     opzioni.process(applicazione);
     const QDir cartella(opzioni.positionalArguments().value(0, u"."_s));
