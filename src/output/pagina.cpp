@@ -31,10 +31,9 @@ void disegnaGruppo(const Layout& layout, const GruppoVoci& gruppo, const QString
         const VoceLayout& voce = layout.voce(gruppo.prima + i);
         if (voce.y() <= 0)
             continue;
-        const bool aDestra = gruppo.lato == Lato::Destra || (gruppo.lato == Lato::Coppie && i % 2 == 0);
         double y = voce.y();
         for (qsizetype t = i; t < testi.size(); t += gruppo.quante) {
-            scrivi(voce, y, testi[t], aDestra, foglio);
+            scrivi(voce, y, testi[t], gruppo.aDestra(i), foglio);
             y += passo;
         }
     }

@@ -26,6 +26,11 @@ struct GruppoVoci {
     /// One text for each item. Where there are more, they are rows of so many, each 4 mm below the one
     /// before.
     QStringList (*testi)(const DatiStampa& dati);
+
+    /// Of the item at an index from 0.
+    bool aDestra(int indice) const {
+        return lato == Lato::Destra || (lato == Lato::Coppie && indice % 2 == 0);
+    }
 };
 
 struct ColonnaCorpo {

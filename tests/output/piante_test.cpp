@@ -23,7 +23,7 @@ struct Tratto {
 };
 
 /// What is told of a kind of document: its plan, its column in the tables of the page, and its own numbers.
-struct Modulo {
+struct Stampato {
     const char* nome;
     const Pianta& pianta;
     qsizetype colonna;
@@ -32,10 +32,11 @@ struct Modulo {
     Tratto ultimaPagina;
     Tratto righeIva;
     std::vector<int> senzaVoce; ///< numbers that the suite's layouts leave empty
+    std::vector<int> aDestra;   ///< items and columns with their right edge at their place
 };
 
-void PrintTo(const Modulo& modulo, std::ostream* uscita) {
-    *uscita << modulo.nome;
+void PrintTo(const Stampato& stampato, std::ostream* uscita) {
+    *uscita << stampato.nome;
 }
 
 /// The numbers "18-22" or "17" in a column of the tables, in ascending order.
@@ -55,10 +56,10 @@ std::vector<Tratto> trattiDocumentati(qsizetype colonna) {
     return tratti;
 }
 
-class PiantaTest : public testing::TestWithParam<Modulo> {
+class PiantaTest : public testing::TestWithParam<Stampato> {
 protected:
-    const Modulo& modulo = GetParam();
-    const Pianta& pianta = modulo.pianta;
+    const Stampato& stampato = GetParam();
+    const Pianta& pianta = stampato.pianta;
 };
 
 TEST_P(PiantaTest, OgniNumeroHaUnaVoceSola) {
@@ -68,15 +69,15 @@ TEST_P(PiantaTest, OgniNumeroHaUnaVoceSola) {
             voci.push_back(gruppo.prima + i);
     }
     std::vector<int> attese;
-    for (int i = modulo.voci.primo; i <= modulo.voci.ultimo; ++i) {
-        if (std::ranges::find(modulo.senzaVoce, i) == modulo.senzaVoce.end())
+    for (int i = stampato.voci.primo; i <= stampato.voci.ultimo; ++i) {
+        if (std::ranges::find(stampato.senzaVoce, i) == stampato.senzaVoce.end())
             attese.push_back(i);
     }
     EXPECT_EQ(voci, attese) << "all of them, in the order of their numbers";
 }
 
 TEST_P(PiantaTest, IlCorpoStaDietroLeVoci) {
-    EXPECT_EQ(pianta.rigaSopra, modulo.voci.ultimo + 1);
+    EXPECT_EQ(pianta.rigaSopra, stampato.voci.ultimo + 1);
     int riga = pianta.rigaSopra;
     EXPECT_EQ(pianta.rigaSotto, ++riga);
     for (const ColonnaCorpo& colonna : pianta.colonne)
@@ -90,11 +91,11 @@ TEST_P(PiantaTest, ModuliMdElencaGliStessiNumeri) {
         tratti.push_back({gruppo.prima, gruppo.prima + gruppo.quante - 1});
     tratti.push_back({pianta.rigaSopra, pianta.rigaSotto});
     tratti.push_back({pianta.colonne.front().riga, pianta.colonne.back().riga});
-    EXPECT_EQ(tratti, trattiDocumentati(modulo.colonna));
+    EXPECT_EQ(tratti, trattiDocumentati(stampato.colonna));
 }
 
 TEST_P(PiantaTest, SoloIConteggiAspettanoLUltimaPagina) {
-    const auto [prima, ultima] = modulo.ultimaPagina;
+    const auto [prima, ultima] = stampato.ultimaPagina;
     for (const GruppoVoci& gruppo : pianta.voci) {
         const bool attesa = gruppo.prima >= prima && gruppo.prima + gruppo.quante - 1 <= ultima;
         EXPECT_EQ(gruppo.pagine == SuPagine::Ultima, attesa) << gruppo.prima;
@@ -102,14 +103,29 @@ TEST_P(PiantaTest, SoloIConteggiAspettanoLUltimaPagina) {
     }
 }
 
+TEST_P(PiantaTest, NumeriEImportiStannoADestra) {
+    std::vector<int> destra;
+    for (const GruppoVoci& gruppo : pianta.voci) {
+        for (int i = 0; i < gruppo.quante; ++i) {
+            if (gruppo.aDestra(i))
+                destra.push_back(gruppo.prima + i);
+        }
+    }
+    for (const Colonna& colonna : pianta.colonne) {
+        if (colonna.lato == Lato::Destra)
+            destra.push_back(colonna.riga);
+    }
+    EXPECT_EQ(destra, stampato.aDestra);
+}
+
 TEST_P(PiantaTest, OgniGruppoDaUnTestoAOgniVoce) {
     const AziendaDiProva azienda;
     ContestoDiProva prova(azienda);
     Documento documento;
-    documento.coppia.fte.parcella = modulo.parcella ? 1 : 0;
+    documento.coppia.fte.parcella = stampato.parcella ? 1 : 0;
     const DatiStampa senzaIva = datiStampa(documento, prova.contesto);
     for (const GruppoVoci& gruppo : pianta.voci) {
-        const bool iva = gruppo.prima >= modulo.righeIva.primo && gruppo.prima <= modulo.righeIva.ultimo;
+        const bool iva = gruppo.prima >= stampato.righeIva.primo && gruppo.prima <= stampato.righeIva.ultimo;
         EXPECT_EQ(gruppo.testi(senzaIva).size(), iva ? 0 : gruppo.quante) << gruppo.prima;
     }
     documento.ddd[0] = {.descrizione = u"Vite"_s, .iva = 1, .quantita = 1, .prezzo = 10};
@@ -118,7 +134,7 @@ TEST_P(PiantaTest, OgniGruppoDaUnTestoAOgniVoce) {
     documento.testata.pratica.ivaspe = 1;
     const DatiStampa dati = datiStampa(documento, prova.contesto);
     for (const GruppoVoci& gruppo : pianta.voci) {
-        const bool iva = gruppo.prima >= modulo.righeIva.primo && gruppo.prima <= modulo.righeIva.ultimo;
+        const bool iva = gruppo.prima >= stampato.righeIva.primo && gruppo.prima <= stampato.righeIva.ultimo;
         EXPECT_EQ(gruppo.testi(dati).size(), iva ? 2 * gruppo.quante : gruppo.quante) << gruppo.prima;
     }
 }
@@ -250,11 +266,29 @@ TEST_F(VociTest, DiUnaParcella) {
               QStringList({u"5% 7,50"_s, u"04/2016"_s, u"Banca B"_s, u"PARCELLA"_s, u"n1"_s, u"n2"_s}));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Moduli, PiantaTest,
-    testing::Values(Modulo{"Fattura", piantaFattura(), 2, false, {1, 84}, {52, 82}, {60, 66}, {35}},
-                    Modulo{"Parcella", piantaParcella(), 3, true, {1, 79}, {42, 76}, {55, 61}, {35, 76}}),
-    [](const auto& caso) { return std::string(caso.param.nome); });
+const Stampato fattura = {
+    .nome = "Fattura",
+    .pianta = piantaFattura(),
+    .colonna = 2,
+    .parcella = false,
+    .voci = {1, 84},
+    .ultimaPagina = {52, 82},
+    .righeIva = {60, 66},
+    .senzaVoce = {35},
+    .aDestra = {52, 54, 56, 58, 62, 63, 64, 65, 67, 68, 69, 70, 71, 72, 73, 74, 75, 77, 89, 91, 92, 93, 95}};
+const Stampato parcella = {.nome = "Parcella",
+                           .pianta = piantaParcella(),
+                           .colonna = 3,
+                           .parcella = true,
+                           .voci = {1, 79},
+                           .ultimaPagina = {42, 76},
+                           .righeIva = {55, 61},
+                           .senzaVoce = {35, 76},
+                           .aDestra = {43, 45, 47, 49, 51, 53, 57, 58, 59, 60, 62, 63,
+                                       64, 65, 66, 67, 68, 69, 70, 71, 72, 84, 85, 86}};
+
+INSTANTIATE_TEST_SUITE_P(Stampati, PiantaTest, testing::Values(fattura, parcella),
+                         [](const auto& caso) { return std::string(caso.param.nome); });
 
 } // namespace
 } // namespace bor
