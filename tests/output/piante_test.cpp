@@ -111,7 +111,7 @@ TEST_P(PiantaTest, NumeriEImportiStannoADestra) {
                 destra.push_back(gruppo.prima + i);
         }
     }
-    for (const Colonna& colonna : pianta.colonne) {
+    for (const ColonnaCorpo& colonna : pianta.colonne) {
         if (colonna.lato == Lato::Destra)
             destra.push_back(colonna.riga);
     }
