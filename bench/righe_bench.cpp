@@ -103,7 +103,7 @@ void RiordinoDi500Righe(benchmark::State& stato) {
     Borftex form(prova.contesto, documento);
     form.attiva();
     for (auto _ : stato)
-        form.riordina();
+        form.esegui(Borftex::Comando::Riordina);
 }
 
 void TastoESchermoRidisegnato(benchmark::State& stato) {

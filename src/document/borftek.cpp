@@ -57,53 +57,51 @@ double* importo(Rigap& riga, Borftek::Campo campo) {
 
 Borftek::Borftek(Contesto& contesto, Documento& documento) : m_contesto(contesto), m_documento(documento) {}
 
-bool Borftek::attiva() {
+void Borftek::attiva() {
     Sessione& sessione = m_contesto.sessione;
     if (sessione.righelette)
-        return false;
+        return;
     sessione.righelette = true;
     m_righe = m_documento.dddp;
     m_prestazioni = leggiPrestazioni(m_contesto.archivio);
-    m_primariga = 1;
-    m_rigafocus = 0;
-    return true;
+    ++m_edizione;
+    m_finestra.scorri(1);
+    m_lineafuoco = 0;
+    vaiAllInizio();
 }
 
 QString Borftek::titolo() const {
     return m_documento.notaCredito() ? u"Ristampa nota credito"_s : u"Ristampa parcella"_s;
 }
 
-QString Borftek::testo(int riga, Campo campo) const {
-    Rigap copia = linea(riga);
-    if (const double* x = importo(copia, campo))
+QString Borftek::testo(Cella cella) const {
+    Rigap copia = m_righe[indice(cella.linea)];
+    if (const double* x = importo(copia, cella.campo))
         return testoCasella(*x);
-    return campo == Campo::Data ? copia.data : copia.descrizione;
+    return cella.campo == Campo::Data ? copia.data : copia.descrizione;
 }
 
-void Borftek::cambia(int riga, Campo campo, const QString& testo) {
-    m_rigafocus = riga;
-    if (double* x = importo(linea(riga), campo))
+void Borftek::cambia(Cella cella, const QString& testo) {
+    m_lineafuoco = cella.linea;
+    Rigap& riga = m_righe[indice(cella.linea)];
+    if (double* x = importo(riga, cella.campo))
         *x = valorevirgola(testo);
-    else if (campo == Campo::Data)
-        linea(riga).data = testo.left(caratteriData);
+    else if (cella.campo == Campo::Data)
+        riga.data = testo.left(caratteriData);
     else
-        linea(riga).descrizione = testo.left(caratteriDescrizione);
+        riga.descrizione = testo.left(caratteriDescrizione);
 }
 
-std::optional<Borftek::Posto> Borftek::invio(int riga, Campo campo) {
-    if (campo != Campo::Onorari)
-        return Posto{riga, static_cast<Campo>(static_cast<int>(campo) + 1)};
-    if (riga < righeSchermo - 1)
-        return Posto{riga + 1, Campo::Data};
-    // The keyboard reaches line 190; the last ten are for the scroll bar.
-    if (righeSchermo - 1 + m_primariga - 1 >= ultimaPosizione)
-        return std::nullopt;
-    ++m_primariga;
-    return Posto{righeSchermo - 1, Campo::Data};
-}
-
-void Borftek::scorri(int primariga) {
-    m_primariga = std::clamp(primariga, 1, ultimaPosizione);
+void Borftek::invio(Cella cella) {
+    if (cella.campo != Campo::Onorari) {
+        m_fuoco = Cella{static_cast<Campo>(static_cast<int>(cella.campo) + 1), cella.linea};
+    } else if (cella.linea < linee - 1) {
+        m_fuoco = Cella{Campo::Data, cella.linea + 1};
+    } else if (m_finestra.riga(linee - 1) <= m_finestra.ultima()) {
+        // The keyboard reaches row 190; the last ten are for the scroll bar.
+        m_finestra.scorri(m_finestra.prima() + 1);
+        m_fuoco = Cella{Campo::Data, linee - 1};
+    }
 }
 
 QStringList Borftek::prestazioni() const {
@@ -114,13 +112,14 @@ QStringList Borftek::prestazioni() const {
 }
 
 void Borftek::scegliPrestazione(int indice) {
-    if (indice < 0 || indice >= m_prestazioni.size() || !rigaValida(m_rigafocus))
+    vaiAllInizio();
+    if (indice < 0 || indice >= m_prestazioni.size())
         return;
     const Prestazione& scelta = m_prestazioni[indice];
     QString testo = scelta.descrizione.trimmed();
     if (testo.isEmpty())
         return;
-    std::size_t posto = static_cast<std::size_t>(m_primariga + m_rigafocus);
+    std::size_t posto = static_cast<std::size_t>(m_finestra.riga(m_lineafuoco));
     m_righe[posto - 1].data.clear();
     while (!testo.isEmpty()) {
         m_righe[posto - 1].descrizione = staccaLinea(testo);
@@ -134,16 +133,13 @@ void Borftek::scegliPrestazione(int indice) {
 }
 
 void Borftek::inserisciRiga() {
-    if (!rigaValida(m_rigafocus))
-        return;
     m_righe.pop_back();
-    m_righe.insert(m_righe.begin() + (m_primariga + m_rigafocus - 1), Rigap{});
+    m_righe.insert(m_righe.begin() + (m_finestra.riga(m_lineafuoco) - 1), Rigap{});
+    vaiAllInizio();
 }
 
 void Borftek::eliminaRiga() {
-    if (!rigaValida(m_rigafocus))
-        return;
-    m_righe.erase(m_righe.begin() + (m_primariga + m_rigafocus - 1));
+    m_righe.erase(m_righe.begin() + (m_finestra.riga(m_lineafuoco) - 1));
     m_righe.emplace_back();
 }
 

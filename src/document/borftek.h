@@ -1,47 +1,47 @@
-// The lines of a fee bill: a window of twelve rows on two hundred lines, each with a date, a description and
-// three amounts.
+// The lines of a fee bill: twelve lines on two hundred rows, each with a date, a description and three
+// amounts.
 #pragma once
 
 #include "archive/contesto.h"
+#include "document/cella.h"
 #include "document/documento.h"
+#include "document/finestrarighe.h"
 
 #include <optional>
+#include <utility>
 
 namespace bor {
 
 class Borftek {
 public:
-    static constexpr int righeSchermo = 12;
-    static constexpr int ultimaPosizione = 189; ///< of the scroll bar
+    static constexpr int linee = 12;
 
     /// The fields of a row, in the order of the screen.
     enum class Campo { Data, Descrizione, Anticipazioni, Spese, Onorari };
+    using Cella = CellaDi<Campo>;
 
     Borftek(Contesto& contesto, Documento& documento);
 
-    /// True when the lines were taken from the document anew; a screen still open stays as it is.
-    bool attiva();
+    /// Takes the rows from the document; a screen still open stays as it is.
+    void attiva();
     QString titolo() const;
 
-    /// Content of a field; rows of the screen count from 0. An amount of 0 is empty.
-    QString testo(int riga, Campo campo) const;
-    void cambia(int riga, Campo campo, const QString& testo);
-    /// The operator moved to a field of this row.
-    void entra(int riga) { m_rigafocus = riga; }
-    /// Row and field that Enter leads to; the list scrolls on where the last row is left. Nothing at its end.
-    struct Posto {
-        int riga;
-        Campo campo;
-    };
-    std::optional<Posto> invio(int riga, Campo campo);
+    QString testo(Cella cella) const; ///< an amount of 0 is empty
+    void cambia(Cella cella, const QString& testo);
+    void entra(Cella cella) { m_lineafuoco = cella.linea; }
+    /// The rows scroll on where the last line is left.
+    void invio(Cella cella);
+    /// The box that the last event sends the operator to; asking takes the wish away.
+    std::optional<Cella> prendiFuoco() { return std::exchange(m_fuoco, std::nullopt); }
 
-    int primariga() const { return m_primariga; }
-    void scorri(int primariga);
-    int rigafocus() const { return m_rigafocus; }
+    const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
+    void scorri(int prima) { m_finestra.scorri(prima); }
 
     /// Descriptions of the services, empty ones included.
     QStringList prestazioni() const;
-    /// Puts a service into the row with the focus and the lines below it; its amounts go to the last of them.
+    /// Grows with every filling of that list.
+    int edizione() const { return m_edizione; }
+    /// Puts a service into the row with the focus and those below it; its amounts go to the last of them.
     void scegliPrestazione(int indice);
 
     void inserisciRiga();
@@ -56,17 +56,18 @@ public:
     QString totale(Campo colonna) const; ///< `tota`: of an amount column
 
 private:
-    Rigap& linea(int riga) { return m_righe[static_cast<std::size_t>(m_primariga + riga - 1)]; }
-    const Rigap& linea(int riga) const { return m_righe[static_cast<std::size_t>(m_primariga + riga - 1)]; }
-    bool rigaValida(int riga) const { return riga >= 0 && riga < righeSchermo; }
+    std::size_t indice(int linea) const { return static_cast<std::size_t>(m_finestra.riga(linea) - 1); }
+    void vaiAllInizio() { m_fuoco = Cella{Campo::Data, m_lineafuoco}; }
     void salvarighe() { m_documento.dddp = m_righe; }
 
     Contesto& m_contesto;
     Documento& m_documento;
     TabellaRighep m_righe = TabellaRighep(righeParcella);
     QList<Prestazione> m_prestazioni;
-    int m_primariga = 1; ///< `VScroll1`
-    int m_rigafocus = 0;
+    FinestraRighe m_finestra{linee, righeParcella - linee + 1};
+    std::optional<Cella> m_fuoco;
+    int m_lineafuoco = 0; ///< the line last entered
+    int m_edizione = 0;
 };
 
 } // namespace bor

@@ -21,31 +21,23 @@ QString codiceIva(int codice) {
 } // namespace
 
 Borftex::Borftex(Contesto& contesto, Documento& documento)
-    : m_contesto(contesto), m_documento(documento), m_righe(righeMerce) {}
+    : m_contesto(contesto), m_documento(documento), m_righe(contesto, documento), m_articoli(contesto) {}
 
 void Borftex::attiva() {
     const Archivio& archivio = m_contesto.archivio;
     m_documento.cliente = archivio.cli.leggi(m_documento.recordcliente);
     m_barcode = m_contesto.impostazioni.gnr.barcode != 0;
-    m_listino = m_documento.cliente.listino.text() == u"1" ? 2 : 1;
-    m_listaCaricata = false;
-    m_listaVisibile = !m_barcode && artNonVuoto();
-    if (m_listaVisibile)
-        caricaLista();
-    m_righe = m_documento.ddd;
-    m_righe.resize(righeMerce);
-    // Loaded lines weigh what the article last read in this run weighs: exact weights come only from the
-    // lines typed in this visit.
-    for (Riga& r : m_righe)
-        r.peso = r.recart >= 1 ? double{m_articolo.peso} : 0.0;
-    m_primariga = 1;
-    m_rigafocus = 0;
+    m_righe.cambiaListino(m_documento.cliente.listino.text() == u"1" ? 2 : 1);
+    m_articoli.dimentica();
+    if (!m_barcode)
+        m_articoli.apri();
+    m_righe.prendi();
+    m_finestra.scorri(1);
+    m_lineafuoco = 0;
     m_digitato.reset();
-    m_combo1 = false;
+    m_listaIva = false;
     m_listx.clear();
-    // Opening the lines shows their totals but leaves the weight in the head alone.
-    m_totali = ricalcola(m_righe, scorporo(), m_contesto.tabelle, m_contesto.valuta());
-    m_fuoco = Cella{Campo::Artic, 0};
+    vaiA(Campo::Artic, 0);
 }
 
 QString Borftex::titolo() const {
@@ -62,42 +54,30 @@ QString Borftex::link() const {
 }
 
 QString Borftex::testo(Cella cella) const {
-    const Riga& r = riga(cella.r);
-    switch (cella.campo) {
-    case Campo::Artic:
-        return cella.r == m_rigafocus && m_digitato ? *m_digitato : r.codice;
-    case Campo::Ds:
-        return r.descrizione;
-    case Campo::Um:
-        return r.um;
-    case Campo::Quantita:
-        return testoCasella(r.quantita);
-    case Campo::Sc1:
-        return testoCasella(r.sconto1);
-    case Campo::Sc2:
-        return testoCasella(r.sconto2);
-    case Campo::Prezzo:
-        return testoCasella(r.prezzo);
-    case Campo::Civ:
-        return r.iva == 0 ? QString() : codiceIva(r.iva);
+    if (cella.campo == Campo::Artic && cella.linea == m_lineafuoco && m_digitato)
+        return *m_digitato;
+    return m_righe.testo(riga(cella.linea), cella.campo);
+}
+
+QString Borftex::totale(Totale quale) const {
+    const TotaliRighe& totali = m_righe.totali();
+    const Valuta valuta = m_contesto.valuta();
+    const auto importo = [&valuta](double x) {
+        return u' ' + (valuta.euro ? testoItaliano(x, 2) : valuta.importotesto(x));
+    };
+    switch (quale) {
+    case Totale::Imponibile:
+        return importo(totali.totimp);
+    case Totale::Complessivo:
+        return importo(totali.totale);
+    case Totale::Pezzi:
+        return u' ' + testoDecimale(totali.pezzi);
+    case Totale::AliquotaRitenuta:
+        return testoDecimale(totali.aliquotarit);
+    case Totale::Ritenuta:
+        return testoDecimale(totali.importorit);
     }
     return {};
-}
-
-QString Borftex::tota(int indice) const {
-    if (indice == 2)
-        return u' ' + testoDecimale(m_totali.pezzi);
-    const Valuta valuta = m_contesto.valuta();
-    const double x = indice == 0 ? m_totali.totimp : m_totali.totale;
-    return u' ' + (valuta.euro ? testoItaliano(x, 2) : valuta.importotesto(x));
-}
-
-QString Borftex::alr() const {
-    return testoDecimale(m_totali.aliquotarit);
-}
-
-QString Borftex::imr() const {
-    return testoDecimale(m_totali.importorit);
 }
 
 QStringList Borftex::vociIva() const {
@@ -116,73 +96,95 @@ QStringList Borftex::vociIva() const {
     return voci;
 }
 
-int Borftex::combo1Posizione() const {
-    return std::clamp(riga(m_rigafocus).iva, 1, codiciIva) - 1;
+std::optional<int> Borftex::listaIva() const {
+    if (!m_listaIva)
+        return std::nullopt;
+    return std::clamp(m_righe.riga(rigaFuoco()).iva, 1, codiciIva) - 1;
+}
+
+bool Borftex::opzione(Opzione quale) const {
+    switch (quale) {
+    case Opzione::Listino1:
+        return m_righe.listino() == 1;
+    case Opzione::Listino2:
+        return m_righe.listino() == 2;
+    case Opzione::Scorporo:
+        return m_righe.scorporo();
+    case Opzione::Barcode:
+        return m_barcode;
+    }
+    return false;
 }
 
 std::optional<Borftex::Cella> Borftex::prendiFuoco() {
     return std::exchange(m_fuoco, std::nullopt);
 }
 
-void Borftex::scorri(int primariga) {
-    m_primariga = std::clamp(primariga, 1, ultimaPrimariga);
+void Borftex::scorri(int prima) {
+    m_finestra.scorri(prima);
     m_digitato.reset();
-    m_combo1 = false;
+    m_listaIva = false;
 }
 
-void Borftex::pagina(int righe) {
-    scorri(m_primariga + righe);
-    m_fuoco = Cella{Campo::Artic, m_rigafocus};
-}
-
-bool Borftex::artNonVuoto() const {
-    return m_contesto.archivio.leggiTot(Conta::Art).numero > 0;
-}
-
-void Borftex::caricaLista() {
-    const Attesa attesa(m_contesto.operatore);
-    m_lista.carica(m_contesto.archivio, OrdineArticoli::Codice);
-    m_listaCaricata = true;
-    m_posizioneLista = -1;
-    ++m_edizioneLista;
-}
-
-void Borftex::apriLista() {
-    if (!artNonVuoto())
-        return;
-    if (!m_listaCaricata)
-        caricaLista();
-    m_listaVisibile = true;
-    m_fuoco = Cella{Campo::Artic, m_rigafocus};
+void Borftex::cambiaOpzione(Opzione quale, bool accesa) {
+    switch (quale) {
+    case Opzione::Listino1:
+        return m_righe.cambiaListino(1);
+    case Opzione::Listino2:
+        return m_righe.cambiaListino(2);
+    case Opzione::Scorporo:
+        return m_righe.cambiaScorporo(accesa);
+    case Opzione::Barcode:
+        return cambiaBarcode(accesa);
+    }
 }
 
 void Borftex::cambiaBarcode(bool acceso) {
     m_barcode = acceso;
-    m_listaVisibile = false;
+    m_articoli.chiudi();
     if (!acceso)
-        apriLista();
-    m_fuoco = Cella{Campo::Artic, m_rigafocus};
+        m_articoli.apri();
+    vaiA(Campo::Artic, m_lineafuoco);
 }
 
-void Borftex::cambiaScorporo(bool acceso) {
-    m_documento.scorporo = acceso;
-    ricalcolaTutto();
+void Borftex::apriLista() {
+    if (m_articoli.apri())
+        vaiA(Campo::Artic, m_lineafuoco);
 }
 
-void Borftex::ricalcolaTutto() {
-    m_totali = ricalcola(m_righe, scorporo(), m_contesto.tabelle, m_contesto.valuta());
-    if (m_contesto.impostazioni.gnr.pesoautomatico == 1)
-        riportaPeso();
+void Borftex::pagina(int verso) {
+    scorri(m_finestra.prima() + verso * linee);
+    vaiA(Campo::Artic, m_lineafuoco);
 }
 
-void Borftex::riportaPeso() {
-    constexpr int decimali = 3;
-    QString peso = testoItaliano(m_totali.pesototale, decimali);
-    while (peso.endsWith(u'0'))
-        peso.chop(1);
-    if (peso.endsWith(u','))
-        peso.chop(1);
-    m_documento.testata.trasporto.peso = peso;
+void Borftex::esegui(Comando comando) {
+    switch (comando) {
+    case Comando::Conferma:
+        m_righe.riporta();
+        [[fallthrough]];
+    case Comando::Indietro:
+        return m_contesto.navigatore.mostra(Schermo::Borftea);
+    case Comando::InserisciRiga:
+        m_digitato.reset();
+        m_righe.inserisci(rigaFuoco());
+        return vaiA(Campo::Artic, m_lineafuoco);
+    case Comando::EliminaRiga:
+        m_digitato.reset();
+        m_righe.elimina(rigaFuoco());
+        return vaiA(Campo::Artic, m_lineafuoco);
+    case Comando::Riordina:
+        m_digitato.reset();
+        m_righe.ordina();
+        return vaiA(Campo::Artic, 0);
+    case Comando::ApriLista:
+        return apriLista();
+    case Comando::CercaDescrizione:
+        return cercaDescrizione();
+    case Comando::PaginaSu:
+        return pagina(-1);
+    case Comando::PaginaGiu:
+        return pagina(1);
+    }
 }
 
 } // namespace bor

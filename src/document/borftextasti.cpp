@@ -1,41 +1,24 @@
-// The road of the keys through the grid, and what a visit to a box does.
+// The road of the keys through the lines, and what a visit to a box does.
 #include "archive/contesto.h"
-#include "common/numeri.h"
 #include "document/borftex.h"
-
-#include <algorithm>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace bor {
 
-namespace {
-
-constexpr qsizetype lunghezzaDescrizione = 60;
-constexpr qsizetype lunghezzaUm = 2;
-
-int sconto(const QString& testo) {
-    using Limiti = std::numeric_limits<std::int16_t>;
-    return std::clamp(valoreIntero(testo), int{Limiti::min()}, int{Limiti::max()});
-}
-
-} // namespace
-
 void Borftex::entra(Cella cella) {
-    if (cella.r != m_rigafocus)
+    if (cella.linea != m_lineafuoco)
         m_digitato.reset();
-    m_rigafocus = cella.r;
-    mostraStato();
-    m_combo1 = cella.campo == Campo::Civ;
-    Riga& r = rigaDi(cella.r);
+    m_lineafuoco = cella.linea;
+    if (const QString stato = m_righe.stato(rigaFuoco()); !stato.isEmpty())
+        m_listx = stato;
+    m_listaIva = cella.campo == Campo::Civ;
     if (cella.campo == Campo::Ds) {
         // Whoever writes a description of his own writes a free line: the price stays, the article goes.
-        r.recart = 0;
-        r.codice.clear();
+        m_righe.sciogli(rigaFuoco());
         m_digitato.reset();
     } else if (cella.campo == Campo::Sc1) {
-        proponiSconti(r);
+        m_righe.proponiSconti(rigaFuoco());
     }
 }
 
@@ -46,115 +29,95 @@ void Borftex::lascia(Cella cella) {
         chiudiIva();
 }
 
-void Borftex::proponiSconti(Riga& r) {
-    const Riga prima = r;
-    if (r.sconto1 == 0)
-        r.sconto1 = m_documento.cliente.sconto1;
-    if (r.sconto2 == 0)
-        r.sconto2 = m_documento.cliente.sconto2;
-    if (r != prima)
-        ricalcolaTutto();
-}
-
 void Borftex::cambia(Cella cella, const QString& testo) {
-    Riga& r = rigaDi(cella.r);
-    switch (cella.campo) {
-    case Campo::Artic:
-        cambiaArticolo(cella.r, testo);
-        return;
-    case Campo::Ds:
-        r.descrizione = testo.left(lunghezzaDescrizione);
-        return;
-    case Campo::Um:
-        r.um = testo.left(lunghezzaUm);
-        return;
-    case Campo::Quantita:
-        r.quantita = valorevirgola(testo);
-        break;
-    case Campo::Sc1:
-        r.sconto1 = sconto(testo);
-        break;
-    case Campo::Sc2:
-        r.sconto2 = sconto(testo);
-        break;
-    case Campo::Prezzo:
-        cambiaPrezzo(r, testo);
-        break;
-    case Campo::Civ:
-        return;
-    }
-    ricalcolaTutto();
-}
-
-void Borftex::cambiaPrezzo(Riga& r, const QString& testo) {
-    r.prezzo = valorevirgola(testo);
-    if (r.prezzo != 0.0 && r.iva == 0)
-        r.iva = ivaPredefinita();
-}
-
-int Borftex::ivaPredefinita() const {
-    const int forzata = m_documento.cliente.ivaForzata();
-    return forzata != 0 ? forzata : valoreIntero(m_contesto.impostazioni.gnr.righemodulo.text());
+    if (cella.campo == Campo::Artic)
+        cambiaArticolo(cella.linea, testo);
+    else
+        m_righe.cambia(riga(cella.linea), cella.campo, testo);
 }
 
 void Borftex::invio(Cella cella) {
     switch (cella.campo) {
     case Campo::Artic:
-        invioArticolo(cella.r);
-        break;
+        return invioArticolo(cella.linea);
     case Campo::Ds:
-        m_fuoco = Cella{Campo::Um, cella.r};
-        break;
+        return vaiA(Campo::Um, cella.linea);
     case Campo::Um:
-        m_fuoco = Cella{Campo::Quantita, cella.r};
-        break;
+        return vaiA(Campo::Quantita, cella.linea);
     case Campo::Quantita:
-        m_fuoco = Cella{Campo::Sc1, cella.r};
-        break;
+        return vaiA(Campo::Sc1, cella.linea);
     case Campo::Sc1:
-        m_fuoco = Cella{Campo::Sc2, cella.r};
-        break;
+        return vaiA(Campo::Sc2, cella.linea);
     case Campo::Sc2:
-        m_fuoco = Cella{Campo::Prezzo, cella.r};
-        break;
+        return vaiA(Campo::Prezzo, cella.linea);
     case Campo::Prezzo:
-        prossimaRiga(cella.r);
-        break;
+        return prossimaLinea(cella.linea);
     case Campo::Civ:
-        m_combo1 = true;
-        break;
+        m_listaIva = true;
+        return;
     }
 }
 
-void Borftex::prossimaRiga(int r) {
-    constexpr int ultima = righeVisibili - 1;
-    if (r < ultima) {
-        m_fuoco = Cella{Campo::Artic, r + 1};
-    } else if (ultima + m_primariga - 1 < ultimaPrimariga) {
-        // The keys reach line 490; the last ten lines are for the scroll bar.
-        scorri(m_primariga + 1);
-        m_fuoco = Cella{Campo::Artic, ultima};
+void Borftex::prossimaLinea(int linea) {
+    constexpr int ultima = linee - 1;
+    if (linea < ultima) {
+        vaiA(Campo::Artic, linea + 1);
+    } else if (riga(ultima) <= m_finestra.ultima()) {
+        // The keys reach row 490; the last ten rows are for the scroll bar.
+        scorri(m_finestra.prima() + 1);
+        vaiA(Campo::Artic, ultima);
     }
 }
 
 void Borftex::scegliIva(int posizione) {
-    rigaDi(m_rigafocus).iva = posizione + 1;
-    m_combo1 = false;
-    m_fuoco = Cella{Campo::Prezzo, m_rigafocus};
-    ricalcolaTutto();
+    m_righe.cambiaIva(rigaFuoco(), posizione + 1);
+    m_listaIva = false;
+    vaiA(Campo::Prezzo, m_lineafuoco);
 }
 
-void Borftex::mostraStato() {
-    constexpr qsizetype larghezza = 140;
-    const int recart = riga(m_rigafocus).recart;
-    if (recart == 0)
+void Borftex::cambiaArticolo(int linea, const QString& testo) {
+    m_lineafuoco = linea;
+    m_digitato = testo;
+    if (m_articoli.visibile() && !m_barcode)
+        m_articoli.cerca(testo);
+}
+
+void Borftex::invioArticolo(int linea) {
+    m_lineafuoco = linea;
+    const QString cercato = testo({Campo::Artic, linea}).trimmed();
+    if (cercato.isEmpty())
+        return vaiA(Campo::Ds, linea);
+    mettiArticolo(m_barcode ? cercabarcode(m_contesto.archivio, cercato) : m_articoli.cerca(cercato),
+                  RigheMerce::Da::Casella);
+}
+
+void Borftex::scegliArticolo(int posizione) {
+    if (const int recart = m_articoli.scegli(posizione); recart > 0)
+        mettiArticolo(recart, RigheMerce::Da::Lista);
+}
+
+void Borftex::cercaDescrizione() {
+    if (!m_articoli.visibile())
         return;
-    leggiarticolo(m_contesto.archivio, recart, m_articolo);
-    const QString testo = riempi(pulisci(m_articolo.codice.text()), 15) + u" - "_s +
-                          riempi(pulisci(m_articolo.descrizione.text()), 80) + u" - Giacenza:"_s +
-                          testoDecimale(m_articolo.giacenza) + u" - Impegnato:"_s +
-                          testoDecimale(m_articolo.impegnato);
-    m_listx = riempi(testo, larghezza) + QString::number(recart).rightJustified(5);
+    const Archivio& archivio = m_contesto.archivio;
+    const int trovato = cercadescrizione(archivio, m_righe.riga(rigaFuoco()).descrizione);
+    if (trovato == 0)
+        return articoloNonEsistente();
+    if (const int recart = m_articoli.cerca(archivio.art.leggi(trovato).codice.text()); recart > 0)
+        mettiArticolo(recart, RigheMerce::Da::Lista);
+}
+
+void Borftex::mettiArticolo(int recart, RigheMerce::Da da) {
+    if (!m_righe.metti(rigaFuoco(), recart, da)) {
+        articoloNonEsistente();
+        return vaiA(Campo::Artic, m_lineafuoco);
+    }
+    m_digitato.reset();
+    vaiA(Campo::Quantita, m_lineafuoco);
+}
+
+void Borftex::articoloNonEsistente() {
+    m_contesto.operatore.messaggio(u"Articolo non esistente"_s, u"Attenzione"_s, Icona::Stop);
 }
 
 } // namespace bor

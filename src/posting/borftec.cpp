@@ -46,7 +46,9 @@ Borftec::Borftec(Contesto& contesto, const Documento& documento)
 void Borftec::attiva() {
     m_conti.clear();
     m_contoScelto = -1;
-    m_rigacorrente = 0;
+    m_lineafuoco = 0;
+    m_fuoco = Cella{};
+    ++m_edizione;
     const Archivio& archivio = m_contesto.archivio;
     archivio.con.scorri(1, archivio.leggiTot(Conta::Con).numero, [this](int, const Con& conto) {
         m_conti.append(voceConto(conto));
@@ -60,17 +62,18 @@ QString Borftec::titolo() const {
                                                  : u"Estremi movimento contabile"_s;
 }
 
-QString Borftec::testo(int i, Campo campo) const {
-    RigaMovimento copia = riga(i);
-    return casella(copia, campo);
+QString Borftec::testo(Cella cella) const {
+    RigaMovimento copia = riga(cella.linea);
+    return casella(copia, cella.campo);
 }
 
-void Borftec::cambia(int i, Campo campo, const QString& testo) {
-    m_rigacorrente = i;
-    casella(riga(i), campo) = campo >= Campo::Dare ? QString(testo).replace(u',', u'.') : testo;
-    if (campo >= Campo::Dare)
+void Borftec::cambia(Cella cella, const QString& testo) {
+    m_lineafuoco = cella.linea;
+    const bool importo = cella.campo >= Campo::Dare;
+    casella(riga(cella.linea), cella.campo) = importo ? QString(testo).replace(u',', u'.') : testo;
+    if (importo)
         return;
-    const ContoTesti& conto = riga(i).conto;
+    const ContoTesti& conto = riga(cella.linea).conto;
     const QString inizio = QStringList{conto.mastro, conto.conto, conto.sottoconto}.join(u' ').trimmed();
     const auto trovato =
         std::ranges::find_if(m_conti, [&](const QString& voce) { return voce.startsWith(inizio); });
@@ -78,8 +81,8 @@ void Borftec::cambia(int i, Campo campo, const QString& testo) {
         m_contoScelto = static_cast<int>(trovato - m_conti.begin());
 }
 
-QString Borftec::descrizioneConto(int i) const {
-    const double codice = valore(riga(i).conto.unito());
+QString Borftec::descrizioneConto(int linea) const {
+    const double codice = valore(riga(linea).conto.unito());
     if (codice <= 0)
         return {};
     const auto trovato = std::ranges::find_if(m_conti, [codice](const QString& voce) {
@@ -88,10 +91,11 @@ QString Borftec::descrizioneConto(int i) const {
     return trovato == m_conti.end() ? QString() : pezzo(*trovato, inizioNome);
 }
 
-Borftec::Posto Borftec::invio(int i, Campo campo) {
-    if (campo != Campo::Avere)
-        return {i, static_cast<Campo>(static_cast<int>(campo) + 1)};
-    return {(i + 1) % righe, Campo::Mastro};
+void Borftec::invio(Cella cella) {
+    if (cella.campo != Campo::Avere)
+        m_fuoco = Cella{static_cast<Campo>(static_cast<int>(cella.campo) + 1), cella.linea};
+    else
+        m_fuoco = Cella{Campo::Mastro, (cella.linea + 1) % righe};
 }
 
 void Borftec::cerca(const QString& testo) {
@@ -103,29 +107,29 @@ void Borftec::cerca(const QString& testo) {
         m_contoScelto = static_cast<int>(trovato - m_conti.begin());
 }
 
-std::optional<Borftec::Posto> Borftec::prendiConto(int indice) {
-    if (indice < 0 || indice >= m_conti.size() || valore(m_conti[indice].left(2)) <= 0)
-        return std::nullopt;
-    m_contoScelto = indice;
-    const QString& voce = m_conti[indice];
-    riga(m_rigacorrente).conto = {pezzo(voce, 1, 2), pezzo(voce, 4, 2), pezzo(voce, 7, 4)};
-    return Posto{m_rigacorrente, Campo::Dare};
+void Borftec::prendiConto(int posizione) {
+    if (posizione < 0 || posizione >= m_conti.size() || valore(m_conti[posizione].left(2)) <= 0)
+        return;
+    m_contoScelto = posizione;
+    const QString& voce = m_conti[posizione];
+    riga(m_lineafuoco).conto = {pezzo(voce, 1, 2), pezzo(voce, 4, 2), pezzo(voce, 7, 4)};
+    m_fuoco = Cella{Campo::Dare, m_lineafuoco};
 }
 
 void Borftec::togliRiga() {
-    if (m_rigacorrente < 0 || m_rigacorrente >= righe - 1)
+    if (m_lineafuoco < 0 || m_lineafuoco >= righe - 1)
         return;
     auto& r = m_movimento.righe;
-    std::move(r.begin() + m_rigacorrente + 1, r.end(), r.begin() + m_rigacorrente);
+    std::move(r.begin() + m_lineafuoco + 1, r.end(), r.begin() + m_lineafuoco);
     r.back() = {};
 }
 
 void Borftec::inserisciRiga() {
-    if (m_rigacorrente < 0 || m_rigacorrente >= righe - 1)
+    if (m_lineafuoco < 0 || m_lineafuoco >= righe - 1)
         return;
     auto& r = m_movimento.righe;
-    std::move_backward(r.begin() + m_rigacorrente + 1, r.end() - 1, r.end());
-    r[static_cast<std::size_t>(m_rigacorrente) + 1] = {};
+    std::move_backward(r.begin() + m_lineafuoco + 1, r.end() - 1, r.end());
+    r[static_cast<std::size_t>(m_lineafuoco) + 1] = {};
 }
 
 void Borftec::lascia() {

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "document/cella.h"
 #include "document/documento.h"
 #include "posting/movimento.h"
 
 #include <optional>
+#include <utility>
 
 namespace bor {
 
@@ -16,10 +18,8 @@ public:
 
     /// The boxes of a line, in the order of the screen.
     enum class Campo { Mastro, Conto, Sottoconto, Dare, Avere };
-    struct Posto {
-        int riga;
-        Campo campo;
-    };
+    /// A line of the screen is a row of the movement.
+    using Cella = CellaDi<Campo>;
 
     Borftec(Contesto& contesto, const Documento& documento);
 
@@ -28,13 +28,15 @@ public:
     void attiva();
     QString titolo() const;
 
-    QString testo(int riga, Campo campo) const;
+    QString testo(Cella cella) const;
     /// A change of an account also moves the list to the first account that begins so.
-    void cambia(int riga, Campo campo, const QString& testo);
-    void entra(int riga) { m_rigacorrente = riga; }
-    QString descrizioneConto(int riga) const; ///< `ds`
-    /// Where Enter leads to; from the last box of the last line back to the first.
-    static Posto invio(int riga, Campo campo);
+    void cambia(Cella cella, const QString& testo);
+    void entra(Cella cella) { m_lineafuoco = cella.linea; }
+    QString descrizioneConto(int linea) const; ///< `ds`
+    /// From the last box of the last line Enter leads back to the first.
+    void invio(Cella cella);
+    /// The box that the last event sends the operator to; asking takes the wish away.
+    std::optional<Cella> prendiFuoco() { return std::exchange(m_fuoco, std::nullopt); }
 
     /// A head text: `Text1(0)`, `Text2` or `Text1(1)`.
     const QString& dato(QString Movimento::*testo) const { return m_movimento.*testo; }
@@ -42,11 +44,13 @@ public:
 
     /// Accounts as "MM CC SSSS descrizione".
     const QStringList& conti() const { return m_conti; }
+    /// Grows with every filling of that list.
+    int edizione() const { return m_edizione; }
     int contoScelto() const { return m_contoScelto; }
     /// Moves the list to the first account whose name begins with the text.
     void cerca(const QString& testo); ///< `ccerca`
-    /// Takes an account of the list into the current line; where to type next.
-    std::optional<Posto> prendiConto(int indice);
+    /// Takes an account of the list into the current line.
+    void prendiConto(int posizione);
 
     void togliRiga();     ///< `bottone(3)`
     void inserisciRiga(); ///< `bottone(4)`
@@ -76,7 +80,9 @@ private:
     std::array<int, righe> m_contoriga{}; ///< `con` record of each line
     QStringList m_conti;
     int m_contoScelto = -1;
-    int m_rigacorrente = 0;
+    int m_edizione = 0;
+    int m_lineafuoco = 0; ///< the line last entered
+    std::optional<Cella> m_fuoco;
 };
 
 } // namespace bor

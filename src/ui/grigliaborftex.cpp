@@ -1,6 +1,7 @@
 #include "ui/grigliaborftex.h"
 
 #include "ui/campi.h"
+#include "ui/cursorerighe.h"
 #include "ui/invio.h"
 #include "ui/legami.h"
 
@@ -9,7 +10,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -47,7 +47,7 @@ const Colonna& colonna(Campo campo) {
 
 GrigliaBorftex::GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& invio, QWidget* parent)
     : QWidget(parent), m_form(form), m_legami(legami), m_invio(invio),
-      m_cursore(new QScrollBar(Qt::Vertical)), m_listaIva(new QListWidget(this)) {
+      m_cursore(cursoreRighe(legami, form, u"Righe del documento"_s)), m_listaIva(new QListWidget(this)) {
     auto* griglia = new QGridLayout(this);
     griglia->setContentsMargins(0, 0, 0, 0);
     griglia->setHorizontalSpacing(3);
@@ -65,31 +65,24 @@ GrigliaBorftex::GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& inv
                                    {7, u"Iva"_s}})
         testata(testo, c);
     testata(u"Sconti"_s, 4, 2);
-    for (int r = 0; r < Borftex::righeVisibili; ++r) {
+    for (int linea = 0; linea < Borftex::linee; ++linea) {
         for (int c = 0; c < colonne; ++c)
-            griglia->addWidget(creaCampo({static_cast<Campo>(c), r}), r + 1, c);
+            griglia->addWidget(creaCampo({static_cast<Campo>(c), linea}), linea + 1, c);
     }
     griglia->setColumnStretch(static_cast<int>(Campo::Ds), 1);
     constexpr int molto = 100;
-    for (int r = 1; r <= Borftex::righeVisibili; ++r)
-        griglia->setRowStretch(r, molto);
-    griglia->setRowStretch(Borftex::righeVisibili + 1, 1);
-
-    m_cursore->setObjectName(u"VScroll1"_s);
-    m_cursore->setAccessibleName(u"Righe del documento"_s);
-    m_cursore->setRange(1, Borftex::ultimaPrimariga);
-    m_cursore->setPageStep(Borftex::righeVisibili);
+    for (int linea = 0; linea < Borftex::linee; ++linea)
+        griglia->setRowStretch(linea + 1, molto);
+    griglia->setRowStretch(Borftex::linee + 1, 1);
     m_cursore->setFocusPolicy(Qt::StrongFocus);
-    griglia->addWidget(m_cursore, 1, colonne, Borftex::righeVisibili, 1);
-    m_legami.cursore(
-        m_cursore, [this] { return m_form.primariga(); }, [this](int v) { m_form.scorri(v); });
+    griglia->addWidget(m_cursore, 1, colonne, Borftex::linee, 1);
     creaListaIva();
 }
 
 QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     const Colonna& modello = colonna(cella.campo);
-    const QString nome = u"%1(%2)"_s.arg(modello.nome).arg(cella.r);
-    const QString didascalia = u"%1, riga %2"_s.arg(modello.didascalia).arg(cella.r + 1);
+    const QString nome = u"%1(%2)"_s.arg(modello.nome).arg(cella.linea);
+    const QString didascalia = u"%1, riga %2"_s.arg(modello.didascalia).arg(cella.linea + 1);
     CampoTesto* nuovo = modello.numero ? new CampoImporto(nome, didascalia)
                                        : new CampoTesto(nome, didascalia, modello.caratteri);
     if (cella.campo != Campo::Ds) {
@@ -99,7 +92,7 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     // The rows share the height that the window has to give.
     nuovo->setSizePolicy(nuovo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     nuovo->setMaximumHeight(fontMetrics().height() * 2);
-    m_campi[static_cast<std::size_t>(cella.r)][static_cast<std::size_t>(cella.campo)] = nuovo;
+    m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)] = nuovo;
 
     const auto leggi = [this, cella] { return m_form.testo(cella); };
     if (cella.campo == Campo::Civ) {
@@ -113,7 +106,7 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     nuovo->installEventFilter(this);
     m_invio.passo(nuovo, [this, cella] {
         m_legami.esegui([&] {
-            if (cella.campo == Campo::Civ && m_form.combo1Visibile())
+            if (cella.campo == Campo::Civ && m_form.listaIva())
                 m_form.scegliIva(m_listaIva->currentRow());
             else
                 m_form.invio(cella);
@@ -140,11 +133,12 @@ void GrigliaBorftex::caricaVociIva() {
 }
 
 void GrigliaBorftex::aggiornaListaIva() {
-    if (m_form.combo1Visibile() == m_listaIva->isVisibleTo(this))
+    const std::optional<int> posizione = m_form.listaIva();
+    if (posizione.has_value() == m_listaIva->isVisibleTo(this))
         return;
-    m_listaIva->setVisible(m_form.combo1Visibile());
+    m_listaIva->setVisible(posizione.has_value());
     const auto* in = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    if (!m_form.combo1Visibile() || !in)
+    if (!posizione || !in)
         return;
     constexpr int vociInVista = 10;
     constexpr int margine = 30;
@@ -156,12 +150,12 @@ void GrigliaBorftex::aggiornaListaIva() {
     m_listaIva->setGeometry(cella.right() + 1 - larghezza, sotto + altezza > height() ? sopra : sotto,
                             larghezza, altezza);
     m_listaIva->raise();
-    m_listaIva->setCurrentRow(m_form.combo1Posizione());
+    m_listaIva->setCurrentRow(*posizione);
     m_listaIva->scrollToItem(m_listaIva->currentItem(), QAbstractItemView::PositionAtCenter);
 }
 
 QLineEdit* GrigliaBorftex::campo(Cella cella) const {
-    return m_campi[static_cast<std::size_t>(cella.r)][static_cast<std::size_t>(cella.campo)];
+    return m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)];
 }
 
 void GrigliaBorftex::vaiA(Cella cella) {
@@ -174,23 +168,29 @@ bool GrigliaBorftex::eventFilter(QObject* oggetto, QEvent* evento) {
     const auto* tasto = static_cast<QKeyEvent*>(evento);
     const QString nome = oggetto->objectName();
     if (nome.startsWith(u"ds(") && tasto->key() == Qt::Key_F1) {
-        m_legami.esegui([this] { m_form.cercaDescrizione(); });
+        m_legami.esegui([this] { m_form.esegui(Borftex::Comando::CercaDescrizione); });
         return true;
     }
-    if (nome.startsWith(u"civ(") && m_form.combo1Visibile() && tastoIva(tasto->key(), tasto->text()))
+    if (nome.startsWith(u"civ(") && m_form.listaIva() && tastoIva(tasto->key(), tasto->text()))
         return true;
-    return tastoPagina(tasto->key());
+    if (tasto->key() != Qt::Key_PageUp && tasto->key() != Qt::Key_PageDown)
+        return false;
+    m_legami.esegui([&] {
+        m_form.esegui(tasto->key() == Qt::Key_PageUp ? Borftex::Comando::PaginaSu
+                                                     : Borftex::Comando::PaginaGiu);
+    });
+    return true;
 }
 
 bool GrigliaBorftex::tastoIva(int tasto, const QString& testo) {
-    const int riga = m_listaIva->currentRow();
+    const int voce = m_listaIva->currentRow();
     const int ultima = m_listaIva->count() - 1;
     switch (tasto) {
     case Qt::Key_Up:
-        m_listaIva->setCurrentRow(std::max(riga - 1, 0));
+        m_listaIva->setCurrentRow(std::max(voce - 1, 0));
         return true;
     case Qt::Key_Down:
-        m_listaIva->setCurrentRow(std::min(riga + 1, ultima));
+        m_listaIva->setCurrentRow(std::min(voce + 1, ultima));
         return true;
     case Qt::Key_Home:
         m_listaIva->setCurrentRow(0);
@@ -207,14 +207,6 @@ bool GrigliaBorftex::tastoIva(int tasto, const QString& testo) {
         m_listaIva->keyboardSearch(testo);
         return true;
     }
-}
-
-bool GrigliaBorftex::tastoPagina(int tasto) {
-    if (tasto != Qt::Key_PageUp && tasto != Qt::Key_PageDown)
-        return false;
-    const int passo = tasto == Qt::Key_PageUp ? -Borftex::righeVisibili : Borftex::righeVisibili;
-    m_legami.esegui([&] { m_form.pagina(passo); });
-    return true;
 }
 
 void GrigliaBorftex::wheelEvent(QWheelEvent* evento) {

@@ -1,4 +1,4 @@
-// The twelve rows of boxes of the goods lines screen, with their scroll bar and the floating list of VAT
+// The twelve lines of boxes of the goods lines screen, with their scroll bar and the floating list of VAT
 // codes.
 #pragma once
 
@@ -36,13 +36,12 @@ private:
     void creaListaIva();
     void aggiornaListaIva();
     bool tastoIva(int tasto, const QString& testo);
-    bool tastoPagina(int tasto);
     QLineEdit* campo(Borftex::Cella cella) const;
 
     Borftex& m_form;
     Legami& m_legami;
     PercorsoInvio& m_invio;
-    std::array<std::array<QLineEdit*, colonne>, Borftex::righeVisibili> m_campi{};
+    std::array<std::array<QLineEdit*, colonne>, Borftex::linee> m_campi{};
     QScrollBar* m_cursore;
     QListWidget* m_listaIva;
 };

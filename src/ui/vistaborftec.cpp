@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QListWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -48,6 +50,10 @@ VistaBorftec::VistaBorftec(Borftec& form, QWidget* parent) : Vista(parent), m_fo
     layout->addLayout(centro, 1);
     layout->addWidget(creaTotali());
     layout->addWidget(creaComandi());
+    legami.altro([this] {
+        if (const auto cella = m_form.prendiFuoco())
+            vai(*cella);
+    });
 }
 
 QWidget* VistaBorftec::creaTestata() {
@@ -69,7 +75,7 @@ QWidget* VistaBorftec::creaTestata() {
     aggiungi(u"Riferimento"_s, riferimento, riferimento, &Movimento::riferimento);
     riga->addStretch();
     invio.catena({giorno->campo(), descrizione, riferimento});
-    invio.passo(riferimento, [this] { vai({0, Campo::Mastro}); });
+    invio.passo(riferimento, [this] { vai({}); });
     return riquadro;
 }
 
@@ -82,31 +88,32 @@ QWidget* VistaBorftec::creaRighe() {
     griglia->addWidget(new QLabel(u"Descrizione del conto"_s), 0, 3);
     griglia->addWidget(new QLabel(u"Dare"_s), 0, 4, Qt::AlignRight);
     griglia->addWidget(new QLabel(u"Avere"_s), 0, 5, Qt::AlignRight);
-    for (int r = 0; r < Borftec::righe; ++r)
-        creaRiga(griglia, r);
+    for (int linea = 0; linea < Borftec::righe; ++linea)
+        creaLinea(griglia, linea);
     griglia->setRowStretch(Borftec::righe + 1, 1);
     griglia->setColumnStretch(3, 1);
     return riquadro;
 }
 
-void VistaBorftec::creaRiga(QGridLayout* griglia, int riga) {
+void VistaBorftec::creaLinea(QGridLayout* griglia, int linea) {
     for (const auto& [campo, radice, descrizione, caratteri] : colonne) {
-        const QString nome = u"%1(%2)"_s.arg(radice).arg(riga);
-        const QString letto = u"%1, riga %2"_s.arg(descrizione).arg(riga + 1);
+        const Borftec::Cella cella{campo, linea};
+        const QString nome = u"%1(%2)"_s.arg(radice).arg(linea);
+        const QString letto = u"%1, riga %2"_s.arg(descrizione).arg(linea + 1);
         QLineEdit* casella = caratteri > 0 ? static_cast<QLineEdit*>(new CampoTesto(nome, letto, caratteri))
                                            : new CampoImporto(nome, letto);
-        m_campi[static_cast<std::size_t>(riga)][static_cast<std::size_t>(campo)] = casella;
-        griglia->addWidget(casella, riga + 1, colonnaGriglia(campo));
+        m_campi[static_cast<std::size_t>(linea)][static_cast<std::size_t>(campo)] = casella;
+        griglia->addWidget(casella, linea + 1, colonnaGriglia(campo));
         legami.testo(
-            casella, [this, riga, campo = campo] { return m_form.testo(riga, campo); },
-            [this, riga, campo = campo](const QString& t) { m_form.cambia(riga, campo, t); });
-        legami.entrato(casella, [this, riga] { m_form.entra(riga); });
-        invio.passo(casella, [this, riga, campo = campo] { vai(Borftec::invio(riga, campo)); });
+            casella, [this, cella] { return m_form.testo(cella); },
+            [this, cella](const QString& t) { m_form.cambia(cella, t); });
+        legami.entrato(casella, [this, cella] { m_form.entra(cella); });
+        invio.passo(casella, [this, cella] { legami.esegui([&] { m_form.invio(cella); }); });
     }
     auto* conto =
-        new CampoTesto(u"ds(%1)"_s.arg(riga), u"Descrizione del conto, riga %1"_s.arg(riga + 1), 40);
-    legami.testo(conto, [this, riga] { return m_form.descrizioneConto(riga); });
-    griglia->addWidget(conto, riga + 1, 3);
+        new CampoTesto(u"ds(%1)"_s.arg(linea), u"Descrizione del conto, riga %1"_s.arg(linea + 1), 40);
+    legami.testo(conto, [this, linea] { return m_form.descrizioneConto(linea); });
+    griglia->addWidget(conto, linea + 1, 3);
 }
 
 QWidget* VistaBorftec::creaConti() {
@@ -120,10 +127,7 @@ QWidget* VistaBorftec::creaConti() {
     m_conti = new QListWidget;
     m_conti->setObjectName(u"List1"_s);
     m_conti->setAccessibleName(u"Piano dei conti"_s);
-    legami.altro([this] {
-        if (m_form.contoScelto() >= 0)
-            m_conti->setCurrentRow(m_form.contoScelto());
-    });
+    legami.altro([this] { aggiornaConti(); });
     connect(m_conti, &QListWidget::itemClicked, this, [this] { prendiConto(); });
     invio.passo(m_cerca, m_conti);
     invio.passo(m_conti, [this] { prendiConto(); });
@@ -168,23 +172,26 @@ QWidget* VistaBorftec::creaComandi() {
 }
 
 void VistaBorftec::prendiConto() {
-    std::optional<Borftec::Posto> posto;
-    legami.esegui([&] { posto = m_form.prendiConto(m_conti->currentRow()); });
-    if (posto)
-        vai(*posto);
+    legami.esegui([this] { m_form.prendiConto(m_conti->currentRow()); });
 }
 
-void VistaBorftec::vai(Borftec::Posto posto) {
-    vaiA(m_campi[static_cast<std::size_t>(posto.riga)][static_cast<std::size_t>(posto.campo)]);
+void VistaBorftec::aggiornaConti() {
+    if (std::exchange(m_edizione, m_form.edizione()) != m_form.edizione()) {
+        m_conti->clear();
+        m_conti->addItems(m_form.conti());
+    }
+    if (m_form.contoScelto() >= 0)
+        m_conti->setCurrentRow(m_form.contoScelto());
+}
+
+void VistaBorftec::vai(Borftec::Cella cella) {
+    vaiA(m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)]);
 }
 
 void VistaBorftec::attiva() {
     m_form.attiva();
     m_cerca->clear();
-    m_conti->clear();
-    m_conti->addItems(m_form.conti());
     legami.aggiorna();
-    vai({0, Campo::Mastro});
 }
 
 void VistaBorftec::lascia() {

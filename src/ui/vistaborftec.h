@@ -22,21 +22,23 @@ public:
     QString titolo() const override;
 
 private:
-    static constexpr std::size_t campiPerRiga = 5;
+    static constexpr std::size_t campiPerLinea = 5;
 
     QWidget* creaTestata();
     QWidget* creaRighe();
-    void creaRiga(QGridLayout* griglia, int riga);
+    void creaLinea(QGridLayout* griglia, int linea);
     QWidget* creaConti();
     QWidget* creaTotali();
     QWidget* creaComandi();
     void prendiConto();
-    void vai(Borftec::Posto posto);
+    void aggiornaConti();
+    void vai(Borftec::Cella cella);
 
     Borftec& m_form;
-    std::array<std::array<QLineEdit*, campiPerRiga>, Borftec::righe> m_campi{};
+    std::array<std::array<QLineEdit*, campiPerLinea>, Borftec::righe> m_campi{};
     QLineEdit* m_cerca = nullptr;
     QListWidget* m_conti = nullptr;
+    int m_edizione = 0;
 };
 
 } // namespace bor

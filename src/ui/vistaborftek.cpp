@@ -2,6 +2,7 @@
 
 #include "ui/barracomandi.h"
 #include "ui/campi.h"
+#include "ui/cursorerighe.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -9,8 +10,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QScrollBar>
 #include <QWheelEvent>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +47,11 @@ VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_fo
     layout->addLayout(centro, 1);
     layout->addWidget(creaTotali());
     layout->addWidget(creaComandi());
+    legami.altro([this] { aggiornaPrestazioni(); });
+    legami.altro([this] {
+        if (const auto cella = m_form.prendiFuoco())
+            vaiA(m_campi[static_cast<std::size_t>(cella->linea)][static_cast<std::size_t>(cella->campo)]);
+    });
 }
 
 QWidget* VistaBorftek::creaRighe() {
@@ -55,59 +62,44 @@ QWidget* VistaBorftek::creaRighe() {
         auto* intestazione = new QLabel(colonne[c].intestazione.toString());
         griglia->addWidget(intestazione, 0, static_cast<int>(c), c < 2 ? Qt::AlignLeft : Qt::AlignRight);
     }
-    for (int r = 0; r < Borftek::righeSchermo; ++r)
-        creaRiga(griglia, r);
-    m_cursore = new QScrollBar(Qt::Vertical);
-    m_cursore->setObjectName(u"VScroll1"_s);
-    m_cursore->setAccessibleName(u"Prima riga visibile"_s);
-    m_cursore->setRange(1, Borftek::ultimaPosizione);
-    m_cursore->setPageStep(Borftek::righeSchermo);
+    for (int linea = 0; linea < Borftek::linee; ++linea)
+        creaLinea(griglia, linea);
+    m_cursore = cursoreRighe(legami, m_form, u"Prima riga visibile"_s);
     m_cursore->setFocusPolicy(Qt::StrongFocus);
-    legami.cursore(
-        m_cursore, [this] { return m_form.primariga(); }, [this](int v) { m_form.scorri(v); });
-    griglia->addWidget(m_cursore, 1, static_cast<int>(colonne.size()), Borftek::righeSchermo, 1);
+    griglia->addWidget(m_cursore, 1, static_cast<int>(colonne.size()), Borftek::linee, 1);
     griglia->setColumnStretch(1, 1);
-    griglia->setRowStretch(Borftek::righeSchermo + 1, 1);
+    griglia->setRowStretch(Borftek::linee + 1, 1);
     return riquadro;
 }
 
-void VistaBorftek::creaRiga(QGridLayout* griglia, int riga) {
+void VistaBorftek::creaLinea(QGridLayout* griglia, int linea) {
     for (std::size_t c = 0; c < colonne.size(); ++c) {
         const auto& [campo, radice, intestazione] = colonne[c];
-        const QString nome = u"%1(%2)"_s.arg(radice).arg(riga);
-        const QString didascalia = u"%1, riga %2"_s.arg(intestazione).arg(riga + 1);
+        const QString nome = u"%1(%2)"_s.arg(radice).arg(linea);
+        const QString didascalia = u"%1, riga %2"_s.arg(intestazione).arg(linea + 1);
         QWidget* widget = nullptr;
         if (campo == Campo::Data) {
-            auto* giorno = new CampoData(nome, u"aartic(%1)"_s.arg(riga), didascalia);
-            m_campi[static_cast<std::size_t>(riga)][c] = giorno->campo();
+            auto* giorno = new CampoData(nome, u"aartic(%1)"_s.arg(linea), didascalia);
+            m_campi[static_cast<std::size_t>(linea)][c] = giorno->campo();
             widget = giorno;
         } else {
             auto* casella = campo == Campo::Descrizione
                                 ? static_cast<QLineEdit*>(new CampoTesto(nome, didascalia, 50))
                                 : new CampoImporto(nome, didascalia);
-            m_campi[static_cast<std::size_t>(riga)][c] = casella;
+            m_campi[static_cast<std::size_t>(linea)][c] = casella;
             widget = casella;
         }
-        griglia->addWidget(widget, riga + 1, static_cast<int>(c));
-        lega(riga, campo, m_campi[static_cast<std::size_t>(riga)][c]);
+        griglia->addWidget(widget, linea + 1, static_cast<int>(c));
+        lega({campo, linea}, m_campi[static_cast<std::size_t>(linea)][c]);
     }
 }
 
-void VistaBorftek::lega(int riga, Campo campo, QLineEdit* casella) {
+void VistaBorftek::lega(Borftek::Cella cella, QLineEdit* casella) {
     legami.testo(
-        casella, [this, riga, campo] { return m_form.testo(riga, campo); },
-        [this, riga, campo](const QString& testo) { m_form.cambia(riga, campo, testo); });
-    legami.entrato(casella, [this, riga] { m_form.entra(riga); });
-    invio.passo(casella, [this, riga, campo] {
-        std::optional<Borftek::Posto> posto;
-        legami.esegui([&] { posto = m_form.invio(riga, campo); });
-        if (posto)
-            vai(*posto);
-    });
-}
-
-void VistaBorftek::vai(Borftek::Posto posto) {
-    vaiA(m_campi[static_cast<std::size_t>(posto.riga)][static_cast<std::size_t>(posto.campo)]);
+        casella, [this, cella] { return m_form.testo(cella); },
+        [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
+    legami.entrato(casella, [this, cella] { m_form.entra(cella); });
+    invio.passo(casella, [this, cella] { legami.esegui([&] { m_form.invio(cella); }); });
 }
 
 QWidget* VistaBorftek::creaPrestazioni() {
@@ -121,7 +113,6 @@ QWidget* VistaBorftek::creaPrestazioni() {
     m_prestazioni->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
     const auto scegli = [this] {
         legami.esegui([this] { m_form.scegliPrestazione(m_prestazioni->currentRow()); });
-        vai({m_form.rigafocus(), Campo::Data});
     };
     connect(m_prestazioni, &QListWidget::itemClicked, this, scegli);
     invio.passo(m_prestazioni, scegli);
@@ -154,23 +145,22 @@ QWidget* VistaBorftek::creaComandi() {
                    [this] { m_form.lascia(); });
     barra->comando(u"comando(1)"_s, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
     barra->spazio();
-    barra->comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, [this] {
-        m_form.inserisciRiga();
-        vai({m_form.rigafocus(), Campo::Data});
-    });
+    barra->comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s,
+                   [this] { m_form.inserisciRiga(); });
     barra->comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
     return barra;
 }
 
 void VistaBorftek::attiva() {
-    const bool primaVolta = m_form.attiva();
-    if (primaVolta) {
-        m_prestazioni->clear();
-        m_prestazioni->addItems(m_form.prestazioni());
-    }
+    m_form.attiva();
     legami.aggiorna();
-    if (primaVolta)
-        vai({0, Campo::Data});
+}
+
+void VistaBorftek::aggiornaPrestazioni() {
+    if (std::exchange(m_edizione, m_form.edizione()) == m_form.edizione())
+        return;
+    m_prestazioni->clear();
+    m_prestazioni->addItems(m_form.prestazioni());
 }
 
 void VistaBorftek::lascia() {
@@ -185,8 +175,8 @@ void VistaBorftek::keyPressEvent(QKeyEvent* evento) {
     const int tasto = evento->key();
     if (tasto != Qt::Key_PageUp && tasto != Qt::Key_PageDown)
         return Vista::keyPressEvent(evento);
-    const int passo = tasto == Qt::Key_PageUp ? -Borftek::righeSchermo : Borftek::righeSchermo;
-    legami.esegui([&] { m_form.scorri(m_form.primariga() + passo); });
+    const int passo = tasto == Qt::Key_PageUp ? -Borftek::linee : Borftek::linee;
+    legami.esegui([&] { m_form.scorri(m_form.finestra().prima() + passo); });
 }
 
 void VistaBorftek::wheelEvent(QWheelEvent* evento) {

@@ -26,20 +26,21 @@ protected:
     void wheelEvent(QWheelEvent* evento) override;
 
 private:
-    static constexpr std::size_t campiPerRiga = 5;
+    static constexpr std::size_t campiPerLinea = 5;
 
     QWidget* creaRighe();
-    void creaRiga(QGridLayout* griglia, int riga);
+    void creaLinea(QGridLayout* griglia, int linea);
     QWidget* creaPrestazioni();
     QWidget* creaTotali();
     QWidget* creaComandi();
-    void lega(int riga, Borftek::Campo campo, QLineEdit* casella);
-    void vai(Borftek::Posto posto);
+    void lega(Borftek::Cella cella, QLineEdit* casella);
+    void aggiornaPrestazioni();
 
     Borftek& m_form;
-    std::array<std::array<QLineEdit*, campiPerRiga>, Borftek::righeSchermo> m_campi{};
+    std::array<std::array<QLineEdit*, campiPerLinea>, Borftek::linee> m_campi{};
     QScrollBar* m_cursore = nullptr;
     QListWidget* m_prestazioni = nullptr;
+    int m_edizione = 0;
 };
 
 } // namespace bor

@@ -13,6 +13,8 @@
 #include <QListView>
 #include <QRadioButton>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -42,6 +44,9 @@ private:
 
 namespace {
 
+using Comando = Borftex::Comando;
+using Opzione = Borftex::Opzione;
+
 QLabel* valoreInVista(const QString& nome, const QString& didascalia) {
     auto* etichetta = new QLabel;
     etichetta->setObjectName(nome);
@@ -57,7 +62,7 @@ QLabel* valoreInVista(const QString& nome, const QString& didascalia) {
 
 VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
     : Vista(parent), m_form(form), m_griglia(new GrigliaBorftex(form, legami, invio)),
-      m_modello(new ModelloArticoli(form.lista(), this)) {
+      m_modello(new ModelloArticoli(form.articoli().lista(), this)) {
     // The model follows the list before anything else looks at it.
     legami.altro([this] { aggiornaLista(); });
     auto* layout = new QVBoxLayout(this);
@@ -100,24 +105,20 @@ QWidget* VistaBorftex::creaOpzioni() {
     legami.etichetta(link, [this] { return m_form.link(); });
     layout->addWidget(link);
     layout->addStretch();
-    const auto opzione = [&](QAbstractButton* bottone, const QString& nome, std::function<bool()> leggi,
-                             std::function<void(bool)> scrivi) {
+    const auto opzione = [&](QAbstractButton* bottone, const QString& nome, Opzione quale) {
         bottone->setObjectName(nome);
         bottone->setAccessibleName(bottone->text());
-        legami.spunta(bottone, std::move(leggi), std::move(scrivi));
+        legami.spunta(
+            bottone, [this, quale] { return m_form.opzione(quale); },
+            [this, quale](bool accesa) { m_form.cambiaOpzione(quale, accesa); });
         layout->addWidget(bottone);
     };
     for (int i = 0; i < 2; ++i)
-        opzione(
-            new QRadioButton(u"Utilizza prezzo di listino %1"_s.arg(i + 1)), u"prezz(%1)"_s.arg(i),
-            [this, i] { return m_form.listino() == i + 1; },
-            [this, i](bool) { m_form.cambiaListino(i + 1); });
-    opzione(
-        new QCheckBox(u"Utilizza prezzi comprensivi di iva (scorporo)"_s), u"scorporo"_s,
-        [this] { return m_form.scorporo(); }, [this](bool acceso) { m_form.cambiaScorporo(acceso); });
-    opzione(
-        new QCheckBox(u"Utilizza lettore di codici a barre"_s), u"barcode"_s,
-        [this] { return m_form.barcode(); }, [this](bool acceso) { m_form.cambiaBarcode(acceso); });
+        opzione(new QRadioButton(u"Utilizza prezzo di listino %1"_s.arg(i + 1)), u"prezz(%1)"_s.arg(i),
+                i == 0 ? Opzione::Listino1 : Opzione::Listino2);
+    opzione(new QCheckBox(u"Utilizza prezzi comprensivi di iva (scorporo)"_s), u"scorporo"_s,
+            Opzione::Scorporo);
+    opzione(new QCheckBox(u"Utilizza lettore di codici a barre"_s), u"barcode"_s, Opzione::Barcode);
     return barra;
 }
 
@@ -139,8 +140,8 @@ QWidget* VistaBorftex::creaLista() {
     invio.passo(m_lista, [this] { scegliArticolo(); });
     layout->addWidget(guida);
     layout->addWidget(m_lista, 1);
-    legami.visibile(guida, [this] { return m_form.listaVisibile(); });
-    legami.visibile(m_lista, [this] { return m_form.listaVisibile(); });
+    legami.visibile(guida, [this] { return m_form.articoli().visibile(); });
+    legami.visibile(m_lista, [this] { return m_form.articoli().visibile(); });
     return riquadro;
 }
 
@@ -148,33 +149,37 @@ QWidget* VistaBorftex::creaTotali() {
     auto* barra = new QWidget;
     auto* layout = new QHBoxLayout(barra);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto voce = [&](const QString& testo, const QString& nome, std::function<QString()> leggi) {
+    using Totale = Borftex::Totale;
+    const auto voce = [&](const QString& testo, const QString& nome, Totale quale) {
         auto* etichetta = valoreInVista(nome, testo);
-        legami.etichetta(etichetta, std::move(leggi));
+        legami.etichetta(etichetta, [this, quale] { return m_form.totale(quale); });
         layout->addWidget(didascalia(testo, etichetta));
         layout->addWidget(etichetta);
         layout->addSpacing(18);
     };
-    voce(u"Numero pezzi"_s, u"tota(2)"_s, [this] { return m_form.tota(2); });
-    voce(u"Totale imponibile"_s, u"tota(0)"_s, [this] { return m_form.tota(0); });
-    voce(u"Totale complessivo"_s, u"tota(1)"_s, [this] { return m_form.tota(1); });
+    voce(u"Numero pezzi"_s, u"tota(2)"_s, Totale::Pezzi);
+    voce(u"Totale imponibile"_s, u"tota(0)"_s, Totale::Imponibile);
+    voce(u"Totale complessivo"_s, u"tota(1)"_s, Totale::Complessivo);
     layout->addStretch();
-    voce(u"Rit.Acconto %"_s, u"alr"_s, [this] { return m_form.alr(); });
-    voce(u"Importo"_s, u"imr"_s, [this] { return m_form.imr(); });
+    voce(u"Rit.Acconto %"_s, u"alr"_s, Totale::AliquotaRitenuta);
+    voce(u"Importo"_s, u"imr"_s, Totale::Ritenuta);
     return barra;
 }
 
 QWidget* VistaBorftex::creaComandi() {
     auto* barra = new BarraComandi(legami);
-    barra->comando(u"comando(0)"_s, u"Indietro"_s, u"indietro"_s, {}, [this] { m_form.indietro(); })
+    const auto comando = [&](const QString& nome, const QString& testo, const QString& icona,
+                             const QString& tasto, Comando quale) {
+        return barra->comando(nome, testo, icona, tasto, [this, quale] { m_form.esegui(quale); });
+    };
+    comando(u"comando(0)"_s, u"Indietro"_s, u"indietro"_s, {}, Comando::Indietro)
         ->setToolTip(u"Indietro (Esc)"_s);
-    barra->comando(u"comando(1)"_s, u"Conferma"_s, u"conferma"_s, u"F10"_s, [this] { m_form.conferma(); });
+    comando(u"comando(1)"_s, u"Conferma"_s, u"conferma"_s, u"F10"_s, Comando::Conferma);
     barra->spazio();
-    barra->comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s,
-                   [this] { m_form.inserisciRiga(); });
-    barra->comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
-    barra->comando(u"riordina"_s, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.riordina(); });
-    barra->comando(u"command3d3"_s, u"Articoli"_s, u"lista"_s, u"F3"_s, [this] { m_form.apriLista(); });
+    comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s, Comando::InserisciRiga);
+    comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, Comando::EliminaRiga);
+    comando(u"riordina"_s, u"Riordina"_s, u"riordina"_s, u"F6"_s, Comando::Riordina);
+    comando(u"command3d3"_s, u"Articoli"_s, u"lista"_s, u"F3"_s, Comando::ApriLista);
     return barra;
 }
 
@@ -184,7 +189,7 @@ void VistaBorftex::attiva() {
 }
 
 void VistaBorftex::lascia() {
-    m_form.indietro();
+    m_form.esegui(Comando::Indietro);
 }
 
 QString VistaBorftex::titolo() const {
@@ -192,11 +197,10 @@ QString VistaBorftex::titolo() const {
 }
 
 void VistaBorftex::aggiornaLista() {
-    if (m_edizione != m_form.edizioneLista()) {
-        m_edizione = m_form.edizioneLista();
+    const ElencoArticoli& articoli = m_form.articoli();
+    if (std::exchange(m_edizione, articoli.edizione()) != articoli.edizione())
         m_modello->rinnova();
-    }
-    const QModelIndex corrente = m_modello->index(m_form.posizioneLista());
+    const QModelIndex corrente = m_modello->index(articoli.posizione());
     if (m_lista->hasFocus() || m_lista->currentIndex() == corrente)
         return;
     m_lista->setCurrentIndex(corrente);

@@ -73,7 +73,7 @@ TEST_F(Parcella, SoleAnticipazioniNonFannoRigheIva) {
 
 TEST_F(Parcella, LaConfermaRiportaNelDocumentoELaRitenutaDiversaDiventaUnaRiga) {
     form.attiva();
-    form.cambia(0, Campo::Onorari, u"1000,50"_s);
+    form.cambia({Campo::Onorari, 0}, u"1000,50"_s);
     EXPECT_EQ(form.totale(Campo::Onorari), u" 1.000,50"_s);
     documento.prospetti.ritenute[0].raimp = u"10"_s;
     documento.prospetti.ritenute[1].raimp = u"5"_s;
@@ -98,43 +98,46 @@ TEST_F(Parcella, UnaPrestazioneLungaSiSpezzaEGliImportiVannoInFondo) {
     prestazioni(
         "Assistenza e rappresentanza davanti alla commissione tributaria provinciale\r\n1\r\n2\r\n3\r\n\r\n"
         "\r\n0\r\n0\r\n0\r\n\r\n");
-    form.cambia(2, Campo::Data, u"01/03/2015"_s);
+    form.cambia({Campo::Data, 2}, u"01/03/2015"_s);
     form.scegliPrestazione(0);
-    EXPECT_EQ(form.testo(2, Campo::Descrizione), u"Assistenza e rappresentanza davanti alla"_s);
-    EXPECT_EQ(form.testo(3, Campo::Descrizione), u"commissione tributaria provinciale"_s);
-    EXPECT_EQ(form.testo(2, Campo::Data), QString());
-    EXPECT_EQ(form.testo(2, Campo::Onorari), QString());
-    EXPECT_EQ(form.testo(3, Campo::Anticipazioni), u"1"_s);
-    EXPECT_EQ(form.testo(3, Campo::Onorari), u"3"_s);
+    EXPECT_EQ(form.testo({Campo::Descrizione, 2}), u"Assistenza e rappresentanza davanti alla"_s);
+    EXPECT_EQ(form.testo({Campo::Descrizione, 3}), u"commissione tributaria provinciale"_s);
+    EXPECT_EQ(form.testo({Campo::Data, 2}), QString());
+    EXPECT_EQ(form.testo({Campo::Onorari, 2}), QString());
+    EXPECT_EQ(form.testo({Campo::Anticipazioni, 3}), u"1"_s);
+    EXPECT_EQ(form.testo({Campo::Onorari, 3}), u"3"_s);
 
     form.scorri(189);
-    form.entra(11);
+    form.entra({Campo::Data, 11});
     form.scegliPrestazione(0);
-    EXPECT_EQ(form.testo(11, Campo::Descrizione), u"commissione tributaria provinciale"_s);
-    EXPECT_EQ(form.testo(10, Campo::Spese), u"2"_s) << "on the last line the amounts go to the line before";
+    EXPECT_EQ(form.testo({Campo::Descrizione, 11}), u"commissione tributaria provinciale"_s);
+    EXPECT_EQ(form.testo({Campo::Spese, 10}), u"2"_s) << "on the last line the amounts go to the line before";
     form.scegliPrestazione(1);
     form.scegliPrestazione(50);
-    EXPECT_EQ(form.testo(11, Campo::Descrizione), u"commissione tributaria provinciale"_s);
+    EXPECT_EQ(form.testo({Campo::Descrizione, 11}), u"commissione tributaria provinciale"_s);
 }
 
 TEST_F(Parcella, LeRigheSiMuovonoELaTastieraArrivaAllaRiga190) {
     form.attiva();
-    form.cambia(0, Campo::Descrizione, u"prima"_s);
-    form.cambia(1, Campo::Descrizione, u"seconda"_s);
-    form.entra(1);
+    form.cambia({Campo::Descrizione, 0}, u"prima"_s);
+    form.cambia({Campo::Descrizione, 1}, u"seconda"_s);
+    form.entra({Campo::Data, 1});
     form.inserisciRiga();
-    EXPECT_EQ(form.testo(1, Campo::Descrizione), QString());
-    EXPECT_EQ(form.testo(2, Campo::Descrizione), u"seconda"_s);
-    form.entra(0);
+    EXPECT_EQ(form.testo({Campo::Descrizione, 1}), QString());
+    EXPECT_EQ(form.testo({Campo::Descrizione, 2}), u"seconda"_s);
+    form.entra({Campo::Data, 0});
     form.eliminaRiga();
-    EXPECT_EQ(form.testo(1, Campo::Descrizione), u"seconda"_s);
+    EXPECT_EQ(form.testo({Campo::Descrizione, 1}), u"seconda"_s);
 
     int passi = 0;
-    std::optional<Borftek::Posto> posto = Borftek::Posto{0, Campo::Data};
-    for (; posto && passi < 2000; ++passi)
-        posto = form.invio(posto->riga, posto->campo);
+    form.prendiFuoco();
+    std::optional<Borftek::Cella> cella = Borftek::Cella{};
+    for (; cella && passi < 2000; ++passi) {
+        form.invio(*cella);
+        cella = form.prendiFuoco();
+    }
     EXPECT_EQ(passi, 190 * 5);
-    EXPECT_EQ(form.primariga() + 11, 190);
+    EXPECT_EQ(form.finestra().prima() + 11, 190);
 }
 
 } // namespace

@@ -12,6 +12,9 @@ namespace {
 
 using Campo = Borftex::Campo;
 using Cella = Borftex::Cella;
+using Comando = Borftex::Comando;
+using Opzione = Borftex::Opzione;
+using Totale = Borftex::Totale;
 
 class Righe : public testing::Test {
 protected:
@@ -44,10 +47,11 @@ protected:
         scrivi(Campo::Artic, r, codice);
         form.invio({Campo::Artic, r});
     }
+    const Riga& riga(int linea) const { return form.righe().riga(form.finestra().riga(linea)); }
     QStringList codici(int quanti) {
         QStringList c;
         for (int r = 0; r < quanti; ++r)
-            c.append(form.riga(r).codice);
+            c.append(riga(r).codice);
         return c;
     }
 
@@ -63,12 +67,12 @@ TEST_F(Righe, ArticoloRiempieLaRigaEPortaAllaQuantita) {
     EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Artic, 0}));
     form.entra({Campo::Artic, 0});
     form.cambia({Campo::Artic, 0}, u"v"_s);
-    EXPECT_EQ(form.posizioneLista(), 1);
-    EXPECT_EQ(form.riga(0).recart, 0) << "nothing is chosen before Enter";
+    EXPECT_EQ(form.articoli().posizione(), 1);
+    EXPECT_EQ(riga(0).recart, 0) << "nothing is chosen before Enter";
     form.invio({Campo::Artic, 0});
     EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Quantita, 0}));
     Riga attesa{1, u"S2"_s, u"VITE"_s, u"Vite a legno"_s, u"pz"_s, 0, 0, 1, 0, 100, 0.25};
-    EXPECT_EQ(form.riga(0), attesa);
+    EXPECT_EQ(riga(0), attesa);
     form.entra({Campo::Quantita, 0});
     EXPECT_EQ(form.listx(), u"VITE"_s.leftJustified(15) + u" - "_s + u"Vite a legno"_s.leftJustified(80) +
                                 u" - Giacenza:12 - Impegnato:0"_s.leftJustified(42) + u"    1"_s);
@@ -82,9 +86,9 @@ TEST_F(Righe, CodiceAssenteEliminatoOFuoriArchivio) {
     contesto.archivio.srb.scrivi(1, voce);
     contesto.archivio.srb.scrivi(2, voce);
     form.attiva();
-    EXPECT_FALSE(form.listaVisibile());
+    EXPECT_FALSE(form.articoli().visibile());
     articolo(3, u"777"_s);
-    form.cambiaBarcode(false);
+    form.cambiaOpzione(Opzione::Barcode, false);
     articolo(3, u"BULLONE"_s);
     Art tolto = contesto.archivio.art.leggi(2);
     tolto.eliminato = 1;
@@ -96,7 +100,7 @@ TEST_F(Righe, CodiceAssenteEliminatoOFuoriArchivio) {
     EXPECT_EQ(contesto.operatore.messaggi[0].icona, Icona::Stop);
     EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Artic, 3}));
     EXPECT_EQ(form.testo({Campo::Artic, 3}), u"DADO"_s) << "the code stays to be corrected";
-    EXPECT_EQ(form.riga(3), Riga());
+    EXPECT_EQ(riga(3), Riga());
 }
 
 TEST_F(Righe, ListinoScorporoERegimeDelCliente) {
@@ -104,23 +108,23 @@ TEST_F(Righe, ListinoScorporoERegimeDelCliente) {
     c.listino.set(u"1");
     contesto.archivio.cli.scrivi(1, c);
     form.attiva();
-    form.cambiaScorporo(true);
+    form.cambiaOpzione(Opzione::Scorporo, true);
     articolo(0, u"VITE"_s);
-    EXPECT_EQ(form.riga(0).prezzo, 61.0);
+    EXPECT_EQ(riga(0).prezzo, 61.0);
     // Forced to an exempt code, the box takes the list price as it is; the list goes by the article's code.
     cliente(15);
     contesto.tabelle.aliquote[15] = {u"4"_s, {}, {}, {}};
     form.attiva();
-    form.cambiaListino(1);
+    form.cambiaOpzione(Opzione::Listino1, true);
     articolo(0, u"VITE"_s);
-    EXPECT_EQ(form.riga(0).iva, 15);
-    EXPECT_EQ(form.riga(0).prezzo, 100.0);
+    EXPECT_EQ(riga(0).iva, 15);
+    EXPECT_EQ(riga(0).prezzo, 100.0);
     form.scegliArticolo(1);
-    EXPECT_EQ(form.riga(0).prezzo, 104.0);
+    EXPECT_EQ(riga(0).prezzo, 104.0);
     cliente(25);
     form.attiva();
     articolo(0, u"VITE"_s);
-    EXPECT_EQ(form.riga(0).iva, 1);
+    EXPECT_EQ(riga(0).iva, 1);
 }
 
 TEST_F(Righe, TestoAggiuntivoSottoLArticolo_NonOltreLaRiga500) {
@@ -132,13 +136,13 @@ TEST_F(Righe, TestoAggiuntivoSottoLArticolo_NonOltreLaRiga500) {
     ddd(2) = {1, u"S2"_s, u"X"_s, u"vecchia"_s, u"kg"_s, 1, 2, 3, 4, 5, 0};
     form.attiva();
     articolo(0, u"VITE"_s);
-    EXPECT_EQ(form.riga(1), (Riga{0, u"S2"_s, {}, u"zincata"_s, {}, 0, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(form.riga(2).descrizione, u"a norma"_s);
+    EXPECT_EQ(riga(1), (Riga{0, u"S2"_s, {}, u"zincata"_s, {}, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(riga(2).descrizione, u"a norma"_s);
     form.scorri(600);
-    EXPECT_EQ(form.primariga(), 489);
+    EXPECT_EQ(form.finestra().prima(), 489);
     articolo(10, u"VITE"_s);
-    EXPECT_EQ(form.riga(11).descrizione, u"zincata"_s);
-    EXPECT_EQ(form.riga(10).codice, u"VITE"_s);
+    EXPECT_EQ(riga(11).descrizione, u"zincata"_s);
+    EXPECT_EQ(riga(10).codice, u"VITE"_s);
     EXPECT_EQ(contesto.operatore.messaggi.size(), 1);
     prx.marca = 122;
     contesto.archivio.prx.scrivi(1, prx);
@@ -158,7 +162,7 @@ TEST_F(Righe, StradaDeiTastiFinoAllaRiga490) {
         c = *prossima;
     }
     EXPECT_EQ(passi, 490 * 7 - 1);
-    EXPECT_EQ(form.primariga() + 11, 490);
+    EXPECT_EQ(form.finestra().prima() + 11, 490);
 }
 
 TEST_F(Righe, VisiteProposteEDefault) {
@@ -167,20 +171,19 @@ TEST_F(Righe, VisiteProposteEDefault) {
     form.entra({Campo::Sc1, 0});
     EXPECT_EQ(form.testo({Campo::Sc1, 0}), u"10"_s);
     EXPECT_EQ(form.testo({Campo::Sc2, 0}), u""_s);
-    EXPECT_EQ(form.tota(0), u" 90,00"_s);
+    EXPECT_EQ(form.totale(Totale::Imponibile), u" 90,00"_s);
     form.entra({Campo::Ds, 0});
-    EXPECT_EQ(form.riga(0).recart, 0);
+    EXPECT_EQ(riga(0).recart, 0);
     EXPECT_EQ(form.testo({Campo::Artic, 0}), u""_s);
-    EXPECT_EQ(form.riga(0).prezzo, 100.0) << "a free line keeps its price";
+    EXPECT_EQ(riga(0).prezzo, 100.0) << "a free line keeps its price";
     contesto.impostazioni.gnr.righemodulo.set(u"02");
     scrivi(Campo::Prezzo, 1, u"12,50"_s);
-    EXPECT_EQ(form.riga(1).prezzo, 12.5);
+    EXPECT_EQ(riga(1).prezzo, 12.5);
     EXPECT_EQ(form.testo({Campo::Civ, 1}), u"02"_s);
     form.entra({Campo::Civ, 1});
-    EXPECT_TRUE(form.combo1Visibile());
-    EXPECT_EQ(form.combo1Posizione(), 1);
+    EXPECT_EQ(form.listaIva(), 1);
     form.scegliIva(14);
-    EXPECT_EQ(form.riga(1).iva, 15);
+    EXPECT_EQ(riga(1).iva, 15);
     EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Prezzo, 1}));
     EXPECT_EQ(form.vociIva().mid(0, 2), (QStringList{u"01 Iva 22%"_s, u"02 Iva 10% - Rit.Acconto 20%"_s}));
     EXPECT_EQ(form.vociIva().value(14), u"15 Esente art.10"_s);
@@ -190,13 +193,13 @@ TEST_F(Righe, VisiteProposteEDefault) {
 TEST_F(Righe, CercaPerDescrizioneConF1) {
     form.attiva();
     scrivi(Campo::Ds, 0, u"vite a"_s);
-    form.cercaDescrizione();
-    EXPECT_EQ(form.riga(0).recart, 1);
+    form.esegui(Comando::CercaDescrizione);
+    EXPECT_EQ(riga(0).recart, 1);
     EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Quantita, 0}));
-    form.cambiaBarcode(true);
+    form.cambiaOpzione(Opzione::Barcode, true);
     scrivi(Campo::Ds, 1, u"dado"_s);
-    form.cercaDescrizione();
-    EXPECT_EQ(form.riga(1).recart, 0) << "only while the list is open";
+    form.esegui(Comando::CercaDescrizione);
+    EXPECT_EQ(riga(1).recart, 0) << "only while the list is open";
 }
 
 TEST_F(Righe, InserisceEliminaERiordinaComeLaSuite) {
@@ -207,30 +210,30 @@ TEST_F(Righe, InserisceEliminaERiordinaComeLaSuite) {
     ddd(500).codice = u"ULTIMA"_s;
     form.attiva();
     form.entra({Campo::Quantita, 1});
-    form.inserisciRiga();
+    form.esegui(Comando::InserisciRiga);
     EXPECT_EQ(codici(3), (QStringList{u"C"_s, u""_s, u"B"_s}));
-    EXPECT_EQ(form.riga(1).codice2 + form.riga(2).codice2, u"S2S2"_s);
-    EXPECT_EQ(form.tota(2), u" 6"_s);
-    form.eliminaRiga();
+    EXPECT_EQ(riga(1).codice2 + riga(2).codice2, u"S2S2"_s);
+    EXPECT_EQ(form.totale(Totale::Pezzi), u" 6"_s);
+    form.esegui(Comando::EliminaRiga);
     EXPECT_EQ(codici(6), codiciDocumento);
-    form.riordina();
+    form.esegui(Comando::Riordina);
     EXPECT_EQ(codici(7), (QStringList{u"A"_s, u"B"_s, u"C"_s, u"C"_s, u"a"_s, u""_s, u""_s}));
     // An exchange sort: the two lines of the same code came out the other way round.
-    EXPECT_EQ(form.riga(2).descrizione + form.riga(3).descrizione, u"20"_s);
+    EXPECT_EQ(riga(2).descrizione + riga(3).descrizione, u"20"_s);
     form.scorri(489);
-    EXPECT_EQ(form.riga(11).codice, u""_s) << "the insertion pushed the last line out";
+    EXPECT_EQ(riga(11).codice, u""_s) << "the insertion pushed the last line out";
 }
 
 TEST_F(Righe, ConfermaPortaRigheETotaliNelDocumento_IndietroNo) {
     form.attiva();
     articolo(0, u"DADO"_s);
     scrivi(Campo::Quantita, 0, u"3"_s);
-    form.indietro();
+    form.esegui(Comando::Indietro);
     EXPECT_EQ(documento.ddd[0], Riga());
     EXPECT_EQ(sommaIva(documento.coppia, VoceIva::Imponibile), 0.0);
     scrivi(Campo::Ds, 1, u"  nota  "_s);
-    EXPECT_EQ(form.alr() + u' ' + form.imr(), u"20 6"_s);
-    form.conferma();
+    EXPECT_EQ(form.totale(Totale::AliquotaRitenuta) + u' ' + form.totale(Totale::Ritenuta), u"20 6"_s);
+    form.esegui(Comando::Conferma);
     EXPECT_EQ(documento.ddd[0].quantita, 3.0);
     EXPECT_EQ(documento.ddd[1].descrizione, u"nota"_s);
     EXPECT_EQ(importoIva(documento.coppia, VoceIva::Imponibile, 2), 30.0);
@@ -249,7 +252,7 @@ TEST_F(Righe, PesoDelleRigheRilettoEQuelloDellUltimoArticolo) {
     scrivi(Campo::Quantita, 1, u"4501"_s);
     EXPECT_EQ(documento.testata.trasporto.peso, u"1.125,25"_s);
     form.attiva();
-    form.conferma();
+    form.esegui(Comando::Conferma);
     EXPECT_EQ(documento.testata.trasporto.peso, u"1"_s);
 }
 

@@ -112,7 +112,7 @@ TEST_F(MovimentoTest, ScriveGiornaleESaldiEPoiSostituisceSulPosto) {
     form.prepara(setfat(documento, prova.contesto));
     form.attiva();
     EXPECT_EQ(form.descrizioneConto(2), u"Ricavi"_s);
-    form.cambia(5, Borftec::Campo::Mastro, u"99"_s); // no amounts: drops out
+    form.cambia({Borftec::Campo::Mastro, 5}, u"99"_s); // no amounts: drops out
     form.salva();
     ASSERT_TRUE(prova.operatore.messaggi.isEmpty()) << qPrintable(prova.operatore.messaggi.value(0).testo);
     EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borfte});
@@ -144,8 +144,8 @@ TEST_F(MovimentoTest, ScriveGiornaleESaldiEPoiSostituisceSulPosto) {
     documento.recordfattura = 4;
     prova.sessione.modificamovimento = true;
     form.prepara(setfat(documento, prova.contesto));
-    EXPECT_EQ(form.testo(3, Borftec::Campo::Avere), u"22"_s);
-    form.cambia(3, Borftec::Campo::Avere, u"22,50"_s);
+    EXPECT_EQ(form.testo({Borftec::Campo::Avere, 3}), u"22"_s);
+    form.cambia({Borftec::Campo::Avere, 3}, u"22,50"_s);
     EXPECT_EQ(form.sbilancio(), -0.5);
     form.salva();
     EXPECT_EQ(prova.archivio.leggiTot(Conta::Gio).numero, 1);
@@ -180,19 +180,20 @@ TEST_F(MovimentoTest, SiCercanoContiESiSpostanoRighe) {
     EXPECT_EQ(form.conti(), QStringList({u"10 01 0001 Clienti Italia"_s, u"40 01 0001 Ricavi"_s}));
     form.cerca(u"ric"_s);
     EXPECT_EQ(form.contoScelto(), 1);
-    form.cambia(1, Borftec::Campo::Mastro, u"1"_s);
+    form.cambia({Borftec::Campo::Mastro, 1}, u"1"_s);
     EXPECT_EQ(form.contoScelto(), 0);
-    const auto posto = form.prendiConto(1);
+    form.prendiConto(1);
+    const auto posto = form.prendiFuoco();
     ASSERT_TRUE(posto);
-    EXPECT_EQ(posto->riga, 1);
-    EXPECT_EQ(form.testo(1, Borftec::Campo::Sottoconto), u"0001"_s);
-    form.entra(0);
+    EXPECT_EQ(posto->linea, 1);
+    EXPECT_EQ(form.testo({Borftec::Campo::Sottoconto, 1}), u"0001"_s);
+    form.entra({Borftec::Campo::Mastro, 0});
     form.inserisciRiga();
-    EXPECT_EQ(form.testo(1, Borftec::Campo::Mastro), QString());
-    EXPECT_EQ(form.testo(2, Borftec::Campo::Mastro), u"40"_s);
+    EXPECT_EQ(form.testo({Borftec::Campo::Mastro, 1}), QString());
+    EXPECT_EQ(form.testo({Borftec::Campo::Mastro, 2}), u"40"_s);
     form.togliRiga();
     form.togliRiga();
-    EXPECT_EQ(form.testo(0, Borftec::Campo::Mastro), u"40"_s);
+    EXPECT_EQ(form.testo({Borftec::Campo::Mastro, 0}), u"40"_s);
 }
 
 TEST_F(MovimentoTest, UnMovimentoSostituitoTornaDalSuoLatoUnoEliminatoDaQuelloOpposto) {

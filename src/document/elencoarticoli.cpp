@@ -1,0 +1,37 @@
+#include "document/elencoarticoli.h"
+
+#include "archive/contesto.h"
+
+namespace bor {
+
+void ElencoArticoli::dimentica() {
+    m_caricata = false;
+    m_visibile = false;
+}
+
+bool ElencoArticoli::apri() {
+    if (m_contesto.archivio.leggiTot(Conta::Art).numero < 1)
+        return false;
+    if (!m_caricata) {
+        const Attesa attesa(m_contesto.operatore);
+        m_lista.carica(m_contesto.archivio, OrdineArticoli::Codice);
+        m_caricata = true;
+        m_posizione = -1;
+        ++m_edizione;
+    }
+    m_visibile = true;
+    return true;
+}
+
+int ElencoArticoli::cerca(QStringView inizio) {
+    return m_caricata ? scegli(m_lista.cerca(inizio)) : 0;
+}
+
+int ElencoArticoli::scegli(int posizione) {
+    if (!m_caricata || posizione < 0 || posizione >= m_lista.quanti())
+        return 0;
+    m_posizione = posizione;
+    return m_lista.recart(posizione);
+}
+
+} // namespace bor

@@ -1,0 +1,69 @@
+// The goods lines of a document while they are edited, with their totals always up to date. They reach the
+// document when they are handed over.
+#pragma once
+
+#include "archive/art.h"
+#include "document/documento.h"
+#include "document/totaliriga.h"
+
+namespace bor {
+
+struct Contesto;
+
+/// Rows count from 1 to 500.
+class RigheMerce {
+public:
+    /// The fields of a row, in Tab order.
+    enum class Campo { Artic, Ds, Um, Quantita, Sc1, Sc2, Prezzo, Civ };
+    /// Where an article was chosen.
+    enum class Da { Casella, Lista };
+
+    RigheMerce(Contesto& contesto, Documento& documento);
+
+    /// Takes the rows of the document anew.
+    void prendi();
+    /// Puts rows and totals into the document.
+    void riporta();
+
+    const Riga& riga(int n) const { return m_righe[static_cast<std::size_t>(n - 1)]; }
+    QString testo(int n, Campo campo) const;
+    const TotaliRighe& totali() const { return m_totali; }
+    int listino() const { return m_listino; } ///< 1 or 2
+    void cambiaListino(int listino) { m_listino = listino; }
+    bool scorporo() const { return m_documento.scorporo; }
+    void cambiaScorporo(bool acceso);
+
+    /// Any field but the article and the VAT code, which are chosen.
+    void cambia(int n, Campo campo, const QString& testo);
+    void cambiaIva(int n, int codice);
+    /// The customer's discounts, where the row has none.
+    void proponiSconti(int n);
+    /// The row keeps its texts and its price, and loses its article.
+    void sciogli(int n);
+
+    void inserisci(int n);
+    void elimina(int n);
+    void ordina();
+
+    /// Puts an article into a row and its additional text below. False when there is no such article.
+    bool metti(int n, int recart, Da da);
+    /// What the status line says of the row's article; empty for a row without one.
+    QString stato(int n);
+
+private:
+    Riga& dove(int n) { return m_righe[static_cast<std::size_t>(n - 1)]; }
+    void ricalcolaTutto();
+    void riportaPeso();
+    void cambiaPrezzo(Riga& riga, const QString& testo);
+    double prezzoListino(const Riga& riga, Da da) const;
+    void mettiTestoAggiuntivo(int n, int recart);
+
+    Contesto& m_contesto;
+    Documento& m_documento;
+    TabellaRighe m_righe;
+    TotaliRighe m_totali;
+    Art m_articolo = vuoto<Art>(); ///< the article last read
+    int m_listino = 1;
+};
+
+} // namespace bor
