@@ -111,7 +111,8 @@ void Ordinamento(benchmark::State& stato) {
     Documento documento;
     Borfte form(prova.contesto, documento, nullptr);
     form.carica();
-    const auto colonna = stato.range(0) == 9 ? 1 : static_cast<int>(stato.range(0));
+    const auto colonna =
+        stato.range(0) == 9 ? Colonna::DataRegistrazione : static_cast<Colonna>(stato.range(0));
     for (auto _ : stato) {
         stato.PauseTiming();
         form.cambiaFiltro(FiltroFatture::Tutte);

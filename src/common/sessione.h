@@ -3,6 +3,9 @@
 
 namespace bor {
 
+/// What the customer picker was opened for, and how it ended.
+enum class ModoSelezione { Nessuno, PerTestata, Scelto };
+
 struct Sessione {
     double codiceazienda = 0;
     bool testataletta = false;      ///< the head form has its data
@@ -10,7 +13,7 @@ struct Sessione {
     bool righelette = false;        ///< the line forms have their data
     bool listadaaggiornare = false; ///< the register fills itself again when it is shown next
     bool modificamovimento = false; ///< the movement editor replaces the document's movement
-    int modoselezione = 0;          ///< 7: the picker works for the head form; 99: it was closed by a choice
+    ModoSelezione modoselezione = ModoSelezione::Nessuno;
 };
 
 } // namespace bor

@@ -13,7 +13,6 @@
 #include <QStringList>
 
 #include <optional>
-#include <type_traits>
 #include <utility>
 
 namespace bor {
@@ -58,12 +57,12 @@ public:
     /// among them: `dato(&Scadenze::rate, 0, &Rata::importo)`.
     template <class T, class Parte, class... Altri>
     const auto& dato(T Parte::*primo, Altri... altri) const {
-        return datoIn(std::as_const(parte<Parte>()), primo, altri...);
+        return std::as_const(datoIn(m_documento, primo, altri...));
     }
     /// The operator typed or chose: stores it, and works out what follows from it.
     template <class Valore, class T, class Parte, class... Altri>
     void cambia(const Valore& valore, T Parte::*primo, Altri... altri) {
-        auto& dove = datoIn(parte<Parte>(), primo, altri...);
+        auto& dove = datoIn(m_documento, primo, altri...);
         dove = valore;
         cambiato(&dove);
     }
@@ -99,15 +98,6 @@ public:
     std::optional<PostoTea> prendiFuoco();
 
 private:
-    template <class Parte>
-    Parte& parte() const {
-        if constexpr (std::is_same_v<Parte, Estremi>)
-            return m_documento.estremi;
-        else if constexpr (std::is_same_v<Parte, Scadenze>)
-            return m_documento.scadenze;
-        else if constexpr (std::is_same_v<Parte, Prospetti>)
-            return m_documento.prospetti;
-    }
     void cambiato(const void* dato);
     bool nuovo() const { return m_documento.recordfattura == 0; }
     void apri();

@@ -36,8 +36,8 @@ Borftem::Borftem(Contesto& contesto, Documento& documento) : m_contesto(contesto
 
 void Borftem::attiva() {
     Sessione& sessione = m_contesto.sessione;
-    if (sessione.modoselezione == 99) {
-        sessione.modoselezione = 0;
+    if (sessione.modoselezione == ModoSelezione::Scelto) {
+        sessione.modoselezione = ModoSelezione::Nessuno;
         cerca();
         return;
     }
@@ -97,7 +97,7 @@ void Borftem::cerca() {
 }
 
 void Borftem::lista() {
-    m_contesto.sessione.modoselezione = 7;
+    m_contesto.sessione.modoselezione = ModoSelezione::PerTestata;
     m_contesto.navigatore.mostra(Schermo::Borsel);
 }
 

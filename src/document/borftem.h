@@ -8,7 +8,6 @@
 
 #include <QStringList>
 
-#include <type_traits>
 #include <utility>
 
 namespace bor {
@@ -55,11 +54,11 @@ public:
     /// `dato(&DatiCliente::sede, &SedeTesti::cap)`.
     template <class T, class Parte, class... Altri>
     const auto& dato(T Parte::*primo, Altri... altri) const {
-        return datoIn(std::as_const(parte<Parte>()), primo, altri...);
+        return std::as_const(datoIn(m_documento, primo, altri...));
     }
     template <class Valore, class T, class Parte, class... Altri>
     void cambia(const Valore& valore, T Parte::*primo, Altri... altri) {
-        datoIn(parte<Parte>(), primo, altri...) = valore;
+        datoIn(m_documento, primo, altri...) = valore;
     }
 
     QStringList pagamenti() const;
@@ -70,15 +69,6 @@ public:
     QStringList regimi() const;
 
 private:
-    template <class Parte>
-    Parte& parte() const {
-        if constexpr (std::is_same_v<Parte, DatiCliente>)
-            return m_documento.testata.cliente;
-        else if constexpr (std::is_same_v<Parte, Trasporto>)
-            return m_documento.testata.trasporto;
-        else if constexpr (std::is_same_v<Parte, Pratica>)
-            return m_documento.testata.pratica;
-    }
     void mostraCliente();
     void prendi(int record);
     bool puoProseguire() const { return m_documento.cliente.eliminato == 0 && m_recordcorrente > 0; }

@@ -1,10 +1,29 @@
 // How a box on screen names its value in the document: by the members that lead to it, never by an address.
 #pragma once
 
+#include "document/documento.h"
+
 #include <cstddef>
 #include <type_traits>
 
 namespace bor {
+
+/// The part of a document that boxes edit.
+template <class Parte>
+Parte& parteDi(Documento& documento) {
+    if constexpr (std::is_same_v<Parte, Estremi>)
+        return documento.estremi;
+    else if constexpr (std::is_same_v<Parte, Scadenze>)
+        return documento.scadenze;
+    else if constexpr (std::is_same_v<Parte, Prospetti>)
+        return documento.prospetti;
+    else if constexpr (std::is_same_v<Parte, DatiCliente>)
+        return documento.testata.cliente;
+    else if constexpr (std::is_same_v<Parte, Trasporto>)
+        return documento.testata.trasporto;
+    else if constexpr (std::is_same_v<Parte, Pratica>)
+        return documento.testata.pratica;
+}
 
 template <class Qui>
 Qui& datoIn(Qui& qui) {
@@ -19,6 +38,12 @@ auto& datoIn(Qui& qui, Passo passo, Altri... altri) {
         return datoIn(qui.*passo, altri...);
     else
         return datoIn(qui[static_cast<std::size_t>(passo)], altri...);
+}
+
+/// The same from a document; the first member is one of a part.
+template <class T, class Parte, class... Altri>
+auto& datoIn(Documento& documento, T Parte::*primo, Altri... altri) {
+    return datoIn(parteDi<Parte>(documento), primo, altri...);
 }
 
 } // namespace bor

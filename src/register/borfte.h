@@ -4,14 +4,18 @@
 
 #include "archive/contesto.h"
 #include "document/documento.h"
+#include "register/comandoriordino.h"
 #include "register/elencofatture.h"
-#include "register/riordino.h"
 
-#include <array>
 #include <functional>
 #include <optional>
 
 namespace bor {
+
+/// How many records the list scans.
+enum class Selvis { Tutte, Ultime1000, Ultime5000 };
+/// Where the list opens: at its first row or at its last.
+enum class Visua { DallaPrima, DallUltima };
 
 class Borfte {
 public:
@@ -27,81 +31,71 @@ public:
 
     void esci();
     void rileggi();
-    void scegliRiordino();
+    void scegliRiordino() { m_riordino.scegli(); }
     void riordino(TipoRiordino tipo);
     /// Starts an invoice (0) or a credit note (1).
     void nuovoDocumento(int tipo);
     void cambiaFiltro(FiltroFatture filtro);
-    /// How many records to scan: 0 all, 1 the last 1000, 2 the last 5000.
-    void cambiaSelvis(int indice);
-    /// Where the list opens: 0 at its first row, 1 at its last.
-    void cambiaVisua(int indice);
-    /// Click on the label over a column; only the columns 0, 1 and 4 sort.
-    void ordina(int colonna);
+    void cambiaSelvis(Selvis scelta);
+    void cambiaVisua(Visua scelta);
+    /// Click on the label over a column; only those of number, date and customer sort.
+    void ordina(Colonna colonna);
     /// The cell that has the operator's cursor; rows count from 0, as in `elenco()`.
-    void cellaCorrente(int riga, int colonna);
+    void cellaCorrente(int riga, Colonna colonna);
     /// Double click or Enter on a cell: its PDF, or its document.
-    void apri(int riga, int colonna);
+    void apri(int riga, Colonna colonna);
 
     const ElencoFatture& elenco() const { return m_elenco; }
     QString testo(int riga, Colonna colonna) const;
     /// Background of a cell as 0x00BBGGRR; nothing for the grid's own.
-    std::optional<int> colore(int riga, int colonna) const;
+    std::optional<int> colore(int riga, Colonna colonna) const;
     /// Rows on screen, blank filler rows included.
     int righeGriglia() const;
-    /// The row, counted from 0, that the list shows first after a fill.
-    int primaRigaVisibile() const { return m_primaRiga; }
-    /// Each goes up by one: at every fill, at every sort.
-    int riempimenti() const { return m_riempimenti; }
-    int ordinamenti() const { return m_ordinamenti; }
+    /// The row, counted from 0, that the list shows first; nothing after a sort, which leaves it where it
+    /// stands.
+    std::optional<int> primaRigaVisibile() const { return m_primaRiga; }
+    /// Grows with every fill and sort.
+    int edizione() const { return m_edizione; }
 
     FiltroFatture filtro() const { return m_filtro; }
-    int selvis() const { return m_selvis; }
-    int visua() const { return m_visua; }
-    bool sceltaRiordino() const { return m_stato == Stato::SceltaRiordino; }
-    /// A reorder is running: no command may be given.
-    bool occupato() const { return m_stato == Stato::Riordino; }
-    const QString& etichetta() const { return m_etichetta; } ///< `Label3`
-    bool etichettaVisibile() const { return m_stato != Stato::Riordino; }
-    int avanzamento() const { return m_avanzamento; }
-    /// 0 until the operator has said yes to the reorder.
-    int massimoAvanzamento() const { return m_massimoAvanzamento; }
+    /// Nothing is chosen after a stored preference that names none.
+    std::optional<Selvis> selvis() const { return m_selvis; }
+    std::optional<Visua> visua() const { return m_visua; }
+    const ComandoRiordino& statoRiordino() const { return m_riordino; }
     /// Called while a reorder runs, so that the bar is drawn.
-    void suAvanzamento(std::function<void()> funzione) { m_suAvanzamento = std::move(funzione); }
+    void suAvanzamento(std::function<void()> funzione) { m_riordino.suAvanzamento(std::move(funzione)); }
 
 private:
-    enum class Stato { Normale, SceltaRiordino, Riordino };
+    struct Cella {
+        int riga = 0;
+        Colonna colonna = Colonna::DataRegistrazione;
+
+        friend bool operator==(const Cella&, const Cella&) = default;
+    };
+    /// The one cell that a fill has coloured, and its colour.
+    struct CellaColorata {
+        Cella cella;
+        int colore;
+    };
 
     void leggiConteggio();
     void caricalista();
-    void avanza(int fatti);
     void ripristinavista();
     void salvaVista();
-    void mostraErroreRiordino(const EsitoRiordino& esito);
     bool colorata() const;
 
     Contesto& m_contesto;
     Documento& m_documento;
     std::function<bool()> m_righeInSospeso;
-    std::function<void()> m_suAvanzamento;
+    ComandoRiordino m_riordino;
     ElencoFatture m_elenco;
-    Stato m_stato = Stato::Normale;
-    QString m_etichetta = QStringLiteral("Inserisci:");
     FiltroFatture m_filtro = FiltroFatture::Tutte;
-    int m_selvis = -1; ///< -1: no option is chosen, after a stored preference that names none
-    int m_visua = -1;
+    std::optional<Selvis> m_selvis;
+    std::optional<Visua> m_visua;
     int m_numero = 0; ///< documents counted when the counter was last read
-    int m_primaRiga = 0;
-    int m_riempimenti = 0;
-    int m_ordinamenti = 0;
-    int m_avanzamento = 0;
-    int m_massimoAvanzamento = 0;
-    std::array<int, 2> m_cellaCorrente{0, 1};
-    /// The one cell that a fill has coloured, and its colour.
-    struct CellaColorata {
-        std::array<int, 2> cella;
-        int colore;
-    };
+    std::optional<int> m_primaRiga;
+    int m_edizione = 0;
+    Cella m_cellaCorrente;
     std::optional<CellaColorata> m_cellaColorata;
 };
 

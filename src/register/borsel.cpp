@@ -42,7 +42,7 @@ void Borsel::caricaclienti() {
         if (passa && m_righe.size() < massimoRighe)
             m_righe.push_back(riga);
     }
-    ++m_versione;
+    ++m_edizione;
 }
 
 /// The customers by their record number, up to the last one wanted or on file.
@@ -63,7 +63,7 @@ std::vector<Borsel::Riga> Borsel::leggiClienti(int ultimo) const {
 
 void Borsel::ordina(ColonnaCliente colonna) {
     ordinaRighe(m_righe, [this, colonna](int riga) { return testo(riga, colonna); });
-    ++m_versione;
+    ++m_edizione;
 }
 
 void Borsel::scegli(int riga) {
@@ -71,13 +71,13 @@ void Borsel::scegli(int riga) {
         return;
     m_selnome = testo(riga, ColonnaCliente::Nominativo);
     m_chiamante.cambiaNome(m_selnome.trimmed());
-    m_contesto.sessione.modoselezione = 99;
+    m_contesto.sessione.modoselezione = ModoSelezione::Scelto;
     m_contesto.navigatore.mostra(Schermo::Borftem);
 }
 
 void Borsel::esci() {
     m_chiamante.cambiaNome({});
-    m_contesto.sessione.modoselezione = 0;
+    m_contesto.sessione.modoselezione = ModoSelezione::Nessuno;
     m_contesto.navigatore.mostra(Schermo::Borftem);
 }
 

@@ -41,8 +41,8 @@ public:
     int record(int riga) const;
     /// Background of a row as 0x00BBGGRR; nothing for the grid's own.
     std::optional<int> colore(int riga) const;
-    /// Goes up at every fill and sort.
-    int versione() const { return m_versione; }
+    /// Grows with every fill and sort.
+    int edizione() const { return m_edizione; }
 
 private:
     /// What the list shows of a customer.
@@ -63,7 +63,7 @@ private:
     Borftem& m_chiamante;
     QString m_selnome;
     std::vector<Riga> m_righe;
-    int m_versione = 0;
+    int m_edizione = 0;
 };
 
 } // namespace bor

@@ -41,8 +41,10 @@ constexpr std::array<ColonnaGriglia, colonneElenco> colonne = {{
 }};
 
 /// A group of options, one of which is chosen; the buttons are named `nome(0)` and so on.
+template <class Opzione>
 QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList& didascalie, Legami& legami,
-                   const std::function<int()>& leggi, const std::function<void(int)>& scrivi) {
+                   const std::function<std::optional<Opzione>()>& leggi,
+                   const std::function<void(Opzione)>& scrivi) {
     auto* gruppo = new QGroupBox(titolo);
     auto* colonna = new QVBoxLayout(gruppo);
     colonna->setSpacing(1);
@@ -53,8 +55,9 @@ QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList
         opzione->setAccessibleName(didascalie[i]);
         bottoni->addButton(opzione, i);
         colonna->addWidget(opzione);
+        const auto quale = static_cast<Opzione>(i);
         legami.spunta(
-            opzione, [leggi, i] { return leggi() == i; }, [scrivi, i](bool) { scrivi(i); });
+            opzione, [leggi, quale] { return leggi() == quale; }, [scrivi, quale](bool) { scrivi(quale); });
     }
     colonna->addStretch();
     return gruppo;
@@ -68,7 +71,7 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
           colonne,
           {[&form] { return form.righeGriglia(); },
            [&form](int riga, int colonna) { return form.testo(riga, static_cast<Colonna>(colonna)); },
-           [&form](int riga, int colonna) { return form.colore(riga, colonna); }},
+           [&form](int riga, int colonna) { return form.colore(riga, static_cast<Colonna>(colonna)); }},
           this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
@@ -85,16 +88,16 @@ QWidget* VistaBorfte::creaOpzioni() {
     auto* barra = new QWidget;
     auto* layout = new QHBoxLayout(barra);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(opzioni(
+    layout->addWidget(opzioni<Selvis>(
         u"Registrazioni"_s, u"selvis"_s,
         {u"Visualizza tutte le registrazioni"_s, u"Visualizza solo le ultime 1000 registrazioni"_s,
          u"Visualizza solo le ultime 5000 registrazioni"_s},
-        legami, [this] { return m_form.selvis(); }, [this](int i) { m_form.cambiaSelvis(i); }));
-    layout->addWidget(opzioni(
+        legami, [this] { return m_form.selvis(); }, [this](Selvis scelta) { m_form.cambiaSelvis(scelta); }));
+    layout->addWidget(opzioni<Visua>(
         u"Posizione"_s, u"visua"_s,
         {u"Visualizza a partire dalla prima registrazione"_s,
          u"Visualizza a partire dall'ultima registrazione"_s},
-        legami, [this] { return m_form.visua(); }, [this](int i) { m_form.cambiaVisua(i); }));
+        legami, [this] { return m_form.visua(); }, [this](Visua scelta) { m_form.cambiaVisua(scelta); }));
     auto* filtro = new QGroupBox(u"Filtro"_s);
     auto* colonna = new QVBoxLayout(filtro);
     auto* lista = new QComboBox;
@@ -120,18 +123,23 @@ QWidget* VistaBorfte::creaElenco() {
     preparaElenco(m_elenco, colonne);
     connect(m_elenco, &QTableView::doubleClicked, this, [this] { apri(); });
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& cella) { m_form.cellaCorrente(cella.row(), cella.column()); });
+            [this](const QModelIndex& cella) {
+                m_form.cellaCorrente(cella.row(), static_cast<Colonna>(cella.column()));
+            });
     invio.passo(m_elenco, [this] { apri(); });
 
     auto* riquadro = new QWidget;
     auto* layout = new QVBoxLayout(riquadro);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(new BarraIntestazioni(m_elenco,
-                                            {{0, u"Riordina"_s, QKeySequence(u"Ctrl+1"_s)},
-                                             {1, u"Riordina"_s, QKeySequence(u"Ctrl+2"_s)},
-                                             {4, u"Riordina"_s, QKeySequence(u"Ctrl+3"_s)}},
-                                            [this](int i) { legami.esegui([&] { m_form.ordina(i); }); }));
+    std::vector<BarraIntestazioni::Comando> comandi;
+    for (const Colonna colonna : {Colonna::Registrazione, Colonna::DataRegistrazione, Colonna::Cliente}) {
+        const QKeySequence tasto(u"Ctrl+%1"_s.arg(comandi.size() + 1));
+        comandi.push_back({static_cast<int>(colonna), u"Riordina"_s, tasto});
+    }
+    layout->addWidget(new BarraIntestazioni(m_elenco, comandi, [this](int colonna) {
+        legami.esegui([&] { m_form.ordina(static_cast<Colonna>(colonna)); });
+    }));
     layout->addWidget(m_elenco);
     return riquadro;
 }
@@ -140,55 +148,57 @@ QWidget* VistaBorfte::creaComandi() {
     auto* barra = new QWidget;
     auto* layout = new QHBoxLayout(barra);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
-                             std::function<void()> azione, const std::function<bool()>& visibile) {
-        auto* bottone = new BottoneComando(u"bottone(%1)"_s.arg(indice), testo, icona, QKeySequence(tasto));
-        legami.comando(bottone, std::move(azione));
-        legami.visibile(bottone, visibile);
-        legami.abilitato(bottone, [this] { return !m_form.occupato(); });
-        layout->addWidget(bottone);
-    };
-    const auto sempre = [] { return true; };
-    const auto normale = [this] { return !m_form.sceltaRiordino() && !m_form.occupato(); };
-    const auto scelta = [this] { return m_form.sceltaRiordino(); };
-    comando(
-        0, u"Esci"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.esci(); }, sempre);
-    comando(
-        1, u"Aggiorna"_s, u"aggiorna"_s, u"F5"_s, [this] { m_form.rileggi(); }, sempre);
-    comando(
-        2, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.scegliRiordino(); }, normale);
-    layout->addSpacing(24);
-    auto* etichetta = new QLabel;
-    etichetta->setObjectName(u"Label3"_s);
-    legami.etichetta(etichetta, [this] { return m_form.etichetta(); });
-    legami.visibile(etichetta, [this] { return m_form.etichettaVisibile(); });
-    layout->addWidget(etichetta);
-    comando(
-        3, u"Fattura"_s, u"fattura"_s, u"F2"_s, [this] { m_form.nuovoDocumento(0); }, normale);
-    comando(
-        4, u"Nota di credito"_s, u"notacredito"_s, u"F3"_s, [this] { m_form.nuovoDocumento(1); }, normale);
-    comando(
-        5, u"Per data"_s, u"perdata"_s, u"F7"_s, [this] { m_form.riordino(TipoRiordino::PerData); }, scelta);
-    comando(
-        6, u"Per protocollo"_s, u"perprotocollo"_s, u"F8"_s,
-        [this] { m_form.riordino(TipoRiordino::PerProtocollo); }, scelta);
-    comando(
-        7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, [this] { m_form.riordino(TipoRiordino::PerNumero); },
-        scelta);
-    m_barra = new QProgressBar;
-    m_barra->setObjectName(u"srt"_s);
-    m_barra->setAccessibleName(u"Avanzamento del riordino"_s);
-    legami.visibile(m_barra, [this] { return m_form.occupato() && m_form.massimoAvanzamento() > 0; });
-    legami.altro([this] {
-        m_barra->setRange(1, std::max(m_form.massimoAvanzamento(), 1));
-        m_barra->setValue(m_form.avanzamento());
+    creaBottoni(layout);
+    auto* avanzamento = new QProgressBar;
+    avanzamento->setObjectName(u"srt"_s);
+    avanzamento->setAccessibleName(u"Avanzamento del riordino"_s);
+    const ComandoRiordino& riordino = m_form.statoRiordino();
+    legami.visibile(avanzamento, [&riordino] { return riordino.inCorso() && riordino.massimo() > 0; });
+    legami.altro([&riordino, avanzamento] {
+        avanzamento->setRange(1, std::max(riordino.massimo(), 1));
+        avanzamento->setValue(riordino.avanzamento());
     });
-    layout->addWidget(m_barra, 1);
+    layout->addWidget(avanzamento, 1);
     layout->addStretch();
     auto* scritta = new QLabel(u"Ver. N."_s + versione());
     scritta->setObjectName(u"xx_versione"_s);
     layout->addWidget(scritta, 0, Qt::AlignBottom);
     return barra;
+}
+
+void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
+    const ComandoRiordino& riordino = m_form.statoRiordino();
+    const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
+                             std::function<void()> azione, const std::function<bool()>& visibile) {
+        auto* bottone = new BottoneComando(u"bottone(%1)"_s.arg(indice), testo, icona, QKeySequence(tasto));
+        legami.comando(bottone, std::move(azione));
+        legami.visibile(bottone, visibile);
+        legami.abilitato(bottone, [&riordino] { return !riordino.inCorso(); });
+        layout->addWidget(bottone);
+    };
+    const auto sempre = [] { return true; };
+    const auto fermo = [&riordino] { return riordino.fermo(); };
+    const auto scelta = [&riordino] { return riordino.scelta(); };
+    const auto per = [this](TipoRiordino tipo) { return [this, tipo] { m_form.riordino(tipo); }; };
+    comando(
+        0, u"Esci"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.esci(); }, sempre);
+    comando(
+        1, u"Aggiorna"_s, u"aggiorna"_s, u"F5"_s, [this] { m_form.rileggi(); }, sempre);
+    comando(
+        2, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.scegliRiordino(); }, fermo);
+    layout->addSpacing(24);
+    auto* etichetta = new QLabel;
+    etichetta->setObjectName(u"Label3"_s);
+    legami.etichetta(etichetta, [&riordino] { return riordino.etichetta(); });
+    legami.visibile(etichetta, [&riordino] { return !riordino.inCorso(); });
+    layout->addWidget(etichetta);
+    comando(
+        3, u"Fattura"_s, u"fattura"_s, u"F2"_s, [this] { m_form.nuovoDocumento(0); }, fermo);
+    comando(
+        4, u"Nota di credito"_s, u"notacredito"_s, u"F3"_s, [this] { m_form.nuovoDocumento(1); }, fermo);
+    comando(5, u"Per data"_s, u"perdata"_s, u"F7"_s, per(TipoRiordino::PerData), scelta);
+    comando(6, u"Per protocollo"_s, u"perprotocollo"_s, u"F8"_s, per(TipoRiordino::PerProtocollo), scelta);
+    comando(7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, per(TipoRiordino::PerNumero), scelta);
 }
 
 void VistaBorfte::attiva() {
@@ -206,25 +216,26 @@ QString VistaBorfte::titolo() const {
 }
 
 void VistaBorfte::aggiornaElenco() {
-    const bool riempito = std::exchange(m_riempimenti, m_form.riempimenti()) != m_form.riempimenti();
-    const bool ordinato = std::exchange(m_ordinamenti, m_form.ordinamenti()) != m_form.ordinamenti();
-    if (!riempito && !ordinato)
+    if (std::exchange(m_edizione, m_form.edizione()) == m_form.edizione())
         return;
+    const std::optional<int> prima = m_form.primaRigaVisibile();
     const int vista = m_elenco->verticalScrollBar()->value();
     const int rigaCursore = m_elenco->currentIndex().row();
     m_modello->rinnova();
     // The operator's cursor goes where the list opens: to its first document, or to its last one. A sort
     // leaves it, and what is seen, in place.
     const int ultima = std::max(m_form.elenco().quante() - 1, 0);
-    const int corrente = !riempito ? std::max(rigaCursore, 0) : m_form.visua() == 1 ? ultima : 0;
+    int corrente = std::max(rigaCursore, 0);
+    if (prima)
+        corrente = m_form.visua() == Visua::DallUltima ? ultima : 0;
     m_elenco->setCurrentIndex(m_modello->index(corrente, static_cast<int>(Colonna::DataRegistrazione)));
-    m_elenco->verticalScrollBar()->setValue(riempito ? m_form.primaRigaVisibile() : vista);
+    m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));
 }
 
 void VistaBorfte::apri() {
     const QModelIndex cella = m_elenco->currentIndex();
     if (cella.isValid())
-        legami.esegui([&] { m_form.apri(cella.row(), cella.column()); });
+        legami.esegui([&] { m_form.apri(cella.row(), static_cast<Colonna>(cella.column())); });
 }
 
 } // namespace bor

@@ -3,7 +3,7 @@
 
 #include "ui/vista.h"
 
-class QProgressBar;
+class QHBoxLayout;
 class QTableView;
 
 namespace bor {
@@ -23,15 +23,14 @@ private:
     QWidget* creaOpzioni();
     QWidget* creaElenco();
     QWidget* creaComandi();
+    void creaBottoni(QHBoxLayout* layout);
     void aggiornaElenco();
     void apri();
 
     Borfte& m_form;
     ModelloGriglia* m_modello;
     QTableView* m_elenco = nullptr;
-    QProgressBar* m_barra = nullptr;
-    int m_riempimenti = -1;
-    int m_ordinamenti = 0;
+    int m_edizione = -1;
 };
 
 } // namespace bor

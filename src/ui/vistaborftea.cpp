@@ -50,6 +50,7 @@ VistaBorftea::VistaBorftea(Borftea& form, QWidget* parent) : Vista(parent), m_fo
     layout->addWidget(creaPdf(banco));
     layout->addWidget(creaComandi());
     collegaPercorso(estremi, scadenze, ricavi);
+    legami.altro([this] { seguiFuoco(); });
 }
 
 QWidget* VistaBorftea::creaProspetti(const BancoTea& banco) {
@@ -189,9 +190,8 @@ void VistaBorftea::esegui(Comando comando) {
     if (campo)
         campo->clearFocus();
     legami.esegui([&] { m_form.esegui(comando); });
-    if (campo && isVisible())
+    if (campo && isVisible() && !focusWidget())
         campo->setFocus();
-    seguiFuoco();
 }
 
 void VistaBorftea::seguiFuoco() {
@@ -223,7 +223,6 @@ QWidget* VistaBorftea::controllo(const QString& nome) const {
 void VistaBorftea::attiva() {
     m_form.attiva();
     legami.aggiorna();
-    seguiFuoco();
 }
 
 void VistaBorftea::lascia() {

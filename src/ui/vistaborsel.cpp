@@ -10,6 +10,7 @@
 #include <QTableView>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -106,9 +107,8 @@ QString VistaBorsel::titolo() const {
 }
 
 void VistaBorsel::aggiornaElenco() {
-    if (m_versione == m_form.versione())
+    if (std::exchange(m_edizione, m_form.edizione()) == m_form.edizione())
         return;
-    m_versione = m_form.versione();
     m_modello->rinnova();
     m_elenco->setCurrentIndex(m_modello->index(0, 0));
     m_elenco->scrollToTop();

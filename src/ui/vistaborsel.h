@@ -29,7 +29,7 @@ private:
     ModelloGriglia* m_modello;
     QLineEdit* m_selnome = nullptr;
     QTableView* m_elenco = nullptr;
-    int m_versione = -1;
+    int m_edizione = -1;
 };
 
 } // namespace bor

@@ -19,7 +19,7 @@ void guarda(bor::Borfte& registro) {
     for (int riga = -1; riga <= qMin(registro.righeGriglia(), 100); ++riga)
         for (int colonna = 0; colonna < bor::colonneElenco; ++colonna) {
             (void)registro.testo(riga, static_cast<bor::Colonna>(colonna));
-            (void)registro.colore(riga, colonna);
+            (void)registro.colore(riga, static_cast<bor::Colonna>(colonna));
         }
 }
 
@@ -48,12 +48,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     registro.carica();
     guarda(registro);
     for (int colonna = 0; colonna < bor::colonneElenco; ++colonna)
-        registro.ordina(colonna);
+        registro.ordina(static_cast<bor::Colonna>(colonna));
     registro.cambiaFiltro(bor::FiltroFatture::SoloPa);
     guarda(registro);
-    registro.cambiaSelvis(1);
-    registro.apri(0, static_cast<int>(bor::Colonna::Numero));
-    registro.apri(0, static_cast<int>(bor::Colonna::NomePdf));
+    registro.cambiaSelvis(bor::Selvis::Ultime1000);
+    registro.apri(0, bor::Colonna::Numero);
+    registro.apri(0, bor::Colonna::NomePdf);
     for (const auto tipo :
          {bor::TipoRiordino::PerNumero, bor::TipoRiordino::PerData, bor::TipoRiordino::PerProtocollo})
         registro.riordino(tipo);

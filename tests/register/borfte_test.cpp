@@ -124,13 +124,13 @@ TEST_F(RegistroTest, OrdinaPerRegistrazionePerDataEPerCliente) {
     aggiungi(beta, u"20150301");
     aggiungi(beta, u"        ");
     apri();
-    form().ordina(1);
+    form().ordina(Colonna::DataRegistrazione);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"2", u"1", u"3", u"4"}));
-    form().ordina(4);
+    form().ordina(Colonna::Cliente);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"3", u"4", u"1", u"2"}));
-    form().ordina(0);
+    form().ordina(Colonna::Registrazione);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"3", u"4"}));
-    form().ordina(2);
+    form().ordina(Colonna::Numero);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"3", u"4"}));
 }
 
@@ -138,16 +138,16 @@ TEST_F(RegistroTest, LaVistaPreferitaRestaNelleImpostazioni) {
     for (int i = 1; i <= 24; ++i)
         azienda.documento(documentoDi(1, QString::number(i), i, 0));
     apri();
-    EXPECT_EQ(form().selvis(), 0);
+    EXPECT_EQ(form().selvis(), Selvis::Tutte);
     EXPECT_EQ(form().primaRigaVisibile(), 0);
-    form().cambiaVisua(1);
-    form().cambiaSelvis(2);
+    form().cambiaVisua(Visua::DallUltima);
+    form().cambiaSelvis(Selvis::Ultime5000);
     // The grid keeps 26 rows with its header, of which the fourth is the first to be seen.
     EXPECT_EQ(form().primaRigaVisibile(), 3);
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.gnr")).left(2), QByteArray("\x0c\0", 2));
     apri();
-    EXPECT_EQ(form().selvis(), 2);
-    EXPECT_EQ(form().visua(), 1);
+    EXPECT_EQ(form().selvis(), Selvis::Ultime5000);
+    EXPECT_EQ(form().visua(), Visua::DallUltima);
 }
 
 TEST_F(RegistroTest, ApreDocumentiEPdf) {
@@ -160,16 +160,16 @@ TEST_F(RegistroTest, ApreDocumentiEPdf) {
     azienda.documento(eliminata);
     apri();
     prova().sistema.esitoApri = 2;
-    form().apri(0, 7);
+    form().apri(0, Colonna::Pdf);
     ASSERT_EQ(prova().sistema.aperti.size(), 1);
     EXPECT_TRUE(prova().sistema.aperti[0].endsWith(QStringLiteral("/suprok/PDF/FTR1.pdf")));
     EXPECT_EQ(prova().operatore.messaggi.back().testo,
               QStringLiteral("Si è verificato l'errore 2 - File PDF non trovato"));
-    form().apri(1, 4);
+    form().apri(1, Colonna::Cliente);
     EXPECT_EQ(prova().operatore.messaggi.back().testo, QStringLiteral("Fattura annullata"));
-    form().apri(20, 4);
+    form().apri(20, Colonna::Cliente);
     EXPECT_TRUE(prova().navigatore.mostrati.isEmpty());
-    form().apri(0, 4);
+    form().apri(0, Colonna::Cliente);
     EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftea});
     EXPECT_EQ(documento.recordfattura, 1);
     EXPECT_EQ(documento.recordcliente, cliente);
@@ -203,13 +203,13 @@ TEST_F(RegistroTest, UscireChiedeSoloConRigheNonRegistrate) {
 TEST_F(RegistroTest, IColoriSonoQuelliDelleImpostazioni) {
     azienda.documento(documentoDi(1, QStringLiteral("1"), 1, 0));
     apri();
-    EXPECT_EQ(form().colore(0, 3), 16777215);
-    EXPECT_EQ(form().colore(1, 3), 16579315);
+    EXPECT_EQ(form().colore(0, Colonna::DataDocumento), 16777215);
+    EXPECT_EQ(form().colore(1, Colonna::DataDocumento), 16579315);
     prova().impostazioni.gnr.listacolorata.set(u"0");
-    form().cellaCorrente(0, 2);
+    form().cellaCorrente(0, Colonna::Numero);
     form().rileggi();
-    EXPECT_EQ(form().colore(0, 2), 0xFCFAF3);
-    EXPECT_EQ(form().colore(0, 3), std::nullopt);
+    EXPECT_EQ(form().colore(0, Colonna::Numero), 0xFCFAF3);
+    EXPECT_EQ(form().colore(0, Colonna::DataDocumento), std::nullopt);
 }
 
 } // namespace

@@ -57,17 +57,17 @@ TEST_F(Picker, ScegliERiportaIlNome) {
     cliente(u"Alfa"_s, {}, {});
     const int beta = cliente(u"Beta"_s, {}, {});
     nomi(u"bet"_s);
-    EXPECT_EQ(contesto.sessione.modoselezione, 7);
+    EXPECT_EQ(contesto.sessione.modoselezione, ModoSelezione::PerTestata);
     form.scegli(1);
-    EXPECT_EQ(contesto.sessione.modoselezione, 7);
+    EXPECT_EQ(contesto.sessione.modoselezione, ModoSelezione::PerTestata);
     form.scegli(0);
-    EXPECT_EQ(contesto.sessione.modoselezione, 99);
+    EXPECT_EQ(contesto.sessione.modoselezione, ModoSelezione::Scelto);
     testata.attiva();
-    EXPECT_EQ(contesto.sessione.modoselezione, 0);
+    EXPECT_EQ(contesto.sessione.modoselezione, ModoSelezione::Nessuno);
     EXPECT_EQ(testata.recordCorrente(), beta);
     nomi(u"alf"_s);
     form.esci();
-    EXPECT_EQ(contesto.sessione.modoselezione, 0);
+    EXPECT_EQ(contesto.sessione.modoselezione, ModoSelezione::Nessuno);
     EXPECT_EQ(testata.nome(), u"");
     EXPECT_EQ(contesto.navigatore.mostrati,
               (QList{Schermo::Borsel, Schermo::Borftem, Schermo::Borsel, Schermo::Borftem}));
@@ -87,7 +87,7 @@ TEST_F(Picker, IndiceGuasto) {
     EXPECT_EQ(form.record(1), 32767);
     form.scegli(0);
     form.scegli(40000);
-    EXPECT_EQ(contesto.sessione.modoselezione, 7);
+    EXPECT_EQ(contesto.sessione.modoselezione, ModoSelezione::PerTestata);
     troppi.numero = -1;
     contesto.archivio.scriviTot(Conta::Cli, troppi);
     EXPECT_EQ(nomi({}).size(), 0);

@@ -75,12 +75,12 @@ TEST_F(RiordinoTest, UnRifiutoNonToccaNullaERiportaIBottoni) {
     Borfte form(prova.contesto, documento, {});
     form.carica();
     form.scegliRiordino();
-    EXPECT_EQ(form.etichetta(), QStringLiteral("Seleziona il tipo di riordino da eseguire"));
-    form.apri(0, 1);
+    EXPECT_EQ(form.statoRiordino().etichetta(), QStringLiteral("Seleziona il tipo di riordino da eseguire"));
+    form.apri(0, Colonna::DataRegistrazione);
     EXPECT_TRUE(prova.operatore.messaggi.isEmpty()) << "no document opens while the choice is pending";
     form.riordino(TipoRiordino::PerData);
-    EXPECT_FALSE(form.sceltaRiordino());
-    EXPECT_EQ(form.etichetta(), QStringLiteral("Inserisci"));
+    EXPECT_FALSE(form.statoRiordino().scelta());
+    EXPECT_EQ(form.statoRiordino().etichetta(), QStringLiteral("Inserisci"));
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), fte);
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.tot")), tot);
 }
