@@ -62,7 +62,7 @@ void Pavimento_SommaDi500Righe(benchmark::State& stato) {
 void TotaliDi500Righe(benchmark::State& stato) {
     const TabellaRighe righe = righePiene();
     const ContestoDiProva prova(grande());
-    const Valuta valuta = prova.impostazioni.valuta();
+    const Valuta valuta = prova.impostazioni.valuta;
     for (auto _ : stato)
         benchmark::DoNotOptimize(ricalcola(righe, false, prova.tabelle, valuta));
 }

@@ -61,8 +61,6 @@ struct Cli {
     QString coordinate() const { return banca1.text() + abi.text() + cab.text() + contocorrente.text(); }
     /// Position of the payment type in its list, from 0; -1 when it names none of the 60.
     int posizionePagamento() const { return pagamento >= 1 && pagamento <= 60 ? pagamento - 1 : -1; }
-    /// The forced VAT code, 0 for none.
-    int ivaForzata() const { return regimeiva >= 1 && regimeiva <= 24 ? int{regimeiva} : 0; }
 };
 static_assert(sizeof(Cli) == 752 && disposizioneDiFile<Cli>);
 BOR_POSTO(Cli, amministrazione, 165);

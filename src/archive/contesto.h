@@ -24,7 +24,7 @@ struct Contesto {
     Navigatore& navigatore;
     Timbro& timbro;
 
-    Valuta valuta() const { return impostazioni.valuta(); }
+    const Valuta& valuta() const { return impostazioni.valuta; }
 };
 
 } // namespace bor

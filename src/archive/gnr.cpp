@@ -1,8 +1,13 @@
 #include "archive/gnr.h"
 
+#include "archive/tabelle.h"
 #include "common/numeri.h"
 
 namespace bor {
+
+int Gnr::codiceIvaRighe() const {
+    return valoreIntero(righemodulo.text());
+}
 
 Gnr gnrPredefinito() {
     Gnr gnr = vuoto<Gnr>();
@@ -24,8 +29,9 @@ bool migraGnr(Gnr& gnr) {
 }
 
 bool riparaRighemodulo(Gnr& gnr) {
+    constexpr int ultimoCodice = 2 * righeIva; // taxed and exempt
     const double codice = valore(gnr.righemodulo.text());
-    if (codice >= 1 && codice <= 24)
+    if (codice >= 1 && codice <= ultimoCodice)
         return false;
     gnr.righemodulo.set(u"01");
     return true;

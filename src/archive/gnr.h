@@ -26,6 +26,12 @@ struct Gnr {
     Text<3> gnrx3;
     Text<90> riservagnr;
 
+    bool riempiDopoSalvataggio() const { return aggiornalista.text() == u"1"; }
+    bool colora() const { return listacolorata.text() == u"1"; }
+    bool annoNelNumero() const { return annonumero.text() == u"1"; }
+    bool pesoInTestata() const { return pesoautomatico == 1; }
+    int codiceIvaRighe() const; ///< of `righemodulo`
+
     static constexpr double colorePari = 16579315;
     static constexpr double coloreDispari = 16777215;
 };

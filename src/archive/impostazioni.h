@@ -1,4 +1,4 @@
-// The settings of a run: company heading, currency, and the general settings record.
+// The settings of a run: currency, switches, and the general settings record.
 #pragma once
 
 #include "archive/gnr.h"
@@ -7,35 +7,14 @@
 #include <QString>
 #include <QStringList>
 
-#include <array>
-
 namespace bor {
 
 class Archivio;
 
-/// A font and further values of one row of `borlano.tbl`.
-struct RigaStampa {
-    std::array<int, 5> misure{};
-    QString carattere = QStringLiteral("Arial");
-    double dimensione = 9;
-    int stile1 = 0;
-    int stile2 = 0;
-    double valore = 0;
-    int colore = 0;
-    double altezza = 0;
-    int intero = 0;
-    double reale = 0;
-};
-
 struct Impostazioni {
-    std::array<QString, 4> datilinea; ///< 1 to 3: first lines of `borlano.int`, the company's name first
-    std::array<QString, 21> eur;      ///< 1 to 20: currency and document switches
-    std::array<RigaStampa, 31>
-        tabellastampa; ///< `borlano.tbl`, held complete for the suite; no screen here uses it
+    Valuta valuta;
+    bool generaPdf = false; ///< a printed document is offered as PDF and by e-mail
     Gnr gnr = gnrPredefinito();
-
-    /// The currency switch as the rounding and text rules need it.
-    Valuta valuta() const;
 };
 
 /// Reads all settings of the company. Where it has no `gnr` record of its own, one is taken from the suite's

@@ -1,6 +1,8 @@
 // The tables of a company that the document screens read: `borlano.tab`, `borlano.tpr` and `borlano.trb`.
 #pragma once
 
+#include "common/serie.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,28 +12,59 @@ namespace bor {
 
 class Archivio;
 
-template <std::size_t Righe, std::size_t Colonne>
-using TabellaTesti = std::array<std::array<QString, Colonne>, Righe>;
+/// A document has twelve VAT rows, taxed and exempt; the tables go on to 16.
+inline constexpr int righeIva = 12;
 
-/// `borlano.tab`, read once for everybody. Rows are indexed by their own numbers: 1 to the last, and 0 where
-/// the file has a row 0. Rows that the file lacks are empty.
+/// What a VAT row charges, in percent, as text.
+struct RigaAliquota {
+    QString aliquota;
+    QString ritenuta;     ///< withholding, "R.A."
+    QString contributoci; ///< contribution without VAT, "C.I."
+    QString contributocp; ///< contribution of the professional's fund, "C.P."
+};
+
+/// Why an exempt row bears no tax.
+struct RigaEsenzione {
+    QString riferimento; ///< legal reference
+    QString testo;       ///< description, and behind its 100th character the digit of the nature
+
+    /// The first 100 characters, trimmed.
+    QString descrizione() const;
+    /// What follows them, as a number: the nature counted from 0. 0 where nothing follows.
+    double natura() const;
+};
+
+struct TipoPagamento {
+    QString descrizione;
+    QString codice; ///< read by position: `codicePagamento`, `regoleScadenza`
+
+    /// How it is paid, for the electronic invoice: 0 bank receipt, 1 transfer, 2 cash, 3 debit, else cheque.
+    int modalita() const;
+};
+
+/// A row of the transport lists, each of which shows one of its texts.
+struct RigaTrasporto {
+    QString causale;
+    QString aspetto;
+    std::array<QString, 3> vettore; ///< name and address of the carrier
+    QString codici;                 ///< the carrier's fiscal codes by position, after an asterisk
+};
+
+/// `borlano.tab`, read once for everybody. Rows are indexed by their own numbers; those that the file lacks
+/// are empty.
 struct Tabelle {
-    TabellaTesti<17, 4> aliquote; ///< VAT code 1 to 16: rate, "R.A.", "C.I.", "C.P." in percent
-    TabellaTesti<17, 3> blocco2;  ///< of other modules
-    TabellaTesti<17, 2>
-        esenzioni;               ///< exempt code 1 to 16: legal reference, description; row 0 see `regimeiva`
-    TabellaTesti<17, 2> tipiiva; ///< VAT kinds, rows 0 to 16: the integrated invoice reads column 1
-    TabellaTesti<61, 2> tipopagamenti; ///< payment types 1 to 60: description, code by position
-    TabellaTesti<21, 2> contabili;     ///< accounting settings 1 to 20
-    std::array<QString, 101> ricavi;   ///< revenue items 1 to 100
-    std::array<QString, 41> blocco8;   ///< of other modules
-    TabellaTesti<31, 5> blocco9;       ///< of other modules
-    TabellaTesti<41, 6> vettori; ///< transport rows 1 to 40: cause, appearance, carrier's three lines, codes
+    Serie<RigaAliquota, 1, 16> aliquote;
+    Serie<RigaEsenzione, 0, 16> esenzioni; ///< row 0 see `regimeiva`
+    Serie<QString, 0, 16> tipiiva; ///< VAT kinds: a mark for each VAT row, read by the integrated invoice
+    Serie<TipoPagamento, 1, 60> tipopagamenti;
+    Serie<QString, 1, 20> contabili; ///< accounting settings, read by position
+    Serie<QString, 1, 100> ricavi;   ///< revenue items
+    Serie<RigaTrasporto, 1, 40> vettori;
 
-    /// VAT rate of a code from 1 to 16; 0 for any other.
-    double aliquota(int codice) const;
-    /// Withholding rate bound to a VAT code from 1 to 16; 0 for any other.
-    double ritenuta(int codice) const;
+    /// VAT rate of a row of the table; 0 for any other.
+    double aliquota(int riga) const;
+    /// Withholding rate of a row of the table; 0 for any other.
+    double ritenuta(int riga) const;
     /// VAT regime digit of the company: 0 when deferred VAT is not allowed.
     int regimeiva() const;
 };

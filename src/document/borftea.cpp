@@ -95,12 +95,12 @@ QStringList Borftea::voci(Lista lista) const {
     QStringList testi;
     switch (lista) {
     case Lista::Pagamenti:
-        for (std::size_t r = 1; r < m_contesto.tabelle.tipopagamenti.size(); ++r)
-            testi.append(m_contesto.tabelle.tipopagamenti[r][0].trimmed());
+        for (const TipoPagamento& tipo : m_contesto.tabelle.tipopagamenti)
+            testi.append(tipo.descrizione.trimmed());
         return testi;
     case Lista::Ricavi:
-        for (std::size_t r = 1; r < m_contesto.tabelle.ricavi.size(); ++r)
-            testi.append(m_contesto.tabelle.ricavi[r].trimmed());
+        for (const QString& ricavo : m_contesto.tabelle.ricavi)
+            testi.append(ricavo.trimmed());
         return testi;
     case Lista::Tributi:
         return leggiTributi(m_contesto.archivio);

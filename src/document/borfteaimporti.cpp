@@ -11,16 +11,16 @@ using namespace Qt::StringLiterals;
 namespace bor {
 
 QString Borftea::etichettaIva(int linea) const {
-    const auto riga = static_cast<std::size_t>(m_finestra.riga(linea));
-    const QString libera = m_contesto.tabelle.esenzioni[riga][1].trimmed();
+    const int riga = m_finestra.riga(linea);
+    const QString libera = m_contesto.tabelle.esenzioni[riga].testo.trimmed();
     if (libera.size() > 1)
         return libera;
-    const QString aliquota = m_contesto.tabelle.aliquote[riga][0].trimmed();
+    const QString aliquota = m_contesto.tabelle.aliquote[riga].aliquota.trimmed();
     return aliquota.isEmpty() ? u"Non definito"_s : u"Aliquota iva "_s + aliquota + u'%';
 }
 
 QString Borftea::etichettaEsente(int linea) const {
-    return m_contesto.tabelle.esenzioni[static_cast<std::size_t>(m_finestra.riga(linea))][0].trimmed();
+    return m_contesto.tabelle.esenzioni[m_finestra.riga(linea)].riferimento.trimmed();
 }
 
 QString Borftea::importo(int linea, VoceIva voce) const {

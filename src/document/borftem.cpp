@@ -9,24 +9,24 @@ namespace bor {
 
 namespace {
 
-constexpr std::size_t righeRegime = 12;
-
-/// One column of a table whose rows count from 1, as the items of a list.
-template <std::size_t Righe, std::size_t Colonne>
-QStringList colonna(const TabellaTesti<Righe, Colonne>& tabella, std::size_t quale) {
+/// A text of each row of a table, as the items of a list.
+template <class Tabella, class Testo>
+QStringList voci(const Tabella& tabella, Testo testo) {
     QStringList testi;
-    for (std::size_t riga = 1; riga < Righe; ++riga)
-        testi.append(tabella[riga][quale].trimmed());
+    for (const auto& riga : tabella)
+        testi.append(testo(riga).trimmed());
     return testi;
 }
 
-QString testoRegime(const std::array<QString, 4>& aliquota) {
-    QString testo = u"Iva"_s + aliquota[0] + u'%';
-    constexpr std::array<QStringView, 4> sigle = {u"", u"R.A.", u"C.I.", u"C.P."};
-    for (std::size_t i = 1; i < sigle.size(); ++i) {
-        if (valore(aliquota[i]) != 0)
-            testo.append(u" - "_s).append(sigle[i]).append(aliquota[i]).append(u'%');
-    }
+QString testoRegime(const RigaAliquota& riga) {
+    QString testo = u"Iva"_s + riga.aliquota + u'%';
+    const auto aggiungi = [&testo](QStringView sigla, const QString& percento) {
+        if (valore(percento) != 0)
+            testo.append(u" - "_s).append(sigla).append(percento).append(u'%');
+    };
+    aggiungi(u"R.A.", riga.ritenuta);
+    aggiungi(u"C.I.", riga.contributoci);
+    aggiungi(u"C.P.", riga.contributocp);
     return testo;
 }
 
@@ -107,11 +107,10 @@ void Borftem::cambiaVettore(int posizione) {
     // rows, and offices have filled their tables for it.
     const int riga = m_documento.testata.trasporto.causale + 1;
     const auto& vettori = m_contesto.tabelle.vettori;
-    if (riga < 1 || riga >= std::ssize(vettori))
+    if (!vettori.contiene(riga))
         return;
-    constexpr std::size_t primaColonna = 2;
     for (std::size_t k = 0; k < m_documento.testata.cliente.vettore.size(); ++k) {
-        const QString testo = vettori[static_cast<std::size_t>(riga)][primaColonna + k].trimmed();
+        const QString testo = vettori[riga].vettore[k].trimmed();
         if (testo != u"*")
             m_documento.testata.cliente.vettore[k] = testo;
     }
@@ -138,24 +137,24 @@ void Borftem::lascia() {
 }
 
 QStringList Borftem::pagamenti() const {
-    return colonna(m_contesto.tabelle.tipopagamenti, 0);
+    return voci(m_contesto.tabelle.tipopagamenti, [](const TipoPagamento& t) { return t.descrizione; });
 }
 
 QStringList Borftem::causali() const {
-    return colonna(m_contesto.tabelle.vettori, 0);
+    return voci(m_contesto.tabelle.vettori, [](const RigaTrasporto& r) { return r.causale; });
 }
 
 QStringList Borftem::aspetti() const {
-    return colonna(m_contesto.tabelle.vettori, 1);
+    return voci(m_contesto.tabelle.vettori, [](const RigaTrasporto& r) { return r.aspetto; });
 }
 
 QStringList Borftem::vettori() const {
-    return colonna(m_contesto.tabelle.vettori, 2);
+    return voci(m_contesto.tabelle.vettori, [](const RigaTrasporto& r) { return r.vettore[0]; });
 }
 
 QStringList Borftem::regimi() const {
     QStringList testi;
-    for (std::size_t riga = 1; riga <= righeRegime; ++riga)
+    for (int riga = 1; riga <= righeIva; ++riga)
         testi.append(testoRegime(m_contesto.tabelle.aliquote[riga]));
     return testi;
 }

@@ -12,10 +12,11 @@ namespace bor {
 
 namespace {
 
-constexpr int codiciIva = 24;
-
-QString codiceIva(int codice) {
-    return zeriDavanti(QString::number(codice), 2);
+QString vocetassata(int riga, const RigaAliquota& r) {
+    QString voce = CodiceIva(riga).testo() + u" Iva "_s + r.aliquota.trimmed() + u'%';
+    if (valore(r.ritenuta) != 0.0)
+        voce += u" - Rit.Acconto "_s + r.ritenuta.trimmed() + u'%';
+    return voce;
 }
 
 } // namespace
@@ -83,23 +84,17 @@ QString Borftex::totale(Totale quale) const {
 QStringList Borftex::vociIva() const {
     const Tabelle& tabelle = m_contesto.tabelle;
     QStringList voci;
-    for (std::size_t i = 1; i <= codiciIva / 2; ++i) {
-        const auto& riga = tabelle.aliquote[i];
-        QString voce = codiceIva(static_cast<int>(i)) + u" Iva "_s + riga[0].trimmed() + u'%';
-        if (valore(riga[1]) != 0.0)
-            voce += u" - Rit.Acconto "_s + riga[1].trimmed() + u'%';
-        voci.append(voce);
-    }
-    for (std::size_t i = 1; i <= codiciIva / 2; ++i)
-        voci.append(codiceIva(static_cast<int>(i) + codiciIva / 2) + u' ' +
-                    tabelle.esenzioni[i][1].trimmed());
+    for (int i = 1; i <= righeIva; ++i)
+        voci.append(vocetassata(i, tabelle.aliquote[i]));
+    for (int i = 1; i <= righeIva; ++i)
+        voci.append(CodiceIva::diEsente(i).testo() + u' ' + tabelle.esenzioni[i].testo.trimmed());
     return voci;
 }
 
 std::optional<int> Borftex::listaIva() const {
     if (!m_listaIva)
         return std::nullopt;
-    return std::clamp(m_righe.riga(rigaFuoco()).iva, 1, codiciIva) - 1;
+    return std::clamp(m_righe.riga(rigaFuoco()).iva.numero(), 1, CodiceIva::ultimo) - 1;
 }
 
 bool Borftex::opzione(Opzione quale) const {

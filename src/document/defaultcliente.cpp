@@ -15,4 +15,9 @@ void prendiDefaults(Documento& documento, const Contesto& contesto) {
     documento.scadenze.provaliq = cercaagente(contesto.archivio, cliente.agente);
 }
 
+CodiceIva ivaForzata(const Cli& cliente) {
+    const CodiceIva codice(cliente.regimeiva);
+    return codice.valido() ? codice : CodiceIva();
+}
+
 } // namespace bor

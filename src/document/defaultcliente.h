@@ -11,4 +11,7 @@ struct Contesto;
 /// and the agent's rate, all from `documento.cliente`.
 void prendiDefaults(Documento& documento, const Contesto& contesto);
 
+/// The VAT code that a customer forces on all his goods lines; none unless his record names one of the 24.
+CodiceIva ivaForzata(const Cli& cliente);
+
 } // namespace bor

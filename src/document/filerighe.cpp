@@ -13,9 +13,7 @@ namespace bor {
 namespace {
 
 constexpr int vociElenco = 40; ///< of the lists of causes and appearances
-constexpr int regimi = 12;     ///< of a fee bill
 constexpr int massimoIntero = 32767;
-constexpr int ultimoCodiceIva = 24;
 
 /// The values of a file in their order.
 class Scrittura {
@@ -79,8 +77,8 @@ void scriviMerce(Scrittura& file, const Documento& documento) {
         file.numero(riga.recart);
         for (const QString& testo : {riga.codice2, riga.codice, riga.descrizione, riga.um})
             file.testo(testo);
-        for (const double x :
-             {double(riga.sconto1), double(riga.sconto2), double(riga.iva), riga.quantita, riga.prezzo})
+        for (const double x : {double(riga.sconto1), double(riga.sconto2), double(riga.iva.numero()),
+                               riga.quantita, riga.prezzo})
             file.numero(x);
     }
 }
@@ -100,7 +98,7 @@ void leggiMerce(Lettura& file, Documento& documento) {
             *testo = file.tagliato();
         riga.sconto1 = file.intero(-massimoIntero, massimoIntero, 0);
         riga.sconto2 = file.intero(-massimoIntero, massimoIntero, 0);
-        riga.iva = file.intero(0, ultimoCodiceIva, 0);
+        riga.iva = file.intero(0, CodiceIva::ultimo, 0);
         riga.quantita = file.importo();
         riga.prezzo = file.importo();
     }
@@ -126,9 +124,9 @@ void leggiParcella(Lettura& file, Documento& documento) {
     Pratica& p = documento.testata.pratica;
     for (QString& testo : p.descrizione)
         testo = file.testo();
-    p.ivaono = file.intero(0, regimi - 1, 0);
-    p.ivaspe = file.intero(0, regimi - 1, 0);
-    p.ivaant = file.intero(0, regimi - 1, 0);
+    p.ivaono = file.intero(0, righeIva - 1, 0);
+    p.ivaspe = file.intero(0, righeIva - 1, 0);
+    p.ivaant = file.intero(0, righeIva - 1, 0);
     file.salta(lineeEstremi);
     for (Rigap& riga : documento.dddp) {
         riga.data = file.tagliato();

@@ -18,9 +18,8 @@ Integrata cercaIntegrata(const CoppiaFte& coppia, const Tabelle& tabelle) {
             posizione = r;
     }
     const auto& tipi = tabelle.tipiiva;
-    const double ultima = static_cast<double>(tipi.size() - 1);
-    const QString& tipo = tipi[static_cast<std::size_t>(std::min(marca, ultima))][1];
-    const QString segno = pezzo(tipo, posizione, 1);
+    const int tipo = static_cast<int>(std::min<double>(marca, tipi.ultimo));
+    const QString segno = pezzo(tipi[tipo], posizione, 1);
     if (segno == u"1")
         return Integrata::ReverseCharge;
     return segno == u"2" ? Integrata::Intracomunitaria : Integrata::No;

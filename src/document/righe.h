@@ -1,6 +1,8 @@
 // The lines of a document: up to 500 of a goods invoice, up to 200 of a fee bill.
 #pragma once
 
+#include "document/codiceiva.h"
+
 #include <QString>
 
 #include <vector>
@@ -16,7 +18,7 @@ struct Riga {
     QString um;          ///< unit of measure
     int sconto1 = 0;     ///< discounts, whole percent
     int sconto2 = 0;
-    int iva = 0;         ///< VAT code: 0 none, 1 to 12 taxed, 13 to 24 the exempt row of the code less 12
+    CodiceIva iva;
     double quantita = 0; ///< `soloPrezzo`: the amount is the price alone
     double prezzo = 0;   ///< of one unit
     double peso = 0;     ///< of one unit; not on file

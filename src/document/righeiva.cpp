@@ -9,11 +9,11 @@ auto* cella(Coppia& coppia, VoceIva voce, int riga) {
     auto& fte = coppia.fte;
     auto& f2e = coppia.f2e;
     const auto i = static_cast<std::size_t>(riga - 1);
-    if (riga <= 8)
+    if (i < fte.impon.size())
         return voce == VoceIva::Imponibile ? &fte.impon[i]
                : voce == VoceIva::Imposta  ? &fte.iva[i]
                                            : &fte.esen[i];
-    const auto j = i - 8;
+    const auto j = i - fte.impon.size();
     return voce == VoceIva::Imponibile ? &f2e.impon[j]
            : voce == VoceIva::Imposta  ? &f2e.iva[j]
                                        : &f2e.esen[j];

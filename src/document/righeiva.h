@@ -2,12 +2,11 @@
 #pragma once
 
 #include "archive/archivio.h"
+#include "archive/tabelle.h"
 
 namespace bor {
 
 enum class VoceIva { Imponibile, Imposta, Esente };
-
-inline constexpr int righeIva = 12;
 
 /// Amount of row 1 to 12; 0 for any other row.
 double importoIva(const CoppiaFte& coppia, VoceIva voce, int riga);

@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "document/defaultcliente.h"
 #include "document/totali.h"
 
 #include <algorithm>
@@ -93,7 +94,7 @@ QString RigheMerce::testo(int n, Campo campo) const {
     case Campo::Prezzo:
         return testoCasella(r.prezzo);
     case Campo::Civ:
-        return r.iva == 0 ? QString() : zeriDavanti(QString::number(r.iva), 2);
+        return r.iva.testo();
     }
     return {};
 }
@@ -133,13 +134,13 @@ void RigheMerce::cambia(int n, Campo campo, const QString& testo) {
 
 void RigheMerce::cambiaPrezzo(Riga& r, const QString& testo) {
     r.prezzo = valorevirgola(testo);
-    if (r.prezzo == 0.0 || r.iva != 0)
+    if (r.prezzo == 0.0 || !r.iva.nessuno())
         return;
-    const int forzata = m_documento.cliente.ivaForzata();
-    r.iva = forzata != 0 ? forzata : valoreIntero(m_contesto.impostazioni.gnr.righemodulo.text());
+    const CodiceIva forzata = ivaForzata(m_documento.cliente);
+    r.iva = forzata.nessuno() ? CodiceIva(m_contesto.impostazioni.gnr.codiceIvaRighe()) : forzata;
 }
 
-void RigheMerce::cambiaIva(int n, int codice) {
+void RigheMerce::cambiaIva(int n, CodiceIva codice) {
     dove(n).iva = codice;
     ricalcolaTutto();
 }
@@ -188,7 +189,7 @@ void RigheMerce::elimina(int n) {
 
 void RigheMerce::ricalcolaTutto() {
     m_totali = ricalcola(m_righe, scorporo(), m_contesto.tabelle, m_contesto.valuta());
-    if (m_contesto.impostazioni.gnr.pesoautomatico == 1)
+    if (m_contesto.impostazioni.gnr.pesoInTestata())
         riportaPeso();
 }
 

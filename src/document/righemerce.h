@@ -35,7 +35,7 @@ public:
 
     /// Any field but the article and the VAT code, which are chosen.
     void cambia(int n, Campo campo, const QString& testo);
-    void cambiaIva(int n, int codice);
+    void cambiaIva(int n, CodiceIva codice);
     /// The customer's discounts, where the row has none.
     void proponiSconti(int n);
     /// The row keeps its texts and its price, and loses its article.

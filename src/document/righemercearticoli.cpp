@@ -2,6 +2,7 @@
 #include "archive/contesto.h"
 #include "common/numeri.h"
 #include "document/articoli.h"
+#include "document/defaultcliente.h"
 #include "document/righemerce.h"
 
 using namespace Qt::StringLiterals;
@@ -9,8 +10,6 @@ using namespace Qt::StringLiterals;
 namespace bor {
 
 namespace {
-
-constexpr int primoEsente = 13;
 
 QString pulito(QByteArrayView campo) {
     return puliscitesto(daCp1252(campo));
@@ -26,8 +25,8 @@ bool RigheMerce::metti(int n, int recart, Da da) {
     r.codice = pulito(m_articolo.codice.raw());
     r.descrizione = pulito(m_articolo.descrizione.raw());
     r.peso = m_articolo.peso;
-    const int forzata = m_documento.cliente.ivaForzata();
-    r.iva = forzata != 0 ? forzata : int{m_articolo.iva};
+    const CodiceIva forzata = ivaForzata(m_documento.cliente);
+    r.iva = forzata.nessuno() ? CodiceIva(m_articolo.iva) : forzata;
     r.prezzo = prezzoListino(r, da);
     r.um = pulito(m_articolo.um.raw());
     mettiTestoAggiuntivo(n, recart);
@@ -38,10 +37,10 @@ bool RigheMerce::metti(int n, int recart, Da da) {
 double RigheMerce::prezzoListino(const Riga& r, Da da) const {
     const double prezzo = m_listino == 1 ? m_articolo.listino1 : m_articolo.listino2;
     // The list goes by the article's own code, the box by the code that the customer forces on the line.
-    const int codice = da == Da::Lista ? int{m_articolo.iva} : r.iva;
-    if (!scorporo() || codice >= primoEsente)
+    const CodiceIva codice = da == Da::Lista ? CodiceIva(m_articolo.iva) : r.iva;
+    if (!scorporo() || codice.oltreTassati())
         return prezzo;
-    const double aliquota = m_contesto.tabelle.aliquota(r.iva);
+    const double aliquota = m_contesto.tabelle.aliquota(r.iva.numero());
     return m_contesto.valuta().arrotondaprezzo(prezzo * (aliquota + 100) / 100);
 }
 

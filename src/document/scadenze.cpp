@@ -10,10 +10,8 @@ namespace bor {
 
 namespace {
 
-constexpr int tipiPagamento = 60;
-
 QString codice(const Contesto& contesto, int riga) {
-    return contesto.tabelle.tipopagamenti[static_cast<std::size_t>(riga)][1].trimmed();
+    return contesto.tabelle.tipopagamenti[riga].codice.trimmed();
 }
 
 void avanza(int& mese, int& anno) {
@@ -42,8 +40,6 @@ int CodicePagamento::quante() const {
 
 CodicePagamento codicePagamento(const Contesto& contesto, int posizione) {
     CodicePagamento c;
-    if (posizione < -1 || posizione >= tipiPagamento)
-        return c;
     const QString testo = codice(contesto, posizione + 1);
     for (std::size_t k = 0; k < c.mesi.size(); ++k)
         c.mesi[k] = valoreIntero(pezzo(testo, 1 + 3 * static_cast<qsizetype>(k), 3));
@@ -88,7 +84,7 @@ QString calcscad(QDate data, int mesi, bool finemese, int giorno, const RegoleSc
 
 void calcolascadenze(Documento& documento, const Contesto& contesto) {
     const int posizione = documento.scadenze.pagamento;
-    if (posizione >= tipiPagamento)
+    if (posizione >= contesto.tabelle.tipopagamenti.ultimo)
         return;
     const CodicePagamento c = codicePagamento(contesto, posizione);
     const RegoleScadenza regole = regoleScadenza(contesto);

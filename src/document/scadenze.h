@@ -26,7 +26,7 @@ struct RegoleScadenza {
     bool dicembre = false;
 };
 
-/// Code of the payment type at a list position; -1 reads the empty row before the first.
+/// Code of the payment type at a list position; an empty one where the list has none.
 CodicePagamento codicePagamento(const Contesto& contesto, int posizione);
 RegoleScadenza regoleScadenza(const Contesto& contesto);
 

@@ -55,12 +55,11 @@ void riportaTotali(Documento& documento, const TabellaIva& iva, double base, dou
         }
     }
     for (int r = 1; r <= righeIva; ++r) {
-        const auto i = static_cast<std::size_t>(r);
         // The amounts pass through the boxes of the form, that is through their plain decimal text.
         const auto daCasella = [](double x) { return valore(testoDecimale(x)); };
-        mettiImportoIva(documento.coppia, VoceIva::Imponibile, r, daCasella(iva.imponibili[i]));
-        mettiImportoIva(documento.coppia, VoceIva::Imposta, r, daCasella(iva.imposte[i]));
-        mettiImportoIva(documento.coppia, VoceIva::Esente, r, daCasella(iva.esenti[i]));
+        mettiImportoIva(documento.coppia, VoceIva::Imponibile, r, daCasella(iva.imponibili[r]));
+        mettiImportoIva(documento.coppia, VoceIva::Imposta, r, daCasella(iva.imposte[r]));
+        mettiImportoIva(documento.coppia, VoceIva::Esente, r, daCasella(iva.esenti[r]));
     }
     ricalcolaDocumento(documento, contesto);
 }

@@ -1,6 +1,5 @@
 #include "document/totaliparcella.h"
 
-#include "archive/tabelle.h"
 #include "common/numeri.h"
 #include "common/testo.h"
 
@@ -12,7 +11,7 @@ namespace {
 
 /// Rates of one row of the VAT table.
 struct Regime {
-    std::size_t riga;
+    int riga;
     double aliquota;
     double ra;
     double ci;
@@ -20,9 +19,9 @@ struct Regime {
 };
 
 Regime regime(const Tabelle& tabelle, int posizione) {
-    const auto riga = static_cast<std::size_t>(std::clamp(posizione + 1, 1, 12));
-    const auto& celle = tabelle.aliquote[riga];
-    return {riga, valore(celle[0]), valore(celle[1]), valore(celle[2]), valore(celle[3])};
+    const int riga = std::clamp(posizione + 1, 1, righeIva);
+    const RigaAliquota& r = tabelle.aliquote[riga];
+    return {riga, valore(r.aliquota), valore(r.ritenuta), valore(r.contributoci), valore(r.contributocp)};
 }
 
 } // namespace

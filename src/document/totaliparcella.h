@@ -9,8 +9,6 @@
 
 namespace bor {
 
-struct Tabelle;
-
 struct TotaliParcella {
     double totanticipazioni = 0; ///< outside VAT
     double totspese = 0;

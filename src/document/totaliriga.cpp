@@ -1,20 +1,17 @@
 #include "document/totaliriga.h"
 
-#include "archive/tabelle.h"
 #include "common/numeri.h"
 
 namespace bor {
 
 namespace {
 
-constexpr std::size_t codici = 12;
-
 bool quantitaVera(const Riga& riga) {
     return riga.quantita != 0.0 && riga.quantita != Riga::soloPrezzo;
 }
 
 /// Takes the tax out of sums that include it.
-void scorpora(TabellaIva& iva, std::size_t i, double aliquota, const Valuta& valuta) {
+void scorpora(TabellaIva& iva, int i, double aliquota, const Valuta& valuta) {
     const double lordo = iva.imponibili[i];
     if (lordo == 0.0)
         return;
@@ -31,11 +28,8 @@ void sommaRighe(const TabellaRighe& righe, const Valuta& valuta, TotaliRighe& t)
             t.pesototale += riga.peso * riga.quantita;
         }
         const double importo = importoRiga(riga, valuta);
-        const auto codice = static_cast<std::size_t>(riga.iva < 1 || riga.iva > 24 ? 1 : riga.iva);
-        if (codice <= codici)
-            t.iva.imponibili[codice] += importo;
-        else
-            t.iva.esenti[codice - codici] += importo;
+        const CodiceIva codice = riga.iva.valido() ? riga.iva : CodiceIva(1);
+        (codice.tassato() ? t.iva.imponibili : t.iva.esenti)[codice.riga()] += importo;
     }
 }
 
@@ -54,21 +48,21 @@ TotaliRighe ricalcola(const TabellaRighe& righe, bool scorporo, const Tabelle& t
                       const Valuta& valuta) {
     TotaliRighe t;
     sommaRighe(righe, valuta, t);
-    for (std::size_t i = 1; i <= codici; ++i) {
-        const double aliquota = tabelle.aliquota(static_cast<int>(i));
+    for (int i = 1; i <= righeIva; ++i) {
+        const double aliquota = tabelle.aliquota(i);
         if (scorporo)
             scorpora(t.iva, i, aliquota, valuta);
         else
             t.iva.imposte[i] = valuta.percentualeecc(t.iva.imponibili[i], aliquota);
     }
     double imposta = 0;
-    for (std::size_t i = 1; i <= codici; ++i) {
+    for (int i = 1; i <= righeIva; ++i) {
         t.totimp += t.iva.imponibili[i] + t.iva.esenti[i];
         imposta += t.iva.imposte[i];
     }
     t.totale = t.totimp + imposta;
-    for (std::size_t i = 1; i <= codici; ++i) {
-        const double aliquota = tabelle.ritenuta(static_cast<int>(i));
+    for (int i = 1; i <= righeIva; ++i) {
+        const double aliquota = tabelle.ritenuta(i);
         if (aliquota > 0) {
             t.aliquotarit = aliquota;
             t.importorit += valuta.percentuale(t.iva.imponibili[i], aliquota);

@@ -2,20 +2,17 @@
 // electronic invoice compute it again.
 #pragma once
 
+#include "archive/tabelle.h"
 #include "common/valuta.h"
 #include "document/righe.h"
 
-#include <array>
-
 namespace bor {
 
-struct Tabelle;
-
-/// Amounts by VAT code; rows count from 1, row 0 is unused.
+/// Amounts by VAT row.
 struct TabellaIva {
-    std::array<double, 17> imponibili{};
-    std::array<double, 17> imposte{};
-    std::array<double, 17> esenti{}; ///< row i is the exempt code i + 12
+    Serie<double, 1, righeIva> imponibili;
+    Serie<double, 1, righeIva> imposte;
+    Serie<double, 1, righeIva> esenti;
 };
 
 struct TotaliRighe {

@@ -90,15 +90,11 @@ void Borftepa::proponi() {
 
 /// The payment type's code tells how it is paid; a type without one counts as bank receipts.
 void Borftepa::proponiPagamento() {
-    constexpr qsizetype posizioneModalita = 23; // in the code
-    const int riga = m_documento.scadenze.pagamento + 1;
-    const auto& tipi = m_contesto.tabelle.tipopagamenti;
-    const QString codice =
-        riga >= 0 && riga < std::ssize(tipi) ? tipi[static_cast<std::size_t>(riga)][1] : QString();
     // Bank receipt, bank transfer, cash, direct debit.
     constexpr std::array<QStringView, 4> modalita = {u"MP12", u"MP05", u"MP01", u"MP09"};
     constexpr QStringView assegno = u"MP02";
-    const auto tipo = static_cast<std::size_t>(valoreIntero(pezzo(codice, posizioneModalita, 1)));
+    const TipoPagamento& scelto = m_contesto.tabelle.tipopagamenti[m_documento.scadenze.pagamento + 1];
+    const auto tipo = static_cast<std::size_t>(scelto.modalita());
     scegliCodice(ListaFpa::Modalita, tipo < modalita.size() ? modalita[tipo] : assegno);
 }
 
@@ -140,9 +136,8 @@ bool Borftepa::dataCompleta(DataFpa data) const {
 
 QStringList Borftepa::vettori() const {
     QStringList nomi;
-    const auto& righe = m_contesto.tabelle.vettori;
-    for (std::size_t i = 1; i < righe.size(); ++i)
-        nomi.append(righe[i][2]);
+    for (const RigaTrasporto& riga : m_contesto.tabelle.vettori)
+        nomi.append(riga.vettore[0]);
     return nomi;
 }
 

@@ -9,8 +9,6 @@ namespace bor {
 
 namespace {
 
-constexpr std::size_t codiciTassati = 12;
-
 /// Widths of the fields of `righepa`.
 constexpr qsizetype larghezzaDescrizione = 60;
 constexpr qsizetype larghezzaUnita = 2;
@@ -34,12 +32,12 @@ RiepilogoFpa calcolaiva(const TabellaRighe& righepa, bool scorporo, const Tabell
                         const Valuta& valuta) {
     RiepilogoFpa r;
     r.iva = ricalcola(righepa, scorporo, tabelle, valuta).iva;
-    for (std::size_t i = 1; i <= codiciTassati; ++i) {
+    for (int i = 1; i <= righeIva; ++i) {
         double& imponibile = r.iva.imponibili[i];
         imponibile = valuta.arrotonda(imponibile);
         r.iva.imposte[i] = valuta.arrotonda(r.iva.imposte[i]);
         r.iva.esenti[i] = valuta.arrotonda(r.iva.esenti[i]);
-        const double percento = tabelle.ritenuta(static_cast<int>(i));
+        const double percento = tabelle.ritenuta(i);
         if (percento > 0 && imponibile != 0.0) {
             r.percentualeritenuta = percento;
             r.totaleritenuta += valuta.percentuale(imponibile, percento);
@@ -54,12 +52,11 @@ bool rigaInFattura(const Riga& riga) {
 }
 
 void completaCodici(TabellaRighe& righepa) {
-    const auto tassata = std::ranges::find_if(
-        righepa, [](const Riga& r) { return r.iva >= 1 && r.iva <= static_cast<int>(codiciTassati); });
+    const auto tassata = std::ranges::find_if(righepa, [](const Riga& r) { return r.iva.tassato(); });
     if (tassata == righepa.end())
         return;
     for (Riga& riga : righepa) {
-        if (riga.iva == 0 && rigaInFattura(riga))
+        if (riga.iva.nessuno() && rigaInFattura(riga))
             riga.iva = tassata->iva;
     }
 }

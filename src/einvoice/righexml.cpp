@@ -9,7 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int codiciTassati = 12;
 /// From this code up a line tells why it bears no tax. The exempt codes 13 to 16 tell neither rate nor
 /// reason; the summary counts them as exempt all the same.
 constexpr int primoConNatura = 17;
@@ -22,15 +21,15 @@ QString formato8(double x) {
     return testoFisso(x, 8);
 }
 
-void ivaRiga(ScrittoreXml& xml, int codice, const Tabelle& tabelle) {
-    if (codice >= 1 && codice <= codiciTassati) {
-        const auto& aliquota = tabelle.aliquote[static_cast<std::size_t>(codice)];
-        xml.elemento(8, "AliquotaIVA", formato2(valore(aliquota[0])));
-        if (valore(aliquota[1]) > 0)
-            xml.elemento(8, "Ritenuta", aliquota[1]);
-    } else if (codice >= primoConNatura) {
+void ivaRiga(ScrittoreXml& xml, CodiceIva codice, const Tabelle& tabelle) {
+    if (codice.tassato()) {
+        const RigaAliquota& riga = tabelle.aliquote[codice.riga()];
+        xml.elemento(8, "AliquotaIVA", formato2(valore(riga.aliquota)));
+        if (valore(riga.ritenuta) > 0)
+            xml.elemento(8, "Ritenuta", riga.ritenuta);
+    } else if (codice.numero() >= primoConNatura) {
         xml.elemento(8, "AliquotaIVA", u"00.00");
-        xml.sePresente(8, "Natura", naturaEsente(tabelle, codice - codiciTassati));
+        xml.sePresente(8, "Natura", naturaEsente(tabelle, codice.riga()));
     }
 }
 
@@ -65,26 +64,26 @@ void dettaglio(ScrittoreXml& xml, int linea, const Riga& riga, const DatiXml& da
 void riepilogo(ScrittoreXml& xml, const DatiXml& dati) {
     const TabellaIva& iva = dati.riepilogo.iva;
     const QString esigibilita = dati.documento.esigdifferita.text() == u"1" ? u"D"_s : u"I"_s;
-    for (std::size_t i = 1; i <= codiciTassati; ++i) {
+    for (int i = 1; i <= righeIva; ++i) {
         if (iva.imponibili[i] == 0.0)
             continue;
         xml.apri(6, "DatiRiepilogo");
-        xml.elemento(8, "AliquotaIVA", formato2(valore(dati.tabelle.aliquote[i][0])));
+        xml.elemento(8, "AliquotaIVA", formato2(dati.tabelle.aliquota(i)));
         xml.elemento(8, "ImponibileImporto", formato2(iva.imponibili[i]));
         xml.elemento(8, "Imposta", formato2(iva.imposte[i]));
         xml.elemento(8, "EsigibilitaIVA", esigibilita);
         xml.chiudi(4, "DatiRiepilogo"); // always stood two columns to the left of its opening
     }
-    for (std::size_t i = 1; i <= codiciTassati; ++i) {
+    for (int i = 1; i <= righeIva; ++i) {
         if (iva.esenti[i] == 0.0)
             continue;
         xml.apri(6, "DatiRiepilogo");
         xml.elemento(8, "AliquotaIVA", u"00.00");
-        xml.elemento(8, "Natura", naturaEsente(dati.tabelle, static_cast<int>(i)));
+        xml.elemento(8, "Natura", naturaEsente(dati.tabelle, i));
         xml.elemento(8, "ImponibileImporto", formato2(iva.esenti[i]));
         xml.elemento(8, "Imposta", u"0.00");
         xml.elemento(8, "EsigibilitaIVA", esigibilita);
-        xml.elemento(8, "RiferimentoNormativo", dati.tabelle.esenzioni[i][0]);
+        xml.elemento(8, "RiferimentoNormativo", dati.tabelle.esenzioni[i].riferimento);
         xml.chiudi(6, "DatiRiepilogo");
     }
 }

@@ -9,32 +9,25 @@ namespace bor {
 
 namespace {
 
-constexpr std::size_t codiciIva = 12;
-constexpr qsizetype caratteriEsenzione = 100; ///< what follows them is for the electronic invoice
-
-QString codiceIva(std::size_t codice) {
-    return zeriDavanti(QString::number(codice), 2);
-}
-
 void aggiungiRigheIva(DatiStampa& dati, const TabellaIva& iva) {
-    for (std::size_t r = 1; r <= codiciIva; ++r) {
+    for (int r = 1; r <= righeIva; ++r) {
         if (iva.imponibili[r] == 0.0 && iva.imposte[r] == 0.0)
             continue;
-        const QString aliquota = dati.tabelle.aliquote[r][0].trimmed();
-        dati.righeIva.push_back({.codice = codiceIva(r),
+        const QString aliquota = dati.tabelle.aliquote[r].aliquota.trimmed();
+        dati.righeIva.push_back({.codice = CodiceIva(r).testo(),
                                  .descrizione = u"Iva "_s + aliquota + u'%',
                                  .imponibile = dati.importo(iva.imponibili[r]),
                                  .aliquota = aliquota,
                                  .imposta = dati.importo(iva.imposte[r])});
     }
-    for (std::size_t r = 1; r <= codiciIva; ++r) {
+    for (int r = 1; r <= righeIva; ++r) {
         if (iva.esenti[r] == 0.0)
             continue;
-        const auto& [riferimento, descrizione] = dati.tabelle.esenzioni[r];
-        dati.righeIva.push_back({.codice = codiceIva(r + codiciIva),
-                                 .descrizione = descrizione.left(caratteriEsenzione).trimmed(),
+        const RigaEsenzione& esenzione = dati.tabelle.esenzioni[r];
+        dati.righeIva.push_back({.codice = CodiceIva::diEsente(r).testo(),
+                                 .descrizione = esenzione.descrizione(),
                                  .esente = dati.importo(iva.esenti[r]),
-                                 .riferimento = riferimento.trimmed()});
+                                 .riferimento = esenzione.riferimento.trimmed()});
     }
 }
 
@@ -51,7 +44,7 @@ DatiStampa datiStampa(const Documento& documento, const Contesto& contesto) {
     DatiStampa dati{.documento = documento,
                     .tabelle = contesto.tabelle,
                     .valuta = contesto.valuta(),
-                    .numeroConAnno = contesto.impostazioni.gnr.annonumero.text() == u"1",
+                    .numeroConAnno = contesto.impostazioni.gnr.annoNelNumero(),
                     .intestazione = leggiIntestazione(contesto.archivio)};
     if (documento.parcella()) {
         dati.parcella =

@@ -40,7 +40,7 @@ bool avviaStrumento(const Contesto& contesto, const ComandoPdf& comando) {
 } // namespace
 
 void generapdf(Documento& documento, const Contesto& contesto) {
-    if (valore(contesto.impostazioni.eur[6]) == 0.0 ||
+    if (!contesto.impostazioni.generaPdf ||
         !contesto.operatore.chiedi(
             u"Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?"_s, titoloAttenzione))
         return;

@@ -12,16 +12,10 @@ namespace {
 using enum Lato;
 using enum SuPagine;
 
-/// A text of the transport lists at a list position.
-QString diTrasporto(const DatiStampa& dati, int posizione, std::size_t colonna) {
-    const auto riga = static_cast<std::size_t>(posizione + 1);
-    const auto& righe = dati.tabelle.vettori;
-    return posizione >= 0 && riga < righe.size() ? righe[riga][colonna].trimmed() : QString();
-}
-
 QStringList trasporto(const DatiStampa& dati) {
     const Trasporto& t = dati.documento.testata.trasporto;
-    return {diTrasporto(dati, t.causale, 0), t.colli, t.peso, diTrasporto(dati, t.aspetto, 1)};
+    const auto& righe = dati.tabelle.vettori;
+    return {righe[t.causale + 1].causale.trimmed(), t.colli, t.peso, righe[t.aspetto + 1].aspetto.trimmed()};
 }
 
 QStringList vettore(const DatiStampa& dati) {
@@ -157,9 +151,8 @@ QString sconti(const DatiStampa& dati, int linea) {
 }
 
 QString aliquota(const DatiStampa& dati, int linea) {
-    const int iva = riga(dati, linea).iva;
-    return iva >= 1 && iva <= 12 ? dati.tabelle.aliquote[static_cast<std::size_t>(iva)][0].trimmed()
-                                 : QString();
+    const CodiceIva iva = riga(dati, linea).iva;
+    return iva.tassato() ? dati.tabelle.aliquote[iva.riga()].aliquota.trimmed() : QString();
 }
 
 constexpr std::array colonne = {

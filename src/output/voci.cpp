@@ -68,9 +68,7 @@ QStringList bancaCliente(const DatiStampa& dati) {
 }
 
 QStringList pagamento(const DatiStampa& dati) {
-    const auto riga = static_cast<std::size_t>(dati.documento.scadenze.pagamento + 1);
-    const auto& tipi = dati.tabelle.tipopagamenti;
-    return {riga >= 1 && riga < tipi.size() ? tipi[riga][0].trimmed() : QString()};
+    return {dati.tabelle.tipopagamenti[dati.documento.scadenze.pagamento + 1].descrizione.trimmed()};
 }
 
 QStringList bancaPagamento(const DatiStampa& dati) {

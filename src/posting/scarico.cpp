@@ -16,8 +16,8 @@ double prezzoNetto(const Riga& riga, bool scorporo, const Contesto& contesto) {
     double p = riga.prezzo;
     p -= valuta.percentuale(p, riga.sconto1);
     p -= valuta.percentuale(p, riga.sconto2);
-    if (scorporo && riga.iva < 13)
-        p = valuta.arrotondaprezzo(p / ((contesto.tabelle.aliquota(riga.iva) + 100) / 100));
+    if (scorporo && !riga.iva.oltreTassati())
+        p = valuta.arrotondaprezzo(p / ((contesto.tabelle.aliquota(riga.iva.numero()) + 100) / 100));
     return p;
 }
 

@@ -32,10 +32,10 @@ struct Conti {
     ContoTesti esenti;
 };
 
-/// The first column of an entry of the accounting settings.
-const QString& impostazione(const Contesto& contesto, std::size_t voce) {
-    return contesto.tabelle.contabili[voce][0];
-}
+/// Rows of the accounting settings.
+constexpr int contoRitenute = 5;
+constexpr int contoIvaDifferita = 8;
+constexpr int descrizioniMovimento = 15;
 
 Conti contiDi(const Documento& documento, const Contesto& contesto) {
     const DatiCliente& testata = documento.testata.cliente;
@@ -46,10 +46,10 @@ Conti contiDi(const Documento& documento, const Contesto& contesto) {
         c.iva = ContoTesti::da(documento.cliente.contoiva.text());
         c.esenti = ContoTesti::da(documento.cliente.contoesenti.text());
     }
-    c.ritenuta = ContoTesti::da(pezzo(impostazione(contesto, 5), 1, 8));
+    c.ritenuta = ContoTesti::da(pezzo(contesto.tabelle.contabili[contoRitenute], 1, 8));
     // Tax that becomes due only with the payment waits on an account of its own.
     if (documento.coppia.fte.esigdiff.text() == u"1")
-        c.iva = ContoTesti::da(pezzo(impostazione(contesto, 8), 81, 8));
+        c.iva = ContoTesti::da(pezzo(contesto.tabelle.contabili[contoIvaDifferita], 81, 8));
     return c;
 }
 
@@ -62,9 +62,9 @@ void sostituisci(QString& testo, QStringView segno, const QString& valore) {
 
 QString descrizione(const Documento& documento, const Contesto& contesto) {
     const qsizetype inizio = documento.notaCredito() ? 41 : 1;
-    QString testo = pezzo(impostazione(contesto, 15), inizio, 40).trimmed();
+    QString testo = pezzo(contesto.tabelle.contabili[descrizioniMovimento], inizio, 40).trimmed();
     QString numero = puliscitesto(documento.estremi.numero);
-    if (contesto.impostazioni.gnr.annonumero.text() == u"1")
+    if (contesto.impostazioni.gnr.annoNelNumero())
         numero += u'/' + pezzo(documento.estremi.data, 7);
     sostituisci(testo, u"$D", numero);
     sostituisci(testo, u"$N", documento.cliente.sede.ragione1.trimmed());

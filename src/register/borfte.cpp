@@ -45,7 +45,7 @@ void Borfte::carica() {
 }
 
 void Borfte::attiva() {
-    if (m_contesto.sessione.listadaaggiornare && m_contesto.impostazioni.gnr.aggiornalista.text() == u"1") {
+    if (m_contesto.sessione.listadaaggiornare && m_contesto.impostazioni.gnr.riempiDopoSalvataggio()) {
         leggiConteggio();
         caricalista();
         m_contesto.sessione.listadaaggiornare = false;
@@ -201,7 +201,7 @@ void Borfte::caricalista() {
 }
 
 bool Borfte::colorata() const {
-    return listaColorata(m_contesto.impostazioni.gnr);
+    return m_contesto.impostazioni.gnr.colora();
 }
 
 QString Borfte::testo(int riga, Colonna colonna) const {

@@ -110,7 +110,7 @@ int Borsel::record(int riga) const {
 
 std::optional<int> Borsel::colore(int riga) const {
     const Gnr& gnr = m_contesto.impostazioni.gnr;
-    if (!listaColorata(gnr))
+    if (!gnr.colora())
         return std::nullopt;
     return coloreRiga(gnr, riga);
 }

@@ -43,10 +43,6 @@ int coloreDa(double valore) {
 
 } // namespace
 
-bool listaColorata(const Gnr& gnr) {
-    return gnr.listacolorata.text() == u"1";
-}
-
 int coloreRiga(const Gnr& gnr, int riga) {
     // Rows count from 1 on screen, so the first one is odd.
     return coloreDa(riga % 2 == 1 ? gnr.colorelista1 : gnr.colorelista2);

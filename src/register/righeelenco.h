@@ -14,8 +14,6 @@ struct Gnr;
 /// Rows that fill the window; a shorter list has blank ones below, which no sort moves.
 inline constexpr int righePiene = 25;
 
-/// The company wants its lists striped.
-bool listaColorata(const Gnr& gnr);
 /// Stripe of a row, counted from 0, as 0x00BBGGRR.
 int coloreRiga(const Gnr& gnr, int riga);
 

@@ -18,23 +18,28 @@ void scriviRadice(const AziendaDiProva& azienda, const QString& nome, const QByt
 
 TEST(Impostazioni, LaValutaSiLeggeOVienePredefinita) {
     const AziendaDiProva azienda;
-    EXPECT_EQ(ContestoDiProva(azienda).impostazioni.eur[2], u"1936.27"_s);
-    scriviRadice(azienda, u"borlano.eur"_s, "2,1936.27,\"ITL\",EUR,4");
     {
         const ContestoDiProva prova(azienda);
-        EXPECT_EQ(prova.impostazioni.eur[1], u"1"_s);
-        EXPECT_EQ(prova.impostazioni.eur[3], u"ITL"_s);
-        EXPECT_EQ(prova.impostazioni.valuta().decimaliprezzo, 4);
-        EXPECT_EQ(prova.impostazioni.eur[6], u"0"_s);
-        EXPECT_EQ(prova.impostazioni.eur[11], u"9"_s);
+        EXPECT_TRUE(prova.impostazioni.valuta.euro);
+        EXPECT_EQ(prova.impostazioni.valuta.lirePerEuro, 1936.27);
+        EXPECT_EQ(prova.impostazioni.valuta.decimaliprezzo, 2);
+    }
+    scriviRadice(azienda, u"borlano.eur"_s, "2,1936.5,\"ITL\",EUR,4");
+    {
+        const ContestoDiProva prova(azienda);
+        EXPECT_TRUE(prova.impostazioni.valuta.euro);
+        EXPECT_EQ(prova.impostazioni.valuta.lirePerEuro, 1936.5);
+        EXPECT_EQ(prova.impostazioni.valuta.decimaliprezzo, 4);
+        EXPECT_FALSE(prova.impostazioni.generaPdf);
     }
     scriviRadice(azienda, u"borlano.eur"_s, "0,1,L,E,3\r\n1\r\n7\r\n");
     const ContestoDiProva lire(azienda);
-    EXPECT_FALSE(lire.impostazioni.valuta().euro);
-    EXPECT_EQ(lire.impostazioni.eur[6], u"1"_s);
-    EXPECT_EQ(lire.impostazioni.eur[11], u"7"_s);
+    EXPECT_FALSE(lire.impostazioni.valuta.euro);
+    EXPECT_EQ(lire.impostazioni.valuta.lirePerEuro, 1.0);
+    EXPECT_EQ(lire.impostazioni.valuta.decimaliprezzo, 3);
+    EXPECT_TRUE(lire.impostazioni.generaPdf);
     scriviRadice(azienda, u"borlano.eur"_s, "0,1,L");
-    EXPECT_TRUE(ContestoDiProva(azienda).impostazioni.valuta().euro) << "the first five fail together";
+    EXPECT_TRUE(ContestoDiProva(azienda).impostazioni.valuta.euro) << "the first five fail together";
 }
 
 TEST(Impostazioni, IlRecordGnrNasceMigraESiRipara) {
@@ -104,19 +109,19 @@ TEST(Impostazioni, LeTabelleSiLeggonoPerPosto) {
     azienda.scrivi(u"borlano.tab"_s, tab);
     const ContestoDiProva prova(azienda);
     const Tabelle& t = prova.tabelle;
-    EXPECT_EQ(t.aliquote[1][0], u"1"_s);
+    EXPECT_EQ(t.aliquote[1].aliquota, u"1"_s);
     EXPECT_EQ(t.aliquota(8), 29);
-    EXPECT_EQ(t.esenzioni[0][0], u"57,x"_s);
+    EXPECT_EQ(t.esenzioni[0].riferimento, u"57,x"_s);
     EXPECT_EQ(t.regimeiva(), 8) << "second character of 58";
-    EXPECT_EQ(t.tipiiva[0][0], u"75"_s);
-    EXPECT_EQ(t.tipopagamenti[30][1], u"152"_s);
-    EXPECT_EQ(t.contabili[1][0], u"153,x"_s);
+    EXPECT_EQ(t.tipiiva[0], u"76"_s);
+    EXPECT_EQ(t.tipopagamenti[30].codice, u"152"_s);
+    EXPECT_EQ(t.contabili[1], u"153,x"_s);
     EXPECT_EQ(t.ricavi[40], u"210"_s);
-    EXPECT_EQ(t.vettori[40][5], u"640"_s);
-    EXPECT_EQ(t.aliquote[9][0], u"641"_s);
-    EXPECT_EQ(t.esenzioni[16][1], u"712"_s);
-    EXPECT_EQ(t.tipopagamenti[60][1], u"788"_s);
-    EXPECT_EQ(t.contabili[20][1], u"810"_s);
+    EXPECT_EQ(t.vettori[40].codici, u"640"_s);
+    EXPECT_EQ(t.aliquote[9].aliquota, u"641"_s);
+    EXPECT_EQ(t.esenzioni[16].testo, u"712"_s);
+    EXPECT_EQ(t.tipopagamenti[60].codice, u"788"_s);
+    EXPECT_EQ(t.contabili[20], u"809,x"_s);
     EXPECT_EQ(t.ricavi[100], u"870"_s);
     EXPECT_EQ(t.aliquota(0) + t.aliquota(17), 0);
 }

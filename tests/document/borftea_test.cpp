@@ -23,7 +23,7 @@ protected:
         cli.postael.set(u"1");
         cliente = azienda.cliente(cli);
         contesto.tabelle.tipopagamenti[1] = {u"Trenta giorni"_s, u"001"_s};
-        contesto.tabelle.esenzioni[0][1] = u"01"_s;
+        contesto.tabelle.esenzioni[0].testo = u"01"_s;
     }
     void nuovo(int tipo = 0) {
         documento.recordfattura = 0;
@@ -106,7 +106,7 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     form.esegui(Comando::Righe);
     EXPECT_EQ(documento.coppia.fte.nfile, -1.0F);
     form.scorri(5);
-    contesto.tabelle.esenzioni[0][1].clear();
+    contesto.tabelle.esenzioni[0].testo.clear();
     form.attiva();
     EXPECT_EQ(documento.estremi.numero, u"8");
     EXPECT_EQ(form.finestra().prima(), 1);
@@ -127,8 +127,8 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
 }
 
 TEST_F(DocumentForm, RigheIva_EtichetteScorrimentoETotali) {
-    contesto.tabelle.aliquote[1][0] = u" 22 "_s;
-    contesto.tabelle.aliquote[5][0] = u"4"_s;
+    contesto.tabelle.aliquote[1].aliquota = u" 22 "_s;
+    contesto.tabelle.aliquote[5].aliquota = u"4"_s;
     contesto.tabelle.esenzioni[2] = {u"Art. 15"_s, u"x"_s};
     contesto.tabelle.esenzioni[5] = {u"Art. 8"_s, u"Cessioni UE"_s};
     nuovo();
@@ -158,7 +158,7 @@ TEST_F(DocumentForm, RigheIva_EtichetteScorrimentoETotali) {
     form.cambia(u"10"_s, &Scadenze::provaliq);
     EXPECT_EQ(documento.scadenze.provimp, u"105.05");
     EXPECT_EQ(documento.scadenze.rate[0].importo, u"900") << "a typed instalment stands";
-    contesto.tabelle.tipopagamenti[2][1] = u"001002"_s;
+    contesto.tabelle.tipopagamenti[2].codice = u"001002"_s;
     form.cambia(1, &Scadenze::pagamento);
     EXPECT_EQ(documento.scadenze.rate[0].importo, u"500.005");
     EXPECT_EQ(documento.scadenze.rate[1].importo, u"500");
@@ -205,7 +205,7 @@ TEST_F(DocumentForm, IvaDifferitaRifiutataDalRegime) {
     nuovo();
     EXPECT_TRUE(form.mostraProspetto(Prospetto::IvaDifferita));
     EXPECT_TRUE(form.mostraProspetto(Prospetto::Ritenute));
-    contesto.tabelle.esenzioni[0][1] = u"00"_s;
+    contesto.tabelle.esenzioni[0].testo = u"00"_s;
     EXPECT_FALSE(form.mostraProspetto(Prospetto::IvaDifferita));
     EXPECT_EQ(form.prospetto(), Prospetto::Ritenute);
     EXPECT_EQ(testi(),
@@ -213,9 +213,9 @@ TEST_F(DocumentForm, IvaDifferitaRifiutataDalRegime) {
 }
 
 TEST_F(DocumentForm, FatturaIntegrata_UltimaRigaConImposta) {
-    contesto.tabelle.tipiiva[0][1] = u"2"_s;
-    contesto.tabelle.tipiiva[16][1] = u"00100000000 1"_s;
-    contesto.tabelle.tipiiva[4][1] = u"0020000000 1"_s;
+    contesto.tabelle.tipiiva[0] = u"2"_s;
+    contesto.tabelle.tipiiva[16] = u"00100000000 1"_s;
+    contesto.tabelle.tipiiva[4] = u"0020000000 1"_s;
     CoppiaFte coppia = documentoDi(cliente, u"7"_s, 100, 22);
     coppia.fte.iva[2] = 5;
     const auto linea = [&](double resy2) {

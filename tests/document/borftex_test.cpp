@@ -21,7 +21,7 @@ protected:
     Righe() {
         contesto.tabelle.aliquote[1] = {u"22"_s, {}, {}, {}};
         contesto.tabelle.aliquote[2] = {u"10"_s, u"20"_s, {}, {}};
-        contesto.tabelle.esenzioni[3][1] = u"Esente art.10"_s;
+        contesto.tabelle.esenzioni[3].testo = u"Esente art.10"_s;
         Cli c = clienteDi(u"ROSSI"_s);
         c.sconto1 = 10;
         documento.recordcliente = azienda.cliente(c);

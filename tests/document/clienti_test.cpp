@@ -117,7 +117,7 @@ TEST_F(Clienti, DatiDelCliente) {
 TEST_F(Clienti, DefaultDelDocumentoNuovo) {
     agente(u"4"_s, u"2.5"_s);
     ContestoDiProva c(azienda);
-    c.tabelle.esenzioni[0][1] = u" 1"_s;
+    c.tabelle.esenzioni[0].testo = u" 1"_s;
     Documento d;
     prendiDefaults(d, c.contesto);
     EXPECT_TRUE(d.estremi.esig && d.prospetti.spesometro);
@@ -137,7 +137,7 @@ TEST_F(Clienti, DefaultDelDocumentoNuovo) {
     EXPECT_EQ(d.scadenze.pagamento, 2);
     EXPECT_EQ(d.scadenze.provaliq, u"2.5");
 
-    c.tabelle.esenzioni[0][1] = u" 0"_s;
+    c.tabelle.esenzioni[0].testo = u" 0"_s;
     d.cliente.nodifferita.set(u" ");
     d.cliente.pagamento = 61;
     d.cliente.riba = 2;

@@ -37,7 +37,7 @@ protected:
 };
 
 TEST_F(SalvaTest, FatturaDiMerceConScontiEDueAliquote) {
-    p.prova.tabelle.aliquote[10][0] = u"10"_s;
+    p.prova.tabelle.aliquote[10].aliquota = u"10"_s;
     p.nuovo(u"7/A"_s);
     Documento& d = p.documento;
     d.coppia.fte.resx1.bytes.fill('\xE9');
@@ -55,7 +55,7 @@ TEST_F(SalvaTest, FatturaDiMerceConScontiEDueAliquote) {
     d.prospetti.terminemese = u"3"_s;
     d.prospetti.termineanno = u"2016"_s;
     d.recordfpa = 7;
-    p.prova.tabelle.aliquote[1][1].clear();
+    p.prova.tabelle.aliquote[1].ritenuta.clear();
     d.ddd[0] = rigaDi(100, 10);
     d.ddd[1] = {.descrizione = u"Trasporto"_s, .iva = 10, .quantita = 2, .prezzo = 25};
     p.riporta();
@@ -177,7 +177,7 @@ TEST_F(SalvaTest, ParcellaConRitenutaEContributi) {
 }
 
 TEST_F(SalvaTest, NotaScorporoIvaDifferitaELire) {
-    p.prova.tabelle.aliquote[1][1].clear();
+    p.prova.tabelle.aliquote[1].ritenuta.clear();
     p.nuovo(u"1"_s, 1);
     p.documento.scorporo = true;
     p.documento.ddd[0] = rigaDi(122);
@@ -195,7 +195,7 @@ TEST_F(SalvaTest, NotaScorporoIvaDifferitaELire) {
     EXPECT_EQ(f2e.sliced(162, 8) + f2e.sliced(226, 8), hex("0000000000005940") + hex("0000000000003640"));
     EXPECT_EQ(f2e.sliced(290, 18), "052016050000000000");
 
-    p.prova.impostazioni.eur[1] = u"0"_s;
+    p.prova.impostazioni.valuta.euro = false;
     p.nuovo(u"2"_s);
     p.documento.ddd[0] = rigaDi(163934);
     p.riporta();

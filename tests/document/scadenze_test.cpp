@@ -14,7 +14,7 @@ namespace {
 class Schedule : public testing::Test {
 protected:
     void codice(const QString& testo) {
-        contesto.tabelle.tipopagamenti[3][1] = testo;
+        contesto.tabelle.tipopagamenti[3].codice = testo;
         documento.scadenze.pagamento = 2;
     }
     QString scadenza(const QString& data, const QString& testo, int rata = 0) {
@@ -50,8 +50,8 @@ TEST_F(Schedule, FineMeseEAnniBisestili) {
 }
 
 TEST_F(Schedule, AgostoEDicembreValgonoPerTutti) {
-    contesto.tabelle.tipopagamenti[1][1] = u"000                    110"_s;
-    contesto.tabelle.tipopagamenti[2][1] = u"000                    110"_s;
+    contesto.tabelle.tipopagamenti[1].codice = u"000                    110"_s;
+    contesto.tabelle.tipopagamenti[2].codice = u"000                    110"_s;
     EXPECT_EQ(scadenza(u"31/07/2015"_s, u"001"_s), u"10/09/2015");
     EXPECT_EQ(scadenza(u"31/12/2015"_s, u"000"_s), u"10/01/2016");
     EXPECT_EQ(scadenza(u"30/12/2015"_s, u"000"_s), u"30/12/2015");
@@ -61,7 +61,7 @@ TEST_F(Schedule, RateEResto) {
     EXPECT_EQ(scadenza(u"15/03/2015"_s, u"001002003"_s, 2), u"15/06/2015");
     EXPECT_EQ(rate(100), (QStringList{u"33.34"_s, u"33.33"_s, u"33.33"_s, {}, {}, {}}));
     EXPECT_EQ(rate(-100)[0], u"-33.34");
-    contesto.impostazioni.eur[1] = u"0"_s;
+    contesto.impostazioni.valuta.euro = false;
     EXPECT_EQ(rate(100).first(2), (QStringList{u"34"_s, u"33"_s}));
     // A shorter type empties what the longer one left; one with a gap has no instalment there.
     EXPECT_EQ(scadenza(u"15/03/2015"_s, u"001000002"_s, 1), u"");

@@ -67,17 +67,17 @@ struct FatturaDiProva {
         azienda.scrivi(QStringLiteral("borlano.fpa"), bytesDi(societa));
         QDir(azienda.percorsi().radiceCorrente()).mkdir(QStringLiteral("xml"));
         documento.recordcliente = prova.archivio.aggiungi(prova.archivio.cli, Conta::Cli, cliente);
-        prova.impostazioni.eur[1] = QStringLiteral("1");
-        tabelle.aliquote[1][0] = QStringLiteral("22");
+        prova.impostazioni.valuta.euro = true;
+        tabelle.aliquote[1].aliquota = QStringLiteral("22");
         tabelle.aliquote[2] = {QStringLiteral("22"), QStringLiteral("20"), {}, {}};
-        tabelle.aliquote[3][0] = QStringLiteral("10");
+        tabelle.aliquote[3].aliquota = QStringLiteral("10");
         tabelle.esenzioni[2] = {QStringLiteral("Art. 41 DL 331/93"),
                                 QStringLiteral("Cessioni intracomunitarie")};
         tabelle.esenzioni[8] = {QStringLiteral("Art. 10 DPR 633/72"),
                                 QStringLiteral("Esente").leftJustified(100) + u'3'};
-        tabelle.vettori[4][2] = QStringLiteral("Trasporti Rapidi");
-        tabelle.vettori[4][5] = QStringLiteral("*IT04455667788     VTTMRA70A01H501X*");
-        tabelle.vettori[5][2] = QStringLiteral("Corriere senza codici");
+        tabelle.vettori[4].vettore[0] = QStringLiteral("Trasporti Rapidi");
+        tabelle.vettori[4].codici = QStringLiteral("*IT04455667788     VTTMRA70A01H501X*");
+        tabelle.vettori[5].vettore[0] = QStringLiteral("Corriere senza codici");
         documento.estremi.numero = QStringLiteral("12");
         documento.estremi.data = QStringLiteral("15/03/2015");
         documento.ddd[0] = {.codice = {},
@@ -94,7 +94,7 @@ struct FatturaDiProva {
     }
     /// A payment type whose code tells the given kind.
     void tipoPagamento(QChar tipo) {
-        tabelle.tipopagamenti[1][1] = QString(22, u'0') + tipo;
+        tabelle.tipopagamenti[1].codice = QString(22, u'0') + tipo;
         documento.scadenze.pagamento = 0;
     }
     QString percorsoXml(const QString& nome) const {

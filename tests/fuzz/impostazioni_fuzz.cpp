@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     const bor::Tabelle tabelle = bor::leggiTabelle(archivio);
     for (int codice = -1; codice <= 17; ++codice)
         (void)(tabelle.aliquota(codice) + tabelle.ritenuta(codice));
-    (void)impostazioni.valuta();
+    (void)impostazioni.valuta;
     (void)bor::leggiIntestazione(archivio);
     (void)bor::leggiPrestazioni(archivio);
     (void)bor::leggiTributi(archivio);

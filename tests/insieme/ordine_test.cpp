@@ -53,8 +53,8 @@ public:
         azienda.scrivi(u"borlano.lyp"_s, layout({18, 33, 69, 77, 80, 82}));
         QDir(azienda.percorsi().radiceCorrente()).mkdir(u"xml"_s);
         prova.tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, u"4"_s};
-        prova.tabelle.contabili[5][0] = u"19010001"_s;
-        prova.tabelle.contabili[15][0] = u"Ft. $D $N"_s.leftJustified(40) + u"N.C. $D $N"_s;
+        prova.tabelle.contabili[5] = u"19010001"_s;
+        prova.tabelle.contabili[15] = u"Ft. $D $N"_s.leftJustified(40) + u"N.C. $D $N"_s;
         prova.tabelle.tipopagamenti[2] = {u"Rimessa diretta"_s, u"000"_s};
         prova.archivio.aggiungi(prova.archivio.mag, Conta::Mag, vuoto<Mag>());
         prova.sessione.modificamovimento = true; // a movement posted again takes the place of its own

@@ -12,7 +12,7 @@ namespace {
 class PdfTest : public testing::Test {
 protected:
     PdfTest() {
-        prova.impostazioni.eur[6] = u"1"_s;
+        prova.impostazioni.generaPdf = true;
         documento.estremi.numero = u"12/A"_s;
         documento.cliente.email.set(u"conti@rossi.example");
     }
@@ -61,7 +61,7 @@ TEST_F(PdfTest, SpentoRifiutatoONonAvviatoNonLasciaNomi) {
               u"Non è possibile eseguire il programma invio del documento a mezzo internet."_s);
     prova.operatore.rispostaSolita = false;
     generapdf(documento, prova.contesto);
-    prova.impostazioni.eur[6] = u"0"_s;
+    prova.impostazioni.generaPdf = false;
     prova.operatore.domande.clear();
     generapdf(documento, prova.contesto);
     EXPECT_TRUE(prova.operatore.domande.isEmpty());

@@ -146,8 +146,8 @@ protected:
         azienda.scrivi(u"borlano.int"_s, "Ditta\r\nVia Po\r\n\r\n");
         prova.impostazioni.gnr.annonumero.set(u"1");
         prova.tabelle.aliquote[1] = {u"22"_s, u"20"_s, u"2"_s, u"4"_s};
-        prova.tabelle.tipopagamenti[2][0] = u"Bonifico"_s;
-        prova.tabelle.vettori[1] = {u"Vendita"_s, u"A vista"_s, {}, {}, {}, {}};
+        prova.tabelle.tipopagamenti[2].descrizione = u"Bonifico"_s;
+        prova.tabelle.vettori[1] = {u"Vendita"_s, u"A vista"_s, {}, {}};
         documento.estremi.numero = u"12"_s;
         documento.estremi.data = u"15/03/2015"_s;
         documento.estremi.esig = true;
@@ -241,7 +241,7 @@ TEST_F(VociTest, DiUnaFattura) {
 TEST_F(VociTest, DiUnaParcella) {
     documento.coppia.fte.parcella = 1;
     documento.testata.pratica.descrizione = {u"d1"_s, u"d2"_s, u"d3"_s, u"d4"_s};
-    prova.tabelle.aliquote[2][0] = u"10"_s;
+    prova.tabelle.aliquote[2].aliquota = u"10"_s;
     documento.testata.pratica.ivaspe = 1;
     documento.dddp[0] = {{}, u"Consulenza"_s, 50, 30, 1000};
     const Pianta& p = piantaParcella();

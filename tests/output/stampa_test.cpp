@@ -28,8 +28,8 @@ QByteArray layout(const QMap<int, QByteArray>& posizioni, const QByteArray& mode
 class StampaTest : public testing::Test {
 protected:
     StampaTest() {
-        prova.tabelle.aliquote[1][0] = u"22"_s;
-        prova.tabelle.aliquote[2][0] = u"10"_s;
+        prova.tabelle.aliquote[1].aliquota = u"22"_s;
+        prova.tabelle.aliquote[2].aliquota = u"10"_s;
         prova.tabelle.esenzioni[3] = {u"art.10 DPR 633/72"_s, u"Esente"_s};
         documento.estremi.numero = u"12"_s;
         documento.estremi.data = u"15/03/2015"_s;

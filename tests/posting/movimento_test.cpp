@@ -28,9 +28,9 @@ QStringList righe(const Movimento& m) {
 class MovimentoTest : public testing::Test {
 protected:
     MovimentoTest() {
-        prova.tabelle.contabili[5][0] = u"11220033 resto"_s;
-        prova.tabelle.contabili[8][0] = QString(80, u' ') + u"44550066"_s;
-        prova.tabelle.contabili[15][0] = u"Ft. $D del $G a $N prot. $P $D"_s.leftJustified(40) + u"N.C. $D"_s;
+        prova.tabelle.contabili[5] = u"11220033 resto"_s;
+        prova.tabelle.contabili[8] = QString(80, u' ') + u"44550066"_s;
+        prova.tabelle.contabili[15] = u"Ft. $D del $G a $N prot. $P $D"_s.leftJustified(40) + u"N.C. $D"_s;
         DatiCliente& conti = documento.testata.cliente;
         conti.contocliente = {u"10"_s, u"01"_s, u"0001"_s};
         conti.contoricavi = {u"40"_s, u"01"_s, u"0001"_s};

@@ -12,7 +12,7 @@ namespace {
 class ScaricoTest : public testing::Test {
 protected:
     ScaricoTest() {
-        prova.tabelle.aliquote[1][0] = u"22"_s;
+        prova.tabelle.aliquote[1].aliquota = u"22"_s;
         Art vite = articoloDi(u"VITE"_s, u"Vite"_s, 122, 1);
         vite.giacenza = 10.0;
         azienda.articolo(articoloDi(u"ALTRO"_s, u"Altro"_s, 1, 1));

@@ -17,10 +17,10 @@ namespace {
 struct AziendaConTabelle {
     AziendaConTabelle() {
         Tabelle& t = prova.tabelle;
-        t.aliquote[1][0] = u"22"_s;
-        t.aliquote[2][0] = u"10"_s;
-        t.aliquote[3][0] = u"4"_s;
-        t.esenzioni[0][1] = u"01"_s;
+        t.aliquote[1].aliquota = u"22"_s;
+        t.aliquote[2].aliquota = u"10"_s;
+        t.aliquote[3].aliquota = u"4"_s;
+        t.esenzioni[0].testo = u"01"_s;
         t.esenzioni[1] = {u"Non imponibile art. 8"_s, {}};
         t.esenzioni[2] = {u"Esente art. 10"_s, {}};
         t.esenzioni[12] = {u"Fuori campo"_s, u"Operazioni particolari"_s};
@@ -128,7 +128,7 @@ TEST_F(VistaDocumento, DaiTastiAiTotali) {
 }
 
 TEST_F(VistaDocumento, ProspettiUnoAllaVolta) {
-    prova.tabelle.tipiiva[3][1] = u"0010"_s;
+    prova.tabelle.tipiiva[3] = u"0010"_s;
     documento.recordfattura = azienda.documento(intera());
     mostra(vista);
     EXPECT_EQ(vista.windowTitle(), u"Modifica dati fatturaPA emessa");
@@ -170,7 +170,7 @@ TEST_F(VistaDocumento, ProspettiUnoAllaVolta) {
 }
 
 TEST_F(VistaDocumento, RegimeSenzaIvaDifferita) {
-    prova.tabelle.esenzioni[0][1] = u"00"_s;
+    prova.tabelle.esenzioni[0].testo = u"00"_s;
     mostra(vista);
     EXPECT_FALSE(controllo(vista, u"esig"_s)->isEnabled());
     EXPECT_FALSE(controllo(vista, u"bottone(4)"_s)->isEnabled());

@@ -26,7 +26,7 @@ protected:
         documento.recordcliente = 1;
         prova->tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, {}};
         prova->tabelle.aliquote[2] = {u"10"_s, {}, {}, {}};
-        prova->tabelle.esenzioni[3][1] = u"Esente art.10"_s;
+        prova->tabelle.esenzioni[3].testo = u"Esente art.10"_s;
         documento.estremi.numero = u"12"_s;
         form = std::make_unique<Borftex>(prova->contesto, documento);
         vista = std::make_unique<VistaBorftex>(*form);

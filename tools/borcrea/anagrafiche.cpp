@@ -3,6 +3,7 @@
 #include "borcrea/bianco.h"
 #include "borcrea/tabellatesto.h"
 #include "common/codicifiscali.h"
+#include "document/codiceiva.h"
 
 #include <algorithm>
 #include <cstring>
@@ -66,7 +67,7 @@ void commerciali(const RigaTabella& riga, Cli& cli) {
     segna(cli.postael, riga.segno(u"postael"));
     segna(cli.nodifferita, riga.segno(u"nodifferita"));
     segna(cli.spesometro, riga.intero(u"spesometro", 0, 1, 1) == 1);
-    cli.regimeiva = breve(riga.intero(u"regimeiva", 0, 24));
+    cli.regimeiva = breve(riga.intero(u"regimeiva", 0, CodiceIva::ultimo));
     cli.vettore1.set(riga.testo(u"vettore1", 40));
     cli.vettore2.set(riga.testo(u"vettore2", 40));
     cli.vettore3.set(riga.testo(u"vettore3", 32));
@@ -128,7 +129,7 @@ Art articolo(const RigaTabella& riga) {
         riga.problema(u"barcode: \"%1\" è errato, la cifra di controllo non torna."_s.arg(barcode));
     art.barcode.set(barcode);
     art.um.set(riga.testo(u"um", 2));
-    art.iva = breve(riga.intero(u"iva", 1, 24, 1));
+    art.iva = breve(riga.intero(u"iva", 1, CodiceIva::ultimo, 1));
     art.listino1 = riga.numero(u"listino1");
     art.listino2 = riga.numero(u"listino2", art.listino1);
     art.giacenza = riga.numero(u"giacenza");

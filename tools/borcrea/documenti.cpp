@@ -3,6 +3,7 @@
 #include "borcrea/tabellatesto.h"
 #include "common/numeri.h"
 #include "document/apridoc.h"
+#include "document/defaultcliente.h"
 #include "document/scadenze.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
@@ -24,7 +25,7 @@ void daArticolo(Riga& riga, const Art& art, const Cli& cliente) {
     riga.codice = art.codice.trimmed();
     riga.descrizione = art.descrizione.trimmed();
     riga.um = art.um.trimmed();
-    riga.iva = cliente.ivaForzata() != 0 ? cliente.ivaForzata() : int{art.iva};
+    riga.iva = ivaForzata(cliente).nessuno() ? CodiceIva(art.iva) : ivaForzata(cliente);
     riga.prezzo = cliente.listino.text() == u"1" ? art.listino2 : art.listino1;
     riga.sconto1 = cliente.sconto1;
     riga.sconto2 = cliente.sconto2;
@@ -49,7 +50,7 @@ Riga leggiRiga(const RigaTabella& foglio, const Anagrafiche& a, const Cli& clien
     riga.prezzo = foglio.numero(u"prezzo", riga.prezzo);
     riga.sconto1 = foglio.intero(u"sconto1", 0, 100, riga.sconto1);
     riga.sconto2 = foglio.intero(u"sconto2", 0, 100, riga.sconto2);
-    riga.iva = foglio.intero(u"iva", 0, 24, riga.iva);
+    riga.iva = foglio.intero(u"iva", 0, CodiceIva::ultimo, riga.iva.numero());
     if (riga.descrizione.isEmpty())
         foglio.problema(u"serve un articolo o una descrizione."_s);
     return riga;
@@ -148,8 +149,8 @@ void leggiTestata(const RigaTabella& foglio, Documento& d) {
     t.aspetto = foglio.intero(u"aspetto", 0, 40) - 1;
     t.spedizione = foglio.intero(u"spedizione", 0, 2);
     Pratica& p = d.testata.pratica;
-    p.ivaono = foglio.intero(u"ivaonorari", 1, 12, 1) - 1;
-    p.ivaspe = foglio.intero(u"ivaspese", 1, 12, 1) - 1;
+    p.ivaono = foglio.intero(u"ivaonorari", 1, righeIva, 1) - 1;
+    p.ivaspe = foglio.intero(u"ivaspese", 1, righeIva, 1) - 1;
     p.descrizione[0] = foglio.testo(u"pratica1", 150);
     p.descrizione[1] = foglio.testo(u"pratica2", 150);
 }
