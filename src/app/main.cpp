@@ -1,21 +1,24 @@
 #include "app/modulo.h"
 #include "app/schermi.h"
+#include "common/avvio.h"
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
 #include "ui/finestra.h"
 #include "ui/stampanteqt.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 int main(int argc, char* argv[]) {
     using namespace bor;
+    QStringList argomenti;
+    for (int i = 1; i < argc; ++i)
+        argomenti.append(QString::fromLocal8Bit(argv[i]));
+    const QString riga = argomenti.join(u' ');
+    // What no launcher started ends before it asks for a display or touches a folder.
+    if (controllaAvvio(riga).esito == EsitoAvvio::Rifiutato)
+        return 0;
     QApplication applicazione(argc, argv);
     applicaAspetto(applicazione);
-    QTranslator italiano;
-    if (italiano.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&italiano);
 
     OperatoreQt operatore;
     OrologioQt orologio;
@@ -24,8 +27,7 @@ int main(int argc, char* argv[]) {
     Finestra finestra;
     operatore.usa(&finestra);
     const auto modulo =
-        Modulo::avvia(QCoreApplication::arguments().mid(1).join(u' '), Percorsi::predefiniti(),
-                      {operatore, orologio, sistema, finestra, stampante});
+        Modulo::avvia(riga, Percorsi::predefiniti(), {operatore, orologio, sistema, finestra, stampante});
     if (!modulo)
         return 0;
     aggiungiSchermi(finestra, *modulo);

@@ -27,6 +27,7 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
       m_registrazioni(m_contesto, m_borftec),
       m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)),
       m_borftepa(m_contesto, m_documento) {
+    m_percorsi.creaRadiceC();
     m_sessione.codiceazienda = codiceazienda;
     m_impostazioni = caricaimpostazioni(m_archivio);
     m_archivio.apri();

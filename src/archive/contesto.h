@@ -4,6 +4,7 @@
 #include "archive/archivio.h"
 #include "archive/impostazioni.h"
 #include "archive/tabelle.h"
+#include "common/bordata.h"
 #include "common/date.h"
 #include "common/navigatore.h"
 #include "common/operatore.h"
@@ -25,6 +26,7 @@ struct Contesto {
     Timbro& timbro;
 
     const Valuta& valuta() const { return impostazioni.valuta; }
+    Bordata bordata() const { return {sessione, orologio}; }
 };
 
 } // namespace bor

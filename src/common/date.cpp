@@ -42,14 +42,19 @@ QString completaData(QStringView testo) {
     static const QRegularExpression soloCifre(QStringLiteral(R"(\A(\d\d)(\d\d)(\d{2}|\d{4})\z)"));
     const QString t = testo.trimmed().toString();
     auto pezzi = conBarre.match(t);
-    if (!pezzi.hasMatch())
+    const bool senzaBarre = !pezzi.hasMatch();
+    if (senzaBarre)
         pezzi = soloCifre.match(t);
     if (!pezzi.hasMatch())
         return testo.toString();
     const QString anno = pezzi.captured(3);
     const QDate data(annoIntero(valoreIntero(anno), anno.size()), valoreIntero(pezzi.captured(2)),
                      valoreIntero(pezzi.captured(1)));
-    return data.isValid() ? testoData(data) : testo.toString();
+    if (data.isValid())
+        return testoData(data);
+    // On file such a text is cut by position: only with its bars do its digits stay what was typed.
+    return senzaBarre && anno.size() > 2 ? pezzi.captured(1) + u'/' + pezzi.captured(2) + u'/' + anno
+                                         : testo.toString();
 }
 
 QString dataDaAnnoMeseGiorno(QStringView campo) {

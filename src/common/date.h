@@ -18,8 +18,8 @@ std::optional<QDate> dataValida(QStringView testo);
 QString testoData(QDate data);
 
 /// Completes what operators type on leaving a date field: "311215", "31122015", "31/12/15" and "1/2/2015"
-/// become dd/mm/yyyy (two-digit years from 80 up belong to the last century). Any other text comes back as it
-/// is.
+/// become dd/mm/yyyy (two-digit years from 80 up belong to the last century). Eight digits get their bars
+/// even when there is no such day. Any other text comes back as it is.
 QString completaData(QStringView testo);
 
 /// `yyyymmdd` cut and joined as "dd/mm/yyyy"; empty when the field holds no digits.

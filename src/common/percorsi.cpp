@@ -46,8 +46,11 @@ Percorsi::Percorsi(QString radiceCorrente, QString radiceC)
 Percorsi Percorsi::predefiniti() {
     const QString radiceC =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/borfte/c");
-    QDir().mkpath(radiceC);
     return {QDir::currentPath(), radiceC};
+}
+
+void Percorsi::creaRadiceC() const {
+    QDir().mkpath(m_radiceC);
 }
 
 std::optional<QString> Percorsi::reale(QStringView dos) const {

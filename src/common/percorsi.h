@@ -16,8 +16,10 @@ public:
     Percorsi(QString radiceCorrente, QString radiceC);
 
     /// The working directory as current drive, and for c: a folder of the user's own data ("borfte/c" under
-    /// the XDG data directory), which is made when it is missing.
+    /// the XDG data directory).
     static Percorsi predefiniti();
+    /// Makes the folder of drive c: when it is missing.
+    void creaRadiceC() const;
 
     /// The file or folder of this machine, existing or not; nothing when the path names another drive, climbs
     /// out with "..", or holds a character that a DOS file name cannot hold.

@@ -1,6 +1,8 @@
 // What one screen leaves for the next. Facts about the open document are in the document itself.
 #pragma once
 
+#include <QString>
+
 namespace bor {
 
 /// What the customer picker was opened for, and how it ended.
@@ -14,6 +16,9 @@ struct Sessione {
     bool listadaaggiornare = false; ///< the register fills itself again when it is shown next
     bool modificamovimento = false; ///< the movement editor replaces the document's movement
     ModoSelezione modoselezione = ModoSelezione::Nessuno;
+    QString datadialogo; ///< the date that `bordata` starts from
+    QString datariserva; ///< the one it starts from when that is no date
+    QString datascelta;  ///< the date chosen in it
 };
 
 } // namespace bor

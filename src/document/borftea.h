@@ -52,6 +52,7 @@ public:
     /// document stays and the form starts again at its first field; a form still open stays as it is.
     void attiva();
     QString titolo() const;
+    Bordata bordata() const { return m_contesto.bordata(); }
 
     /// What a box shows. Members lead to it from `Estremi`, `Scadenze` or `Prospetti`, places in an array
     /// among them: `dato(&Scadenze::rate, 0, &Rata::importo)`.
@@ -79,6 +80,9 @@ public:
     void scorri(int prima) { m_finestra.scorri(prima); }
     QString etichettaIva(int linea) const;    ///< `iv`
     QString etichettaEsente(int linea) const; ///< `es`
+    /// What an amount of a line is read out by, behind its heading: " 22%". Lines of the same caption are
+    /// told apart by their row.
+    QString nomeRigaIva(int linea, VoceIva voce) const;
     QString importo(int linea, VoceIva voce) const;
     void cambiaImporto(int linea, VoceIva voce, const QString& testo);
     QString totale(Totale quale) const; ///< with a blank in front

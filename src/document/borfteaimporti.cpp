@@ -10,17 +10,36 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
+namespace {
+
+constexpr QStringView prefissoAliquota = u"Aliquota iva ";
+
+} // namespace
+
 QString Borftea::etichettaIva(int linea) const {
     const int riga = m_finestra.riga(linea);
-    const QString libera = m_contesto.tabelle.esenzioni[riga].testo.trimmed();
+    const QString libera = m_contesto.tabelle.esenzioni[riga].descrizione();
     if (libera.size() > 1)
         return libera;
     const QString aliquota = m_contesto.tabelle.aliquote[riga].aliquota.trimmed();
-    return aliquota.isEmpty() ? u"Non definito"_s : u"Aliquota iva "_s + aliquota + u'%';
+    return aliquota.isEmpty() ? u"Non definito"_s : prefissoAliquota.toString() + aliquota + u'%';
 }
 
 QString Borftea::etichettaEsente(int linea) const {
     return m_contesto.tabelle.esenzioni[m_finestra.riga(linea)].riferimento.trimmed();
+}
+
+QString Borftea::nomeRigaIva(int linea, VoceIva voce) const {
+    const auto nome = [&](int l) {
+        const QString testo = voce == VoceIva::Esente ? etichettaEsente(l) : etichettaIva(l);
+        return testo.startsWith(prefissoAliquota) ? testo.mid(prefissoAliquota.size()) : testo;
+    };
+    const QString suo = nome(linea);
+    int uguali = 0;
+    for (int l = 0; l < m_finestra.linee(); ++l)
+        uguali += nome(l) == suo ? 1 : 0;
+    const QString posto = uguali > 1 ? u", riga "_s + QString::number(m_finestra.riga(linea)) : QString();
+    return (suo.isEmpty() ? QString() : u' ' + suo) + posto;
 }
 
 QString Borftea::importo(int linea, VoceIva voce) const {
@@ -39,11 +58,13 @@ QString Borftea::totale(Totale quale) const {
 }
 
 void Borftea::cambiato(const void* dato) {
-    const Scadenze& scadenze = m_documento.scadenze;
+    Scadenze& scadenze = m_documento.scadenze;
     if (dato == &scadenze.pagamento) {
         calcolascadenze(m_documento, m_contesto);
         calcolarate(m_documento, m_contesto);
     } else if (dato == &scadenze.provaliq) {
+        if (scadenze.provaliq.trimmed().isEmpty())
+            scadenze.provimp.clear();
         calcolaProvvigione(m_documento, m_contesto);
     } else if (std::ranges::any_of(m_documento.prospetti.ritenute,
                                    [dato](const Ritenuta& r) { return dato == &r.raimp; })) {

@@ -25,6 +25,7 @@ public:
     /// Takes the rows from the document; a screen still open stays as it is.
     void attiva();
     QString titolo() const;
+    Bordata bordata() const { return m_contesto.bordata(); }
 
     QString testo(Cella cella) const; ///< an amount of 0 is empty
     void cambia(Cella cella, const QString& testo);

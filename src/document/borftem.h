@@ -24,6 +24,7 @@ public:
     Borftem(Contesto& contesto, Documento& documento);
 
     void attiva();
+    Bordata bordata() const { return m_contesto.bordata(); }
 
     /// The bar was moved to this position of the customer index.
     void cambiaPosizione(int posizione);

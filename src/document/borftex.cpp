@@ -87,7 +87,7 @@ QStringList Borftex::vociIva() const {
     for (int i = 1; i <= righeIva; ++i)
         voci.append(vocetassata(i, tabelle.aliquote[i]));
     for (int i = 1; i <= righeIva; ++i)
-        voci.append(CodiceIva::diEsente(i).testo() + u' ' + tabelle.esenzioni[i].testo.trimmed());
+        voci.append(CodiceIva::diEsente(i).testo() + u' ' + tabelle.esenzioni[i].descrizione());
     return voci;
 }
 

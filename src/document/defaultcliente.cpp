@@ -12,7 +12,9 @@ void prendiDefaults(Documento& documento, const Contesto& contesto) {
     documento.prospetti.spesometro = cliente.spesometro.text() != u"0";
     documento.scadenze.rib = cliente.riba == 1;
     documento.scadenze.pagamento = cliente.posizionePagamento();
-    documento.scadenze.provaliq = cercaagente(contesto.archivio, cliente.agente);
+    // What the document counts with is what its record can hold.
+    documento.scadenze.provaliq =
+        cercaagente(contesto.archivio, cliente.agente).left(caratteriProvvigione).trimmed();
 }
 
 CodiceIva ivaForzata(const Cli& cliente) {

@@ -32,12 +32,15 @@ struct Rata {
     QString importo;  ///< `sca`
 };
 
+/// The commission rate is kept as it was typed, in a field of this many characters.
+inline constexpr int caratteriProvvigione = 4;
+
 /// Payment, instalments and the agent's commission.
 struct Scadenze {
     int pagamento = -1; ///< `Combo1`: row of the payment table less 1
     std::array<Rata, 6> rate;
     bool rib = false; ///< bank receipts (Ri.Ba.)
-    QString provaliq; ///< `pro(0)`: commission rate, up to four characters
+    QString provaliq; ///< `pro(0)`: commission rate, up to `caratteriProvvigione`
     QString provimp;  ///< `pro(1)`: commission
 };
 

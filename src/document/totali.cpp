@@ -35,7 +35,7 @@ void calcolaProvvigione(Documento& documento, const Contesto& contesto) {
         return;
     const Totali t = totali(documento);
     scadenze.provimp =
-        testoDecimale(contesto.valuta().percentuale(t.somma1 + t.somma3, valore(scadenze.provaliq)));
+        testoDecimale(contesto.valuta().percentuale(t.somma1 + t.somma3, valorevirgola(scadenze.provaliq)));
 }
 
 void ricalcolaDocumento(Documento& documento, const Contesto& contesto) {

@@ -21,6 +21,7 @@ public:
     /// Proposes the data from the document, or restores those entered before. Where the company's own data
     /// were never compiled it says so and returns to the document.
     void attiva();
+    Bordata bordata() const { return m_contesto.bordata(); }
     /// Returns to the document.
     void lascia(); ///< `comando(4)`
 

@@ -27,6 +27,7 @@ public:
     void prepara(Movimento movimento) { m_movimento = std::move(movimento); }
     void attiva();
     QString titolo() const;
+    Bordata bordata() const { return m_contesto.bordata(); }
 
     QString testo(Cella cella) const;
     /// A change of an account also moves the list to the first account that begins so.

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QProcess>
@@ -51,15 +52,28 @@ private:
     bool m_sospeso;
 };
 
+/// A box that comes up under a key held down is not answered by that key before anybody has read it.
+class SenzaRipetizioni : public QObject {
+public:
+    SenzaRipetizioni() { QCoreApplication::instance()->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject*, QEvent* evento) override {
+        return evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->isAutoRepeat();
+    }
+};
+
 } // namespace
 
 void OperatoreQt::messaggio(const QString& testo, const QString& titolo, Icona icona) {
     const CursoreNormale cursore;
+    const SenzaRipetizioni filtro;
     QMessageBox(iconaQt(icona), titolo, testo, QMessageBox::Ok, m_finestra).exec();
 }
 
 bool OperatoreQt::chiedi(const QString& testo, const QString& titolo, Icona icona) {
     const CursoreNormale cursore;
+    const SenzaRipetizioni filtro;
     QMessageBox box(iconaQt(icona), titolo, testo, QMessageBox::Yes | QMessageBox::No, m_finestra);
     box.button(QMessageBox::Yes)->setText(QStringLiteral("&Sì"));
     box.button(QMessageBox::No)->setText(QStringLiteral("&No"));

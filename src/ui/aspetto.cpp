@@ -1,14 +1,30 @@
 #include "ui/aspetto.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
 namespace bor {
 
+namespace {
+
+/// Qt's own words, in its boxes and menus, and its names of days and months.
+void parlaItaliano(QApplication& applicazione) {
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* italiano = new QTranslator(&applicazione);
+    if (italiano->load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(italiano);
+}
+
+} // namespace
+
 void applicaAspetto(QApplication& applicazione) {
+    parlaItaliano(applicazione);
     applicazione.setStyle(QStyleFactory::create(u"Fusion"_s));
     QPalette tinte;
     tinte.setColor(QPalette::Window, QColor(0xEE, 0xF1, 0xF5));

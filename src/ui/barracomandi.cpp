@@ -7,6 +7,7 @@
 namespace bor {
 
 BarraComandi::BarraComandi(Legami& legami) : m_legami(legami), m_layout(new QHBoxLayout(this)) {
+    setAccessibleName(QStringLiteral("Comandi"));
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->addStretch();
 }

@@ -1,18 +1,16 @@
 #include "ui/campi.h"
 
-#include "common/date.h"
+#include "ui/legami.h"
+#include "ui/validatoreimporto.h"
 
-#include <QCalendarWidget>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QIcon>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
-#include <QShortcutEvent>
-#include <QValidator>
-#include <QWidgetAction>
+#include <QMouseEvent>
+#include <QShortcut>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,22 +18,7 @@ namespace bor {
 
 namespace {
 
-constexpr int caratteriImporto = 12;
-constexpr int caratteriData = 10;
-
-class ValidatoreImporto : public QValidator {
-public:
-    using QValidator::QValidator;
-
-    State validate(QString& testo, int&) const override {
-        testo.replace(u',', u'.');
-        for (const QChar c : std::as_const(testo)) {
-            if (!(c >= u'0' && c <= u'9') && c != u'.' && c != u'-' && c != u'+' && c != u' ')
-                return Invalid;
-        }
-        return Acceptable;
-    }
-};
+constexpr int caratteriImporto = 12; ///< that a box for a number is wide
 
 } // namespace
 
@@ -62,75 +45,35 @@ QSize CampoTesto::minimumSizeHint() const {
     return {fontMetrics().horizontalAdvance(u'0') * caratteriMinimi, sizeHint().height()};
 }
 
-CampoImporto::CampoImporto(const QString& nome, const QString& didascalia, QWidget* parent)
-    : CampoTesto(nome, didascalia, 0, parent) {
+void CampoTesto::focusInEvent(QFocusEvent* evento) {
+    m_appenaEntrato = m_selezionaAlClic && evento->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(evento);
+}
+
+void CampoTesto::mouseReleaseEvent(QMouseEvent* evento) {
+    QLineEdit::mouseReleaseEvent(evento);
+    if (std::exchange(m_appenaEntrato, false) && !hasSelectedText())
+        selectAll();
+}
+
+CampoImporto::CampoImporto(const QString& nome, const QString& didascalia, int caratteri, QWidget* parent)
+    : CampoTesto(nome, didascalia, 0, parent), m_validatore(new ValidatoreImporto(caratteri, this)) {
     setAlignment(Qt::AlignRight);
-    m_caratteri = caratteriImporto;
-    setValidator(new ValidatoreImporto(this));
+    m_caratteri = caratteri > 0 ? caratteri : caratteriImporto;
+    setValidator(m_validatore);
+    selezionaAlClic();
 }
 
-CampoData::CampoData(const QString& nome, const QString& nomeCalendario, const QString& didascalia,
-                     QWidget* parent)
-    : QWidget(parent), m_campo(new CampoTesto(nome, didascalia, caratteriData)), m_bottone(new QToolButton) {
-    m_bottone->setObjectName(nomeCalendario);
-    m_bottone->setAccessibleName(didascalia + u": calendario"_s);
-    m_bottone->setIcon(QIcon(u":/icone/calendario.svg"_s));
-    m_bottone->setToolTip(u"Calendario (F4)"_s);
-    m_bottone->setFocusPolicy(Qt::NoFocus);
-    m_campo->installEventFilter(this);
-    connect(m_bottone, &QToolButton::clicked, this, [this] { apriCalendario(); });
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(2);
-    layout->addWidget(m_campo);
-    layout->addWidget(m_bottone);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setFocusProxy(m_campo);
-}
-
-bool CampoData::eventFilter(QObject* oggetto, QEvent* evento) {
-    if (oggetto == m_campo && evento->type() == QEvent::FocusOut) {
-        const QString completa = completaData(m_campo->text());
-        if (completa != m_campo->text())
-            metti(completa);
-    }
-    if (oggetto == m_campo && evento->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F4) {
-        apriCalendario();
-        return true;
-    }
-    return false;
-}
-
-void CampoData::apriCalendario() {
-    QMenu menu(this);
-    auto* calendario = new QCalendarWidget;
-    calendario->setLocale(QLocale(QLocale::Italian, QLocale::Italy));
-    calendario->setSelectedDate(dataValida(m_campo->text()).value_or(QDate::currentDate()));
-    auto* azione = new QWidgetAction(&menu);
-    azione->setDefaultWidget(calendario);
-    menu.addAction(azione);
-    const auto scegli = [&](QDate giorno) {
-        menu.close();
-        metti(testoData(giorno));
-    };
-    connect(calendario, &QCalendarWidget::clicked, &menu, scegli);
-    connect(calendario, &QCalendarWidget::activated, &menu, scegli);
-    calendario->setFocus();
-    menu.exec(mapToGlobal(QPoint(0, height())));
-    m_campo->setFocus();
-}
-
-void CampoData::metti(const QString& testo) {
-    m_campo->setText(testo);
-    Q_EMIT m_campo->textEdited(testo);
+void CampoImporto::focusInEvent(QFocusEvent* evento) {
+    if (!interrompeSoltanto(evento->reason()))
+        m_validatore->entra();
+    CampoTesto::focusInEvent(evento);
 }
 
 BottoneComando::BottoneComando(const QString& nome, const QString& didascalia, const QString& icona,
                                const QKeySequence& tasto, QWidget* parent)
-    : QToolButton(parent) {
+    : QToolButton(parent), m_tasto(tasto), m_scorciatoia(new QShortcut(this)) {
     setObjectName(nome);
-    setText(didascalia);
     setAccessibleName(didascalia);
     if (!icona.isEmpty()) {
         setIcon(QIcon(u":/icone/%1.svg"_s.arg(icona)));
@@ -138,19 +81,25 @@ BottoneComando::BottoneComando(const QString& nome, const QString& didascalia, c
         setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     }
     setFocusPolicy(Qt::TabFocus);
-    setShortcut(tasto);
+    m_scorciatoia->setAutoRepeat(false);
+    m_scorciatoia->setWhatsThis(didascalia);
+    connect(m_scorciatoia, &QShortcut::activated, this, [this] { click(); });
+    mettiDidascalia(didascalia);
     const QString scritto = tasto.toString(QKeySequence::NativeText);
     setToolTip(scritto.isEmpty() ? didascalia : didascalia + u" ("_s + scritto + u")"_s);
 }
 
-bool BottoneComando::event(QEvent* evento) {
-    // Qt presses a button by its shortcut only a tenth of a second later; who works from the keyboard is
-    // faster.
-    if (evento->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(evento)->isAmbiguous()) {
-        click();
-        return true;
+void BottoneComando::mettiDidascalia(const QString& didascalia) {
+    setText(didascalia);
+    // Qt's own shortcut of the letter would press the button again as long as the key is held, and only a
+    // tenth of a second later.
+    setShortcut({});
+    QList<QKeySequence> tasti;
+    for (const QKeySequence& tasto : {m_tasto, QKeySequence::mnemonic(didascalia)}) {
+        if (!tasto.isEmpty())
+            tasti.append(tasto);
     }
-    return QToolButton::event(evento);
+    m_scorciatoia->setKeys(tasti);
 }
 
 QLabel* didascalia(const QString& testo, QWidget* campo, QWidget* parent) {

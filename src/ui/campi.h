@@ -7,6 +7,7 @@
 
 class QLabel;
 class QGridLayout;
+class QShortcut;
 
 namespace bor {
 
@@ -19,47 +20,50 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// A click that brings the focus selects the whole content, as the Tab key does.
+    void selezionaAlClic() { m_selezionaAlClic = true; }
 
 protected:
+    void focusInEvent(QFocusEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+
     int m_caratteri; ///< characters that the box is wide; 0 for as wide as it gets
-};
-
-/// A box for a number: right-aligned, takes digits, sign and point, and a typed or pasted comma becomes the
-/// point.
-class CampoImporto : public CampoTesto {
-public:
-    CampoImporto(const QString& nome, const QString& didascalia, QWidget* parent = nullptr);
-};
-
-/// A date box with a calendar button beside it. On leaving, "311215" and "31122015" become "31/12/2015"; any
-/// other text stays for the checks of its form. The line edit carries the control's name.
-class CampoData : public QWidget {
-public:
-    CampoData(const QString& nome, const QString& nomeCalendario, const QString& didascalia,
-              QWidget* parent = nullptr);
-
-    QLineEdit* campo() const { return m_campo; }
-
-protected:
-    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
-    void apriCalendario();
-    void metti(const QString& testo);
-
-    CampoTesto* m_campo;
-    QToolButton* m_bottone;
+    bool m_selezionaAlClic = false;
+    bool m_appenaEntrato = false; ///< by a click whose button is still down
 };
 
-/// A picture button: icon, caption under it, and its shortcut in the tooltip.
+class ValidatoreImporto;
+
+/// A box for a number: right-aligned, with what `ValidatoreImporto` lets in.
+class CampoImporto : public CampoTesto {
+public:
+    /// `caratteri`: the most that the field on file holds; 0 for a number of fifteen digits.
+    CampoImporto(const QString& nome, const QString& didascalia, int caratteri = 0,
+                 QWidget* parent = nullptr);
+
+protected:
+    void focusInEvent(QFocusEvent* evento) override;
+
+private:
+    ValidatoreImporto* m_validatore;
+};
+
+/// A picture button: icon, caption under it, and its shortcut in the tooltip. A key that is held presses it
+/// once.
 class BottoneComando : public QToolButton {
 public:
     /// `icona` names a file of `src/ui/icone` without its ending; without one the button is its text.
     BottoneComando(const QString& nome, const QString& didascalia, const QString& icona,
                    const QKeySequence& tasto, QWidget* parent = nullptr);
 
-protected:
-    bool event(QEvent* evento) override;
+    /// The caption anew, with "&" in front of the letter that presses the button together with Alt.
+    void mettiDidascalia(const QString& didascalia);
+
+private:
+    QKeySequence m_tasto;
+    QShortcut* m_scorciatoia;
 };
 
 /// A caption that belongs to a field and, with "&", gives it a key.

@@ -17,15 +17,15 @@ CampoTesto* CampiLegati::testo(const QString& nome, const QString& didascalia, i
 }
 
 CampoImporto* CampiLegati::importo(const QString& nome, const QString& didascalia,
-                                   const Legame<QString>& dato) const {
-    auto* campo = new CampoImporto(nome, didascalia);
+                                   const Legame<QString>& dato, int caratteri) const {
+    auto* campo = new CampoImporto(nome, didascalia, caratteri);
     m_legami.testo(campo, dato.leggi, dato.scrivi);
     return campo;
 }
 
 CampoData* CampiLegati::data(const QString& nome, const QString& calendario, const QString& didascalia,
                              const Legame<QString>& dato) const {
-    auto* data = new CampoData(nome, calendario, didascalia);
+    auto* data = new CampoData(nome, calendario, didascalia, m_bordata);
     m_legami.testo(data->campo(), dato.leggi, dato.scrivi);
     return data;
 }

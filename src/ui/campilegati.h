@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/campi.h"
+#include "ui/campodata.h"
 #include "ui/invio.h"
 #include "ui/legame.h"
 #include "ui/legami.h"
@@ -14,11 +15,13 @@ namespace bor {
 
 class CampiLegati {
 public:
-    explicit CampiLegati(Legami& legami) : m_legami(legami) {}
+    /// `bordata`: the date dialog of the form's date fields.
+    CampiLegati(Legami& legami, const Bordata& bordata) : m_legami(legami), m_bordata(bordata) {}
 
     CampoTesto* testo(const QString& nome, const QString& didascalia, int caratteri,
                       const Legame<QString>& dato) const;
-    CampoImporto* importo(const QString& nome, const QString& didascalia, const Legame<QString>& dato) const;
+    CampoImporto* importo(const QString& nome, const QString& didascalia, const Legame<QString>& dato,
+                          int caratteri = 0) const;
     CampoData* data(const QString& nome, const QString& calendario, const QString& didascalia,
                     const Legame<QString>& dato) const;
     QCheckBox* spunta(const QString& nome, const QString& didascalia, const Legame<bool>& dato) const;
@@ -28,6 +31,7 @@ public:
 
 private:
     Legami& m_legami;
+    Bordata m_bordata;
 };
 
 /// "nome(3)".

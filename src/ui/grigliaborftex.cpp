@@ -86,7 +86,6 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     CampoTesto* nuovo = modello.numero ? new CampoImporto(nome, didascalia)
                                        : new CampoTesto(nome, didascalia, modello.caratteri);
     if (cella.campo != Campo::Ds) {
-        nuovo->setMaxLength(modello.caratteri);
         nuovo->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * (modello.caratteri + 2));
     }
     // The rows share the height that the window has to give.

@@ -1,7 +1,9 @@
 #include "ui/invio.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QWidget>
 
 #include <utility>
@@ -33,13 +35,19 @@ bool PercorsoInvio::eventFilter(QObject* oggetto, QEvent* evento) {
     const bool invio = tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter;
     if (!invio || (tasto->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
         return false;
+    auto* widget = static_cast<QWidget*>(oggetto);
+    // Held, the key walks through the fields but presses and chooses nothing by the way.
+    const QWidget* inFuoco = widget->focusWidget() ? widget->focusWidget() : widget;
+    if (tasto->isAutoRepeat() &&
+        (qobject_cast<const QAbstractButton*>(inFuoco) || qobject_cast<const QAbstractItemView*>(inFuoco)))
+        return true;
     const auto passo = m_passi.find(oggetto);
     if (passo != m_passi.end()) {
         passo->second();
         return true;
     }
     // An Enter that nobody took comes up to the view from the widget in focus.
-    if (auto* bottone = qobject_cast<QAbstractButton*>(static_cast<QWidget*>(oggetto)->focusWidget())) {
+    if (auto* bottone = qobject_cast<QAbstractButton*>(widget->focusWidget())) {
         bottone->click();
         return true;
     }
@@ -48,6 +56,9 @@ bool PercorsoInvio::eventFilter(QObject* oggetto, QEvent* evento) {
 
 void vaiA(QWidget* widget) {
     widget->setFocus(Qt::TabFocusReason);
+    // A field that has the focus already gets no such event.
+    if (auto* campo = qobject_cast<QLineEdit*>(widget))
+        campo->selectAll();
 }
 
 } // namespace bor

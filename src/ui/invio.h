@@ -13,7 +13,8 @@ namespace bor {
 
 class PercorsoInvio : public QObject {
 public:
-    /// Installs itself on the view: Enter on a button that has no step of its own presses it.
+    /// Installs itself on the view: Enter on a button that has no step of its own presses it. Held, it
+    /// presses no button and chooses nothing from a list.
     explicit PercorsoInvio(QWidget* vista);
 
     /// Enter in `da` moves the focus to `a`.

@@ -1,16 +1,33 @@
 #include "ui/legami.h"
 
 #include <QAbstractSlider>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include <utility>
 
 namespace bor {
+
+namespace {
+
+/// True in a window that is not the active one, too.
+bool inFuoco(const QWidget* widget) {
+    return widget->window()->focusWidget() == widget;
+}
+
+} // namespace
+
+bool interrompeSoltanto(Qt::FocusReason motivo) {
+    return motivo == Qt::ActiveWindowFocusReason || motivo == Qt::PopupFocusReason ||
+           motivo == Qt::MenuBarFocusReason;
+}
 
 Legami::Legami(std::function<void()> dopo) : m_dopo(std::move(dopo)) {}
 
@@ -54,6 +71,7 @@ void Legami::lista(QComboBox* lista, std::function<int()> leggi, std::function<v
         const QSignalBlocker zitto(lista);
         lista->setCurrentIndex(leggi());
     });
+    lista->installEventFilter(this);
     connect(lista, &QComboBox::activated, this, [this, scrivi](int i) { esegui([&] { scrivi(i); }); });
 }
 
@@ -62,6 +80,7 @@ void Legami::cursore(QAbstractSlider* cursore, std::function<int()> leggi, std::
         const QSignalBlocker zitto(cursore);
         cursore->setValue(leggi());
     });
+    cursore->installEventFilter(this);
     connect(cursore, &QAbstractSlider::valueChanged, this,
             [this, scrivi](int v) { esegui([&] { scrivi(v); }); });
 }
@@ -83,7 +102,26 @@ void Legami::altro(std::function<void()> aggiorna) {
 }
 
 void Legami::comando(QAbstractButton* bottone, std::function<void()> azione) {
-    connect(bottone, &QAbstractButton::clicked, this, [this, azione] { esegui(azione); });
+    connect(bottone, &QAbstractButton::clicked, this, [this, azione] { eseguiComando(azione); });
+}
+
+void Legami::eseguiComando(const std::function<void()>& azione) {
+    const QWidget* finestra = QApplication::activeWindow();
+    const QPointer<QLineEdit> campo = finestra ? qobject_cast<QLineEdit*>(finestra->focusWidget()) : nullptr;
+    if (!campo) {
+        esegui(azione);
+        return;
+    }
+    const QString prima = campo->text();
+    const bool selezionato = campo->selectedText() == prima;
+    campo->clearFocus();
+    esegui(azione);
+    if (!campo || !campo->isVisible() || campo->window()->focusWidget())
+        return;
+    const QScopedValueRollback ritorno(m_ritorno, true);
+    campo->setFocus();
+    if (selezionato || campo->text() != prima)
+        campo->selectAll();
 }
 
 void Legami::entrato(QWidget* widget, std::function<void()> evento) {
@@ -109,18 +147,32 @@ void Legami::aggiorna() {
 }
 
 bool Legami::eventFilter(QObject* oggetto, QEvent* evento) {
-    const bool entrata = evento->type() == QEvent::FocusIn;
-    if (!entrata && evento->type() != QEvent::FocusOut)
+    switch (evento->type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        fuoco(oggetto, static_cast<QFocusEvent*>(evento));
         return false;
-    const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
-    if (motivo == Qt::ActiveWindowFocusReason || motivo == Qt::PopupFocusReason ||
-        motivo == Qt::MenuBarFocusReason)
+    case QEvent::Wheel:
+        if (qobject_cast<QComboBox*>(oggetto) ||
+            (qobject_cast<QAbstractSlider*>(oggetto) && !inFuoco(static_cast<QWidget*>(oggetto)))) {
+            // Whoever scrolls the screen passes over lists and bars: the wheel is for what lies behind them.
+            evento->ignore();
+            return true;
+        }
         return false;
+    default:
+        return false;
+    }
+}
+
+void Legami::fuoco(const QObject* oggetto, const QFocusEvent* evento) {
+    const bool entrata = evento->gotFocus();
+    if (interrompeSoltanto(evento->reason()) || (entrata && m_ritorno))
+        return;
     for (const Fuoco& fuoco : m_fuochi) {
         if (fuoco.widget == oggetto && fuoco.entrata == entrata)
             esegui(fuoco.evento);
     }
-    return false;
 }
 
 } // namespace bor

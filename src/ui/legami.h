@@ -10,11 +10,15 @@
 class QAbstractButton;
 class QAbstractSlider;
 class QComboBox;
+class QFocusEvent;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 
 namespace bor {
+
+/// The focus only goes for a while to a menu, a list or another window, and comes back.
+bool interrompeSoltanto(Qt::FocusReason motivo);
 
 class Legami : public QObject {
 public:
@@ -28,8 +32,10 @@ public:
     /// half-typed number stays as it is until the operator leaves the field.
     void testo(QLineEdit* campo, Leggi leggi, Scrivi scrivi = {});
     void spunta(QAbstractButton* bottone, std::function<bool()> leggi, std::function<void(bool)> scrivi);
-    /// Positions count from 0; -1 is no selection. `scrivi` hears only what the operator chooses.
+    /// Positions count from 0; -1 is no selection. `scrivi` hears only what the operator chooses, and the
+    /// wheel chooses nothing while the list is closed.
     void lista(QComboBox* lista, std::function<int()> leggi, std::function<void(int)> scrivi);
+    /// The wheel moves the bar only while it has the focus.
     void cursore(QAbstractSlider* cursore, std::function<int()> leggi, std::function<void(int)> scrivi);
     void etichetta(QLabel* etichetta, Leggi leggi);
     void visibile(QWidget* widget, std::function<bool()> leggi);
@@ -38,6 +44,9 @@ public:
     void altro(std::function<void()> aggiorna);
 
     void comando(QAbstractButton* bottone, std::function<void()> azione);
+    /// Runs a command. The field in focus is first settled as leaving it would; afterwards the operator is in
+    /// it again, unless the command led elsewhere.
+    void eseguiComando(const std::function<void()>& azione);
     /// The operator moves to the field, or leaves it for another widget of the window.
     void entrato(QWidget* widget, std::function<void()> evento);
     void lasciato(QWidget* widget, std::function<void()> evento);
@@ -50,6 +59,7 @@ protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
+    void fuoco(const QObject* oggetto, const QFocusEvent* evento);
     struct Fuoco {
         QObject* widget;
         bool entrata;
@@ -60,6 +70,7 @@ private:
     std::vector<std::function<void()>> m_aggiornamenti;
     std::vector<Fuoco> m_fuochi;
     QObject* m_inModifica = nullptr;
+    bool m_ritorno = false; ///< the focus comes back to a field after a command
 };
 
 } // namespace bor

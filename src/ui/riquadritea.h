@@ -13,7 +13,7 @@ struct BancoTea {
     Borftea& form;
     Legami& legami;
     PercorsoInvio& invio;
-    CampiLegati campi{legami};
+    CampiLegati campi{legami, form.bordata()};
 };
 
 /// A frame and the ends of its Enter walk.

@@ -63,8 +63,10 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
         griglia->addWidget(iv, i + 1, 0);
         griglia->addWidget(es, i + 1, 3);
         for (const ColonnaIva& c : colonne) {
-            auto* casella =
-                new CampoImporto(indicizzato(c.nome, i), u"%1, riga %2"_s.arg(c.descrizione).arg(i + 1));
+            auto* casella = new CampoImporto(indicizzato(c.nome, i), c.descrizione.toString());
+            banco.legami.altro([&form, casella, i, c] {
+                casella->setAccessibleName(c.descrizione.toString() + form.nomeRigaIva(i, c.voce));
+            });
             casella->setMaximumWidth(casella->minimumSizeHint().width());
             banco.legami.testo(
                 casella, [&form, i, voce = c.voce] { return form.importo(i, voce); },

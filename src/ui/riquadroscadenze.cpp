@@ -51,9 +51,8 @@ QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso)
     auto* linea = new QHBoxLayout(insieme);
     linea->setContentsMargins(0, 0, 0, 0);
     Borftea& form = banco.form;
-    auto* aliquota = banco.campi.testo(u"pro(0)"_s, u"Provvigione agente: Aliquota"_s, 4,
-                                       legame(form, &Scadenze::provaliq));
-    aliquota->setAlignment(Qt::AlignRight);
+    auto* aliquota = banco.campi.importo(u"pro(0)"_s, u"Provvigione agente: Aliquota"_s,
+                                         legame(form, &Scadenze::provaliq), caratteriProvvigione);
     auto* importo =
         banco.campi.importo(u"pro(1)"_s, u"Provvigione agente: Importo"_s, legame(form, &Scadenze::provimp));
     for (QWidget* campo : {static_cast<QWidget*>(aliquota), static_cast<QWidget*>(importo)})

@@ -1,22 +1,61 @@
 #include "ui/vista.h"
 
+#include "ui/lettere.h"
+
 #include <QKeyEvent>
+#include <QShortcut>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace bor {
 
 Vista::Vista(QWidget* parent)
     : QWidget(parent), legami([this] {
           // After an event that led to another screen, this one no longer names the window.
-          if (isVisible())
-              window()->setWindowTitle(titolo());
+          if (!isVisible())
+              return;
+          window()->setWindowTitle(titolo());
+          if (!std::exchange(m_nomiDistinti, true))
+              distinguiNomi(*this);
+          assegnaLettere(*this);
       }),
-      invio(this) {}
+      invio(this) {
+    auto* aiuto = new QShortcut(Qt::Key_F12, this);
+    aiuto->setAutoRepeat(false);
+    aiuto->setWhatsThis(u"Tasti di questo schermo"_s);
+    connect(aiuto, &QShortcut::activated, this,
+            [this] { (new FinestraTasti(titolo(), tasti(), this))->open(); });
+}
+
+QList<TastoSchermo> Vista::tasti() const {
+    QList<TastoSchermo> elenco;
+    for (const auto* scorciatoia : findChildren<QShortcut*>()) {
+        const auto* padrone = qobject_cast<QWidget*>(scorciatoia->parent());
+        if (scorciatoia->whatsThis().isEmpty() || !padrone->isVisibleTo(this))
+            continue;
+        QStringList scritti;
+        for (const QKeySequence& tasto : scorciatoia->keys())
+            scritti.append(tasto.toString(QKeySequence::NativeText));
+        if (!scritti.isEmpty())
+            elenco.append({scritti.join(u", "_s), scorciatoia->whatsThis()});
+    }
+    return elenco + altriTasti +
+           QList<TastoSchermo>{
+               {u"Invio"_s, u"Al campo seguente; preme il bottone su cui si è"_s},
+               {u"Tab, Maiusc+Tab"_s, u"Al campo seguente, al precedente"_s},
+               {u"Esc"_s, u"Lascia lo schermo, come il suo bottone di uscita"_s},
+               {u"Alt e lettera sottolineata"_s, u"Al campo della didascalia; preme il bottone"_s},
+               {u"F4"_s, u"Nel campo di una data: il calendario"_s},
+               {u","_s, u"Negli importi: il punto decimale; i punti scritti prima erano migliaia"_s}};
+}
 
 void Vista::keyPressEvent(QKeyEvent* evento) {
-    if (evento->key() == Qt::Key_Escape && evento->modifiers() == Qt::NoModifier)
-        lascia();
-    else
+    if (evento->key() != Qt::Key_Escape || evento->modifiers() != Qt::NoModifier)
         QWidget::keyPressEvent(evento);
+    else if (!evento->isAutoRepeat())
+        lascia();
 }
 
 } // namespace bor

@@ -1,6 +1,7 @@
 // The base of all screens: a widget over one form, shown in the one window.
 #pragma once
 
+#include "ui/finestratasti.h"
 #include "ui/invio.h"
 #include "ui/legami.h"
 
@@ -18,12 +19,18 @@ public:
     virtual void lascia() = 0;
     /// Caption of the window while the screen is in view.
     virtual QString titolo() const = 0;
+    /// The keys of the screen, those of its commands in view first.
+    QList<TastoSchermo> tasti() const;
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
 
     Legami legami;
     PercorsoInvio invio;
+    QList<TastoSchermo> altriTasti; ///< keys of the screen that are no command's
+
+private:
+    bool m_nomiDistinti = false;
 };
 
 } // namespace bor

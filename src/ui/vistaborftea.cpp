@@ -51,6 +51,7 @@ VistaBorftea::VistaBorftea(Borftea& form, QWidget* parent) : Vista(parent), m_fo
     layout->addWidget(creaComandi());
     collegaPercorso(estremi, scadenze, ricavi);
     legami.altro([this] { seguiFuoco(); });
+    altriTasti = {{u"PagSu, PagGiù"_s, u"Le prime righe iva, le ultime"_s}};
 }
 
 QWidget* VistaBorftea::creaProspetti(const BancoTea& banco) {
@@ -64,6 +65,7 @@ QWidget* VistaBorftea::creaProspetti(const BancoTea& banco) {
 
 QWidget* VistaBorftea::creaScelta() {
     auto* barra = new QWidget;
+    barra->setAccessibleName(u"Prospetti del documento"_s);
     auto* linea = new QHBoxLayout(barra);
     linea->setContentsMargins(0, 0, 0, 0);
     linea->setSpacing(4);
@@ -116,6 +118,7 @@ QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
 
     auto* scelta = new QWidget;
     scelta->setObjectName(u"Picture1"_s);
+    scelta->setAccessibleName(u"File PDF del documento"_s);
     auto* bottoni = new QHBoxLayout(scelta);
     bottoni->setContentsMargins(0, 0, 0, 0);
     const auto bottone = [&](int i, const QString& testo, const QString& tasto, Comando quale) {
@@ -179,19 +182,13 @@ void VistaBorftea::collegaPercorso(const RiquadroTea& estremi, const RiquadroTea
 
 void VistaBorftea::mostraProspetto(Prospetto prospetto) {
     bool mostrato = false;
-    legami.esegui([&] { mostrato = m_form.mostraProspetto(prospetto); });
+    legami.eseguiComando([&] { mostrato = m_form.mostraProspetto(prospetto); });
     if (mostrato)
         vaiA(m_prospetti[indice(prospetto)].primo);
 }
 
 void VistaBorftea::esegui(Comando comando) {
-    // A command works on what the field in focus says once it is left: "311215" is a date only then.
-    QWidget* campo = focusWidget();
-    if (campo)
-        campo->clearFocus();
-    legami.esegui([&] { m_form.esegui(comando); });
-    if (campo && isVisible() && !focusWidget())
-        campo->setFocus();
+    legami.eseguiComando([&] { m_form.esegui(comando); });
 }
 
 void VistaBorftea::seguiFuoco() {
@@ -242,8 +239,12 @@ void VistaBorftea::keyPressEvent(QKeyEvent* evento) {
 }
 
 void VistaBorftea::wheelEvent(QWheelEvent* evento) {
-    if (m_form.prospetto() == Prospetto::RigheIva && m_pila->underMouse())
-        QApplication::sendEvent(controllo(u"VScroll1"_s), evento);
+    if (m_form.prospetto() != Prospetto::RigheIva || !m_pila->underMouse())
+        return;
+    // The box in focus comes to show another row: a digit typed by surprise must not change that one.
+    QWidget* cursore = controllo(u"VScroll1"_s);
+    cursore->setFocus();
+    QApplication::sendEvent(cursore, evento);
 }
 
 } // namespace bor

@@ -1,7 +1,7 @@
 #include "ui/vistaborftec.h"
 
 #include "ui/barracomandi.h"
-#include "ui/campi.h"
+#include "ui/campodata.h"
 #include "ui/legame.h"
 
 #include <QGridLayout>
@@ -60,7 +60,7 @@ QWidget* VistaBorftec::creaTestata() {
     auto* riquadro = new QGroupBox(u"Estremi"_s);
     riquadro->setObjectName(u"Frame1"_s);
     auto* riga = new QHBoxLayout(riquadro);
-    auto* giorno = new CampoData(u"Text2"_s, u"calendario"_s, u"Data del movimento"_s);
+    auto* giorno = new CampoData(u"Text2"_s, u"calendario"_s, u"Data del movimento"_s, m_form.bordata());
     auto* descrizione = new CampoTesto(u"Text1(0)"_s, u"Descrizione"_s, 40);
     auto* riferimento = new CampoTesto(u"Text1(1)"_s, u"Riferimento"_s, 20);
     const auto aggiungi = [&](const QString& nome, QWidget* widget, QLineEdit* campo,

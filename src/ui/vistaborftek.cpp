@@ -1,7 +1,7 @@
 #include "ui/vistaborftek.h"
 
 #include "ui/barracomandi.h"
-#include "ui/campi.h"
+#include "ui/campodata.h"
 #include "ui/cursorerighe.h"
 
 #include <QApplication>
@@ -52,6 +52,7 @@ VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_fo
         if (const auto cella = m_form.prendiFuoco())
             vaiA(m_campi[static_cast<std::size_t>(cella->linea)][static_cast<std::size_t>(cella->campo)]);
     });
+    altriTasti = {{u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s}};
 }
 
 QWidget* VistaBorftek::creaRighe() {
@@ -79,7 +80,7 @@ void VistaBorftek::creaLinea(QGridLayout* griglia, int linea) {
         const QString didascalia = u"%1, riga %2"_s.arg(intestazione).arg(linea + 1);
         QWidget* widget = nullptr;
         if (campo == Campo::Data) {
-            auto* giorno = new CampoData(nome, u"aartic(%1)"_s.arg(linea), didascalia);
+            auto* giorno = new CampoData(nome, u"aartic(%1)"_s.arg(linea), didascalia, m_form.bordata());
             m_campi[static_cast<std::size_t>(linea)][c] = giorno->campo();
             widget = giorno;
         } else {

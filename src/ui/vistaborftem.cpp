@@ -37,6 +37,7 @@ VistaBorftem::VistaBorftem(Borftem& form, QWidget* parent) : Vista(parent), m_fo
     layout->addWidget(creaRicerca());
     layout->addWidget(creaComandi());
     collegaPercorsi(cliente);
+    altriTasti = {{u"Su, Giù, PagSu, PagGiù"_s, u"Nel campo del nome: gli altri clienti, in ordine"_s}};
 }
 
 QWidget* VistaBorftem::creaRicerca() {

@@ -58,7 +58,7 @@ private:
     Percorso& percorso(RiquadroTestata quale) { return m_percorsi[static_cast<std::size_t>(quale)]; }
 
     Borftem& m_form;
-    CampiLegati m_campi{legami};
+    CampiLegati m_campi{legami, m_form.bordata()};
     std::array<Percorso, 3> m_percorsi; ///< by `RiquadroTestata`
     std::array<QRadioButton*, 3> m_mezzo{};
     QLineEdit* m_nome = nullptr;

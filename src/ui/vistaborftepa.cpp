@@ -1,7 +1,7 @@
 #include "ui/vistaborftepa.h"
 
 #include "ui/barracomandi.h"
-#include "ui/campi.h"
+#include "ui/campodata.h"
 #include "ui/finestrarilievi.h"
 
 #include <QCheckBox>
@@ -170,7 +170,8 @@ QLineEdit* VistaBorftepa::creaTesto(TestoFpa quale, const QString& descrizione, 
 
 QWidget* VistaBorftepa::creaData(DataFpa quale, const QString& descrizione) {
     const int indice = static_cast<int>(quale);
-    auto* casella = new CampoData(u"dsca(%1)"_s.arg(indice), u"ddsca(%1)"_s.arg(indice), descrizione);
+    auto* casella =
+        new CampoData(u"dsca(%1)"_s.arg(indice), u"ddsca(%1)"_s.arg(indice), descrizione, m_form.bordata());
     QLineEdit* campo = casella->campo();
     lega(campo, quale);
     legami.lasciato(campo, [this, quale] { m_form.lasciaData(quale); });

@@ -76,6 +76,8 @@ VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
     corpo->addWidget(creaLista(), 2);
     layout->addWidget(creaOpzioni());
     layout->addLayout(corpo, 1);
+    altriTasti = {{u"F1"_s, u"In una descrizione: cerca l'articolo che la contiene"_s},
+                  {u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s}};
     auto* stato = new QLabel;
     stato->setObjectName(u"listx"_s);
     stato->setAccessibleName(u"Articolo della riga"_s);

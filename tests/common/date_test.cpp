@@ -23,6 +23,9 @@ TEST(Date, LeFormeBreviSiCompletano) {
     EXPECT_EQ(completaData(u"010285"), u"01/02/1985"_s);
     EXPECT_EQ(completaData(u"310215"), u"310215"_s);
     EXPECT_EQ(completaData(u"domani"), u"domani"_s);
+    const QString inesistente = completaData(u"31042016");
+    EXPECT_EQ(inesistente, u"31/04/2016"_s);
+    EXPECT_EQ(dataDaGiornoMeseAnno(giornoMeseAnno(inesistente)), inesistente);
 }
 
 TEST(Date, LeDueFormeDelFileNonSiConfondono) {

@@ -61,6 +61,12 @@ protected:
     Borftex form{contesto.contesto, documento};
 };
 
+TEST_F(Righe, LeVociEsentiFinisconoConLaDescrizione) {
+    contesto.tabelle.esenzioni[4].testo = u"Esente art. 10"_s.leftJustified(100) + u'3';
+    EXPECT_EQ(form.vociIva()[15], u"16 Esente art. 10"_s);
+    EXPECT_EQ(form.vociIva()[14], u"15 Esente art.10"_s);
+}
+
 TEST_F(Righe, ArticoloRiempieLaRigaEPortaAllaQuantita) {
     ddd(1).codice2 = u"S2"_s;
     form.attiva();

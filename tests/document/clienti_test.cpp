@@ -1,6 +1,8 @@
 // Finding customers and agents, and what a new document takes from them.
 #include "document/clienti.h"
 #include "document/defaultcliente.h"
+#include "document/righeiva.h"
+#include "document/totali.h"
 #include "support/azienda.h"
 
 #include <gtest/gtest.h>
@@ -112,6 +114,18 @@ TEST_F(Clienti, DatiDelCliente) {
     prendiCliente(d, c.archivio, 500);
     EXPECT_EQ(dati.sede.ragione1 + dati.coordinate + dati.contoricavi.unito(), u"");
     EXPECT_EQ(dati.pagamento, 59) << "a payment type outside the list leaves the one before";
+}
+
+TEST_F(Clienti, LaProvvigioneDellAgenteEQuellaCheSiRegistra) {
+    agente(u"4"_s, u"12,75"_s);
+    ContestoDiProva c(azienda);
+    Documento d;
+    d.cliente.agente = 4;
+    mettiImportoIva(d.coppia, VoceIva::Imponibile, 1, 1000);
+    prendiDefaults(d, c.contesto);
+    ricalcolaDocumento(d, c.contesto);
+    EXPECT_EQ(d.scadenze.provaliq, u"12,7");
+    EXPECT_EQ(d.scadenze.provimp, u"127");
 }
 
 TEST_F(Clienti, DefaultDelDocumentoNuovo) {

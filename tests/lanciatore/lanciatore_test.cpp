@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
@@ -34,6 +38,10 @@ public:
     Unita() {
         scrivi(suite(u"boraz0.012/borlano.int"_s), "Citt\xe0 Verde & C. \x80\r\nVia Roma 1\r\n");
         scrivi(suite(u"BORAZ0.007/Borlano.INT"_s), "\r\nVia Po 2\r\n");
+        for (const QString& nome : {u"borlano.cli"_s, u"borlano.tab"_s}) {
+            scrivi(suite(u"boraz0.012/"_s + nome), {});
+            scrivi(suite(u"BORAZ0.007/"_s + nome.toUpper()), {});
+        }
         for (const QString& nome : {u"boraz0.12"_s, u"boraz0.0123"_s, u"boraz0.01a"_s, u"xboraz0.001"_s})
             QDir().mkpath(suite(nome));
         scrivi(suite(u"boraz0.500"_s), "a file, no folder");
@@ -64,6 +72,67 @@ TEST(Aziende, IlModuloParteConLAziendaInUnSoloArgomento) {
     EXPECT_EQ(comando.programma, u"/opt/bor/borfte"_s);
     EXPECT_EQ(comando.argomenti, QStringList{u"$$qv#m0070"_s});
     EXPECT_EQ(comandoModulo(u"/opt/bor"_s, 999).argomenti, QStringList{u"$$qv#m9990"_s});
+}
+
+TEST(Aziende, UnAziendaIncompletaNonSiApre) {
+    const Unita unita;
+    EXPECT_EQ(ostacolo(unita.percorsi(), 7), QString());
+    EXPECT_TRUE(ostacolo(unita.percorsi(), 8).startsWith(u"L'azienda 8 non c'è in "_s));
+    QFile::remove(unita.suite(u"boraz0.012/borlano.cli"_s));
+    EXPECT_TRUE(ostacolo(unita.percorsi(), 12).startsWith(u"All'azienda 12 manca il file borlano.cli in "_s));
+
+    SceltaAzienda finestra(unita.radice(), u"/opt/bor"_s, [](const Percorsi&, int) {
+        ADD_FAILURE() << "opened";
+        return true;
+    });
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    auto* elenco = finestra.findChild<QTreeWidget*>(u"elenco"_s);
+    QTest::keyClick(elenco, Qt::Key_Down);
+    QString detto;
+    QTimer::singleShot(0, &finestra, [&detto] {
+        auto* messaggio = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(messaggio);
+        detto = messaggio->text();
+        messaggio->accept();
+    });
+    QTest::keyClick(elenco, Qt::Key_Return);
+    EXPECT_TRUE(detto.contains(u"borlano.cli"_s)) << qPrintable(detto);
+    EXPECT_FALSE(QFileInfo::exists(unita.suite(u"boraz0.012/borlano.cli"_s)));
+}
+
+/// Runs a program of the build as on a machine without display, in an empty folder.
+int senzaSchermo(const QTemporaryDir& cartella, const QString& programma, const QStringList& argomenti,
+                 QString* errori = nullptr) {
+    QProcess processo;
+    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+    for (const QString& nome : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+        ambiente.remove(nome);
+    ambiente.insert(u"XDG_DATA_HOME"_s, cartella.filePath(u"dati"_s));
+    ambiente.insert(u"XDG_RUNTIME_DIR"_s, u"/nonexistent"_s);
+    processo.setProcessEnvironment(ambiente);
+    processo.setWorkingDirectory(cartella.path());
+    processo.start(QStringLiteral(BOR_BIN_DIR "/") + programma, argomenti);
+    EXPECT_TRUE(processo.waitForFinished());
+    if (errori)
+        *errori = QString::fromUtf8(processo.readAllStandardError());
+    EXPECT_EQ(processo.exitStatus(), QProcess::NormalExit);
+    EXPECT_TRUE(QDir(cartella.path()).isEmpty()) << "something was written";
+    return processo.exitCode();
+}
+
+TEST(Avvio, ChiNonPuoPartireNonScriveNullaENonChiedeUnoSchermo) {
+    const QTemporaryDir vuota;
+    EXPECT_EQ(senzaSchermo(vuota, u"borfte"_s, {}), 0);
+    EXPECT_EQ(senzaSchermo(vuota, u"borfte"_s, {u"altro"_s}), 0);
+    QString errori;
+    EXPECT_EQ(
+        senzaSchermo(vuota, u"lanciatore"_s, {u"--unita"_s, u"nessuna"_s, u"--dimostrazione"_s}, &errori), 1);
+    EXPECT_TRUE(errori.contains(u"non esiste"_s)) << qPrintable(errori);
+    EXPECT_EQ(senzaSchermo(vuota, u"lanciatore"_s, {u"--unita"_s, u"nessuna"_s}, &errori), 1);
+    EXPECT_TRUE(errori.contains(u"non esiste"_s)) << qPrintable(errori);
+    EXPECT_EQ(senzaSchermo(vuota, u"lanciatore"_s, {u"--azienda"_s, u"7"_s}, &errori), 1);
+    EXPECT_TRUE(errori.contains(u"L'azienda 7 non c'è"_s)) << qPrintable(errori);
 }
 
 TEST(Aziende, IlModuloParteNellUnita) {

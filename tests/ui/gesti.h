@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -41,6 +42,23 @@ inline void scrivi(QWidget& vista, const QString& testo) {
 
 inline void tasto(QWidget& vista, Qt::Key quale, Qt::KeyboardModifiers modi = Qt::NoModifier) {
     QTest::keyClick(vista.window()->windowHandle(), quale, modi);
+}
+
+/// A key that stays down: pressed once, then repeated by the keyboard.
+inline void tieni(QWidget& vista, Qt::Key quale, Qt::KeyboardModifiers modi = Qt::NoModifier) {
+    QTest::keyPress(vista.window()->windowHandle(), quale, modi);
+    for (int volta = 0; volta < 3; ++volta) {
+        QWidget* bersaglio = QApplication::focusWidget() ? QApplication::focusWidget() : vista.window();
+        QTest::simulateEvent(bersaglio, true, quale, modi, {}, true);
+    }
+    QTest::keyRelease(vista.window()->windowHandle(), quale, modi);
+}
+
+/// The wheel turned one notch down over a widget.
+inline void rotella(QWidget* widget) {
+    QWheelEvent giro(QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)), {}, QPoint(0, -120), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(widget, &giro);
 }
 
 inline QString fuoco(QWidget& vista) {

@@ -62,6 +62,21 @@ protected:
     VistaBorftea vista{form};
 };
 
+TEST_F(VistaDocumento, LaProvvigioneHaLaVirgolaELeRigheIvaUnNome) {
+    mostra(vista);
+    in(u"impon(0)"_s);
+    scrivi(vista, u"1.000,00"_s);
+    EXPECT_EQ(controllo(vista, u"impon(0)"_s)->accessibleName(), u"Imponibile 22%");
+    EXPECT_EQ(controllo(vista, u"esent(1)"_s)->accessibleName(), u"Esenzione Esente art. 10");
+    EXPECT_EQ(controllo(vista, u"ivai(5)"_s)->accessibleName(), u"Imposta Non definito, riga 6");
+    in(u"pro(0)"_s);
+    scrivi(vista, u"2,5"_s);
+    EXPECT_EQ(foglio(u"pro(1)"_s), u"25");
+    for (int i = 0; i < 3; ++i)
+        tasto(vista, Qt::Key_Backspace);
+    EXPECT_EQ(foglio(u"pro(0)"_s) + foglio(u"pro(1)"_s), QString());
+}
+
 TEST_F(VistaDocumento, DaiTastiAiTotali) {
     mostra(vista);
     EXPECT_EQ(vista.windowTitle(), u"Memorizzazione fattura emessa");

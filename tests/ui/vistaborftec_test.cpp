@@ -48,9 +48,13 @@ TEST(VistaMovimento, IlMovimentoSiCompletaDallaTastiera) {
     scrivi(vista, u"22"_s);
     EXPECT_EQ(testoDi(vista, u"Label1(2)"_s), QString());
     foto(vista, u"movimento"_s);
+    // A half-typed date counts for the command as if the field had been left.
+    controllo(vista, u"Text2"_s)->setFocus(Qt::TabFocusReason);
+    scrivi(vista, u"170315"_s);
     tasto(vista, Qt::Key_F10);
     EXPECT_EQ(prova.archivio.con.leggi(3).progressivoavere, 22);
     EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borfte});
+    EXPECT_EQ(form.dato(&Movimento::data), u"17/03/2015"_s);
 }
 
 } // namespace

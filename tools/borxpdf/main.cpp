@@ -53,6 +53,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     const bor::Percorsi percorsi = bor::Percorsi::predefiniti();
+    percorsi.creaRadiceC();
     QString errore;
     if (comando->anteprima) {
         if (auto documento = bor::pdf::apri(*comando, percorsi, errore)) {

@@ -5,10 +5,12 @@
 #include "common/testo.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <map>
 
 namespace bor::lancia {
@@ -33,6 +35,21 @@ QList<Azienda> elencaAziende(const Percorsi& percorsi) {
     for (const auto& [codice, azienda] : aziende)
         elenco.append(azienda);
     return elenco;
+}
+
+QString ostacolo(const Percorsi& percorsi, int codiceazienda) {
+    const QList<Azienda> aziende = elencaAziende(percorsi);
+    if (std::none_of(aziende.begin(), aziende.end(),
+                     [codiceazienda](const Azienda& a) { return a.codice == codiceazienda; }))
+        return u"L'azienda %1 non c'è in %2."_s.arg(codiceazienda).arg(percorsi.radiceCorrente());
+    for (const QString& nome : {u"borlano.cli"_s, u"borlano.tab"_s}) {
+        const QString file =
+            percorsi.reale(cartellaAzienda(codiceazienda) + u'\\' + nome).value_or(QString());
+        if (!QFileInfo::exists(file))
+            return u"All'azienda %1 manca il file %2 in %3."_s.arg(codiceazienda)
+                .arg(nome, QFileInfo(file).path());
+    }
+    return {};
 }
 
 QString unitaPredefinita() {

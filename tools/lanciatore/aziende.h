@@ -21,6 +21,10 @@ QList<Azienda> elencaAziende(const Percorsi& percorsi);
 /// else "borfte/unita" in the user's data folder.
 QString unitaPredefinita();
 
+/// Why a company of the drive cannot be opened, in the operator's words: no such company, or without the
+/// files that the module must find and would otherwise make empty. Empty when it can.
+QString ostacolo(const Percorsi& percorsi, int codiceazienda);
+
 /// The company that `borcrea` makes from the texts of the demo folder.
 inline constexpr int codiceDimostrazione = 1;
 

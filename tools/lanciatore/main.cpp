@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QLibraryInfo>
+#include <QFileInfo>
+#include <QMessageBox>
 #include <QProcess>
-#include <QTranslator>
 
 #include <algorithm>
 
@@ -16,42 +16,44 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int rifiuta(const QString& messaggio) {
-    qCritical("%s", qUtf8Printable(messaggio));
+/// Tells why nothing was started: in a window where there is a display, and to the terminal.
+int rifiuta(int argc, char* argv[], const QString& motivo) {
+    qCritical("%s", qUtf8Printable(motivo));
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland;offscreen");
+    QApplication applicazione(argc, argv);
+    bor::applicaAspetto(applicazione);
+    if (const QString schermo = QGuiApplication::platformName();
+        schermo != u"offscreen" && schermo != u"minimal")
+        QMessageBox::critical(nullptr, u"Attenzione"_s, motivo);
     return 1;
 }
 
-bool esiste(const bor::Percorsi& percorsi, int codice) {
-    const QList<bor::lancia::Azienda> aziende = bor::lancia::elencaAziende(percorsi);
-    return std::any_of(aziende.begin(), aziende.end(),
-                       [codice](const bor::lancia::Azienda& a) { return a.codice == codice; });
-}
-
-/// Starts the module on a company that is there, without a window.
-int avvia(const bor::Percorsi& percorsi, int codice) {
-    if (!esiste(percorsi, codice))
-        return rifiuta(u"L'azienda %1 non c'è in %2."_s.arg(codice).arg(percorsi.radiceCorrente()));
+/// Starts the module on a company of the drive, without a window. The reason why not; empty when it started.
+QString avvia(const bor::Percorsi& percorsi, int codice) {
+    if (const QString motivo = bor::lancia::ostacolo(percorsi, codice); !motivo.isEmpty())
+        return motivo;
     if (!bor::lancia::avviaModulo(percorsi, QCoreApplication::applicationDirPath(), codice))
-        return rifiuta(u"Il programma borfte non si avvia."_s);
-    return 0;
+        return u"Il programma borfte non si avvia."_s;
+    return {};
 }
 
-int avviaDimostrazione(const bor::Percorsi& percorsi) {
-    if (!esiste(percorsi, bor::lancia::codiceDimostrazione)) {
+QString avviaDimostrazione(const bor::Percorsi& percorsi) {
+    const QList<bor::lancia::Azienda> aziende = bor::lancia::elencaAziende(percorsi);
+    if (std::none_of(aziende.begin(), aziende.end(), [](const bor::lancia::Azienda& a) {
+            return a.codice == bor::lancia::codiceDimostrazione;
+        })) {
         QDir().mkpath(percorsi.radiceCorrente());
         const bor::lancia::Comando comando = bor::lancia::comandoDimostrazione(
             QCoreApplication::applicationDirPath(), percorsi.radiceCorrente());
         if (QProcess::execute(comando.programma, comando.argomenti) != 0)
-            return rifiuta(u"L'azienda dimostrativa non è stata creata."_s);
+            return u"L'azienda dimostrativa non è stata creata."_s;
     }
     return avvia(percorsi, bor::lancia::codiceDimostrazione);
 }
 
 int mostraScelta(QApplication& applicazione, const QString& unita) {
     bor::applicaAspetto(applicazione);
-    QTranslator italiano;
-    if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&italiano);
     const QString cartella = QCoreApplication::applicationDirPath();
     bor::lancia::SceltaAzienda finestra(unita, cartella,
                                         [cartella](const bor::Percorsi& percorsi, int codice) {
@@ -78,15 +80,22 @@ QString unitaScelta(const QCommandLineParser& parser) {
     return scelta.isEmpty() ? bor::lancia::unitaPredefinita() : QDir::current().absoluteFilePath(scelta);
 }
 
-int avviaSubito(const QCommandLineParser& parser) {
-    const bor::Percorsi percorsi(unitaScelta(parser), QString());
+/// What the operator asked for and cannot have; empty when nothing is against it.
+QString richiestaVana(const QCommandLineParser& parser) {
+    // Only the user's own folder is made; one that he names is where he thinks that his companies are.
+    if (parser.isSet(u"unita"_s) && !QFileInfo(unitaScelta(parser)).isDir())
+        return u"La cartella %1 non esiste."_s.arg(unitaScelta(parser));
     if (!parser.isSet(u"azienda"_s))
-        return avviaDimostrazione(percorsi);
+        return {};
     bool numero = false;
     const int codice = parser.value(u"azienda"_s).toInt(&numero);
-    if (!numero || codice < 0 || codice > 999)
-        return rifiuta(u"Il codice dell'azienda va da 0 a 999."_s);
-    return avvia(percorsi, codice);
+    return numero && codice >= 0 && codice <= 999 ? QString() : u"Il codice dell'azienda va da 0 a 999."_s;
+}
+
+QString avviaSubito(const QCommandLineParser& parser) {
+    const bor::Percorsi percorsi(unitaScelta(parser), QString());
+    return parser.isSet(u"azienda"_s) ? avvia(percorsi, parser.value(u"azienda"_s).toInt())
+                                      : avviaDimostrazione(percorsi);
 }
 
 } // namespace
@@ -98,14 +107,19 @@ int main(int argc, char* argv[]) {
     QStringList argomenti;
     for (int i = 0; i < argc; ++i)
         argomenti.append(QString::fromLocal8Bit(argv[i]));
-    // What opens no window needs no display: a start by code, the help, the version, a wrong option.
     const bool valide = parser.parse(argomenti);
-    if (!valide || parser.isSet(u"help"_s) || parser.isSet(u"version"_s) || parser.isSet(u"azienda"_s) ||
-        parser.isSet(u"dimostrazione"_s)) {
+    const bool subito = parser.isSet(u"azienda"_s) || parser.isSet(u"dimostrazione"_s);
+    QString motivo = valide ? richiestaVana(parser) : QString();
+    // What opens no window needs no display: a start by code, the help, the version, a wrong option.
+    if (!valide || parser.isSet(u"help"_s) || parser.isSet(u"version"_s) || (subito && motivo.isEmpty())) {
         const QCoreApplication applicazione(argc, argv);
         parser.process(applicazione);
-        return avviaSubito(parser);
+        motivo = avviaSubito(parser);
+        if (motivo.isEmpty())
+            return 0;
     }
+    if (!motivo.isEmpty())
+        return rifiuta(argc, argv, motivo);
     QApplication applicazione(argc, argv);
     parser.process(applicazione);
     return mostraScelta(applicazione, unitaScelta(parser));

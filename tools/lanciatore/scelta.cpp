@@ -180,7 +180,12 @@ void SceltaAzienda::aggiorna() {
 
 void SceltaAzienda::apriScelta() {
     const QTreeWidgetItem* riga = m_elenco->currentItem();
-    if (riga && !m_apri(m_percorsi, riga->data(colonnaCodice, Qt::UserRole).toInt()))
+    if (!riga)
+        return;
+    const int codice = riga->data(colonnaCodice, Qt::UserRole).toInt();
+    if (const QString motivo = ostacolo(m_percorsi, codice); !motivo.isEmpty())
+        QMessageBox::critical(this, u"Attenzione"_s, motivo);
+    else if (!m_apri(m_percorsi, codice))
         QMessageBox::critical(this, u"Attenzione"_s,
                               u"Il programma non si avvia: manca borfte in "_s + m_cartellaProgrammi);
 }

@@ -18,6 +18,8 @@ public:
     /// Presses the button of this control name.
     void premi(const QString& nome);
     void vaiSu(const QString& nome);
+    /// Makes sure that this control is in view.
+    void controlla(const QString& nome) { controllo(nome); }
     void tasto(Qt::Key tasto, Qt::KeyboardModifiers modi = Qt::NoModifier);
     /// Types into the field with the focus.
     void scrivi(const QString& testo);

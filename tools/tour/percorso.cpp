@@ -75,10 +75,16 @@ void fatturaEsistente(Giro& giro) {
     giro.vaiSu(u"elenco"_s);
     giro.tasto(Qt::Key_Return);
     giro.foto(u"fattura"_s);
-    for (const auto& [tasto, nome] : {std::pair{Qt::Key_2, u"iva-differita"_s},
-                                      {Qt::Key_3, u"ritenute"_s},
-                                      {Qt::Key_4, u"spesometro"_s}}) {
+    struct Prospetto {
+        Qt::Key tasto;
+        QString controllo;
+        QString nome;
+    };
+    for (const auto& [tasto, controllo, nome] : {Prospetto{Qt::Key_2, u"Frame5"_s, u"ritenute"_s},
+                                                 {Qt::Key_3, u"ivadiff"_s, u"iva-differita"_s},
+                                                 {Qt::Key_4, u"Frame6"_s, u"spesometro"_s}}) {
         giro.tasto(tasto, Qt::ControlModifier);
+        giro.controlla(controllo);
         giro.foto(u"fattura-"_s + nome);
     }
     giro.tasto(Qt::Key_Escape);

@@ -1,0 +1,122 @@
+#include "ui/campodata.h"
+
+#include "common/date.h"
+
+#include <QAbstractItemView>
+#include <QCalendarWidget>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QList>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+constexpr int caratteriData = 10;
+
+} // namespace
+
+FinestraData::FinestraData(const Bordata& bordata, QWidget* parent)
+    : QDialog(parent), m_bordata(bordata), m_calendario(new QCalendarWidget) {
+    setObjectName(u"bordata"_s);
+    setWindowTitle(u"Imposta data"_s);
+    m_calendario->setObjectName(u"nuovadata"_s);
+    m_calendario->setAccessibleName(windowTitle());
+    m_calendario->setLocale(QLocale(QLocale::Italian, QLocale::Italy));
+    m_calendario->setFirstDayOfWeek(Qt::Monday);
+    m_calendario->setSelectedDate(m_bordata.iniziale());
+    connect(m_calendario, &QCalendarWidget::selectionChanged, this, [this] {
+        if (!m_cammina)
+            scegli();
+    });
+    connect(m_calendario, &QCalendarWidget::clicked, this, [this] { scegli(); });
+    connect(m_calendario, &QCalendarWidget::activated, this, [this] { scegli(); });
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(m_calendario);
+    for (auto* giorni : m_calendario->findChildren<QAbstractItemView*>())
+        giorni->installEventFilter(this);
+    m_calendario->setFocus();
+}
+
+bool FinestraData::eventFilter(QObject* oggetto, QEvent* evento) {
+    static const QList<int> passi = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,     Qt::Key_Down,
+                                     Qt::Key_Home, Qt::Key_End,   Qt::Key_PageUp, Qt::Key_PageDown};
+    if (evento->type() != QEvent::KeyPress || !passi.contains(static_cast<QKeyEvent*>(evento)->key()))
+        return false;
+    const QScopedValueRollback cammina(m_cammina, true);
+    oggetto->event(evento);
+    return true;
+}
+
+void FinestraData::showEvent(QShowEvent* evento) {
+    QDialog::showEvent(evento);
+    const QRect posto = screen()->availableGeometry();
+    move(posto.center() - rect().center());
+}
+
+void FinestraData::scegli() {
+    if (result() == Accepted)
+        return;
+    m_bordata.scegli(m_calendario->selectedDate());
+    accept();
+}
+
+CampoData::CampoData(const QString& nome, const QString& nomeCalendario, const QString& didascalia,
+                     const Bordata& bordata, QWidget* parent)
+    : QWidget(parent), m_bordata(bordata), m_campo(new CampoTesto(nome, didascalia, caratteriData)),
+      m_bottone(new QToolButton) {
+    m_bottone->setObjectName(nomeCalendario);
+    m_bottone->setAccessibleName(didascalia + u": calendario"_s);
+    m_bottone->setIcon(QIcon(u":/icone/calendario.svg"_s));
+    m_bottone->setToolTip(u"Calendario (F4)"_s);
+    m_bottone->setFocusPolicy(Qt::NoFocus);
+    m_campo->selezionaAlClic();
+    m_campo->installEventFilter(this);
+    connect(m_bottone, &QToolButton::clicked, this, [this] { apriCalendario(); });
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(m_campo);
+    layout->addWidget(m_bottone);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFocusProxy(m_campo);
+}
+
+bool CampoData::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (oggetto == m_campo && evento->type() == QEvent::FocusOut) {
+        const QString completa = completaData(m_campo->text());
+        if (completa != m_campo->text())
+            metti(completa);
+    }
+    if (oggetto == m_campo && evento->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F4) {
+        if (!static_cast<QKeyEvent*>(evento)->isAutoRepeat())
+            apriCalendario();
+        return true;
+    }
+    return false;
+}
+
+void CampoData::apriCalendario() {
+    m_bordata.prepara(m_campo->text());
+    FinestraData(m_bordata, this).exec();
+    m_campo->setFocus();
+    if (!m_bordata.scelta().isEmpty())
+        metti(m_bordata.scelta());
+}
+
+void CampoData::metti(const QString& testo) {
+    m_campo->setText(testo);
+    Q_EMIT m_campo->textEdited(testo);
+}
+
+} // namespace bor

@@ -1,0 +1,35 @@
+#include "ui/finestratasti.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+FinestraTasti::FinestraTasti(const QString& schermo, const QList<TastoSchermo>& tasti, QWidget* parent)
+    : QDialog(parent) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(u"tasti"_s);
+    setWindowTitle(u"Tasti: "_s + schermo);
+    auto* elenco = new QTableWidget(static_cast<int>(tasti.size()), 2);
+    elenco->setObjectName(u"elencoTasti"_s);
+    elenco->setAccessibleName(u"Tasti dello schermo"_s);
+    elenco->setHorizontalHeaderLabels({u"Tasto"_s, u"Che cosa fa"_s});
+    elenco->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
+    elenco->setTabKeyNavigation(false);
+    elenco->verticalHeader()->hide();
+    elenco->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    elenco->horizontalHeader()->setStretchLastSection(true);
+    for (int r = 0; r < tasti.size(); ++r) {
+        elenco->setItem(r, 0, new QTableWidgetItem(tasti[r].tasto));
+        elenco->setItem(r, 1, new QTableWidgetItem(tasti[r].azione));
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(elenco);
+    resize(520, 460);
+}
+
+} // namespace bor

@@ -1,0 +1,241 @@
+// What holds on every screen: letters, names, keys, the wheel, a key held down, Qt's own words.
+#include "app/modulo.h"
+#include "app/schermi.h"
+#include "common/avvio.h"
+#include "support/azienda.h"
+#include "support/stampante_finta.h"
+#include "ui/campi.h"
+#include "ui/finestra.h"
+#include "ui/gesti.h"
+
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QShortcut>
+#include <QTableWidget>
+
+#include <array>
+#include <map>
+#include <memory>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+class Schermi : public testing::Test {
+protected:
+    Schermi() {
+        for (const QString& nome : {u"Alfa"_s, u"Beta"_s, u"Gamma"_s})
+            azienda.cliente(nome);
+        for (int i = 1; i <= 3; ++i)
+            azienda.documento(documentoDi(i, QString::number(i), 100 * i, 22 * i));
+        modulo = Modulo::avvia(rigaAvvio(7), azienda.percorsi(),
+                               {operatore, orologio, sistema, finestra, stampante});
+        aggiungiSchermi(finestra, *modulo);
+        finestra.show();
+        finestra.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&finestra));
+        finestra.mostra(Schermo::Borfte);
+        tasto(finestra, Qt::Key_F2);
+        tasto(finestra, Qt::Key_Return);
+        tasto(finestra, Qt::Key_F10);
+    }
+    Vista& mostra(Schermo schermo) {
+        finestra.mostra(schermo);
+        QApplication::processEvents();
+        return *finestra.vista(schermo);
+    }
+
+    AziendaDiProva azienda;
+    OperatoreFinto operatore;
+    OrologioFermo orologio;
+    SistemaFinto sistema;
+    StampanteFinta stampante;
+    Finestra finestra;
+    std::unique_ptr<Modulo> modulo;
+};
+
+/// In the order of README's table.
+constexpr std::array tuttiGliSchermi = {Schermo::Borfte,  Schermo::Borftem, Schermo::Borsel,
+                                        Schermo::Borftea, Schermo::Borftex, Schermo::Borftek,
+                                        Schermo::Borftec, Schermo::Borftepa};
+
+TEST_F(Schermi, OgniComandoHaLaSuaLettera) {
+    for (const Schermo schermo : tuttiGliSchermi) {
+        Vista& vista = mostra(schermo);
+        std::map<QString, QString> prese;
+        int didascalie = 0;
+        const auto prendi = [&](const QString& testo) {
+            const QString lettera = QKeySequence::mnemonic(testo).toString();
+            EXPECT_TRUE(lettera.isEmpty() || prese.try_emplace(lettera, testo).second)
+                << qPrintable(lettera + u": "_s + prese[lettera] + u", "_s + testo);
+            return !lettera.isEmpty();
+        };
+        for (auto* bottone : vista.findChildren<QToolButton*>()) {
+            if (bottone->isVisible() && dynamic_cast<BottoneComando*>(bottone)) {
+                EXPECT_TRUE(prendi(bottone->text())) << qPrintable(bottone->text());
+            }
+        }
+        for (auto* etichetta : vista.findChildren<QLabel*>()) {
+            if (etichetta->isVisible() && etichetta->buddy())
+                didascalie += prendi(etichetta->text()) ? 1 : 0;
+        }
+        if (schermo == Schermo::Borftem || schermo == Schermo::Borftea) {
+            EXPECT_GT(didascalie, 9) << qPrintable(vista.titolo());
+        }
+    }
+    Vista& testata = mostra(Schermo::Borftem);
+    const QString citta = controllo<QLabel>(testata, u"Lab1"_s)->text();
+    ASSERT_TRUE(citta.contains(u'&'));
+    controllo(testata, u"Text2(4)"_s)->setFocus();
+    tasto(testata, static_cast<Qt::Key>(citta[citta.indexOf(u'&') + 1].toUpper().unicode()), Qt::AltModifier);
+    EXPECT_EQ(fuoco(testata), u"nome"_s);
+}
+
+TEST_F(Schermi, OgniCampoHaUnNomeSuo) {
+    for (const Schermo schermo : tuttiGliSchermi) {
+        Vista& vista = mostra(schermo);
+        std::map<QString, QString> nomi;
+        for (auto* widget : vista.findChildren<QWidget*>()) {
+            if (!qobject_cast<QLineEdit*>(widget) && !qobject_cast<QComboBox*>(widget))
+                continue;
+            const QString nome = widget->accessibleName();
+            EXPECT_FALSE(nome.isEmpty()) << qPrintable(widget->objectName());
+            EXPECT_TRUE(nomi.try_emplace(nome, widget->objectName()).second)
+                << qPrintable(nome + u": "_s + nomi[nome] + u", "_s + widget->objectName());
+        }
+    }
+}
+
+TEST_F(Schermi, LaRotellaNonCambiaListeEBarre) {
+    for (const Schermo schermo : tuttiGliSchermi) {
+        Vista& vista = mostra(schermo);
+        for (auto* lista : vista.findChildren<QComboBox*>()) {
+            const QSignalBlocker zitta(lista);
+            lista->addItem(u"ancora"_s);
+            lista->setFocus();
+            lista->setCurrentIndex(0);
+            rotella(lista);
+            EXPECT_EQ(lista->currentIndex(), 0) << qPrintable(lista->objectName());
+        }
+    }
+    Vista& testata = mostra(Schermo::Borftem);
+    auto* barra = controllo<QAbstractSlider>(testata, u"HScroll1"_s);
+    const int prima = barra->value();
+    rotella(barra);
+    EXPECT_EQ(barra->value(), prima);
+    barra->setFocus();
+    rotella(barra);
+    EXPECT_NE(barra->value(), prima);
+}
+
+TEST_F(Schermi, UnTastoTenutoPremutoAgisceUnaVolta) {
+    mostra(Schermo::Borfte);
+    tieni(finestra, Qt::Key_F2);
+    EXPECT_TRUE(finestra.vista(Schermo::Borftem)->isVisible());
+    controllo(*finestra.vista(Schermo::Borftem), u"Text2(0)"_s)->setFocus();
+    tieni(finestra, Qt::Key_F10);
+    EXPECT_TRUE(finestra.vista(Schermo::Borftea)->isVisible()) << "F10 went on to save the document";
+    EXPECT_TRUE(operatore.messaggi.isEmpty());
+    tieni(finestra, Qt::Key_Escape);
+    EXPECT_TRUE(finestra.isVisible()) << "Esc went on to end the program";
+    EXPECT_TRUE(finestra.vista(Schermo::Borfte)->isVisible());
+}
+
+TEST_F(Schermi, UnComandoVedeLaDataComeSeIlCampoFosseLasciato) {
+    modulo->documento().dddp[0] = {};
+    Vista& parcella = mostra(Schermo::Borftek);
+    for (const bool clicDelTopo : {false, true}) {
+        modulo->contesto().sessione.righelette = false;
+        mostra(Schermo::Borftek);
+        controllo(parcella, u"artic(0)"_s)->setFocus(Qt::TabFocusReason);
+        scrivi(parcella, clicDelTopo ? u"020315"_s : u"31042016"_s);
+        if (clicDelTopo)
+            clic(parcella, u"comando(1)"_s);
+        else
+            tasto(parcella, Qt::Key_F10);
+        EXPECT_EQ(modulo->documento().dddp[0].data, clicDelTopo ? u"02/03/2015"_s : u"31/04/2016"_s);
+    }
+}
+
+/// Keys of commands as README writes them: "F10", "Ctrl+F7", and each of "Ctrl+1 to 3".
+std::set<QString> tastiScritti(const QString& testo) {
+    static const QRegularExpression serie(u"Ctrl\\+(\\d) to (\\d)"_s);
+    static const QRegularExpression tasto(u"(Ctrl\\+)?\\bF\\d+|Ctrl\\+[A-Z0-9](?! to)"_s);
+    std::set<QString> tasti;
+    for (const auto& trovata : serie.globalMatch(testo)) {
+        for (int i = trovata.captured(1).toInt(); i <= trovata.captured(2).toInt(); ++i)
+            tasti.insert(u"Ctrl+%1"_s.arg(i));
+    }
+    for (const auto& trovata : tasto.globalMatch(testo))
+        tasti.insert(trovata.captured());
+    return tasti;
+}
+
+TEST_F(Schermi, IlReadmeDiceITastiCheCiSono) {
+    QFile readme(QStringLiteral(BOR_SOURCE_DIR "/README.md"));
+    ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
+    QString testo = QString::fromUtf8(readme.readAll());
+    testo = testo.mid(testo.indexOf(u"## Keys"_s));
+    const QStringList parti = testo.left(testo.indexOf(u"\n## "_s, 3)).split(u"| screen | keys |"_s);
+    ASSERT_EQ(parti.size(), 2);
+    const std::set<QString> comuni = tastiScritti(parti[0]);
+    QStringList righe = parti[1].split(u'\n', Qt::SkipEmptyParts).filter(QRegularExpression(u"^\\| [a-z]"_s));
+    ASSERT_EQ(righe.size(), std::ssize(tuttiGliSchermi));
+    for (const Schermo schermo : tuttiGliSchermi) {
+        Vista& vista = *finestra.vista(schermo);
+        std::set<QString> ci;
+        for (const auto* scorciatoia : vista.findChildren<QShortcut*>())
+            ci.merge(tastiScritti(scorciatoia->key().toString()));
+        for (const TastoSchermo& altro : vista.tasti())
+            ci.merge(tastiScritti(altro.tasto));
+        std::set<QString> detti = comuni;
+        const QString riga = righe.takeFirst();
+        detti.merge(tastiScritti(riga));
+        for (const QString& tasto : comuni)
+            ci.insert(tasto);
+        EXPECT_EQ(QStringList(ci.begin(), ci.end()).join(u' '),
+                  QStringList(detti.begin(), detti.end()).join(u' '))
+            << qPrintable(riga);
+    }
+}
+
+TEST_F(Schermi, F12MostraITastiDelloSchermo) {
+    Vista& vista = mostra(Schermo::Borftex);
+    tasto(vista, Qt::Key_F12);
+    auto* tasti = vista.findChild<QDialog*>(u"tasti"_s);
+    ASSERT_TRUE(tasti && tasti->isVisible());
+    auto* elenco = tasti->findChild<QTableWidget*>(u"elencoTasti"_s);
+    EXPECT_FALSE(elenco->findItems(u"F10"_s, Qt::MatchStartsWith).isEmpty());
+    EXPECT_FALSE(elenco->findItems(u"F1"_s, Qt::MatchExactly).isEmpty());
+    foto(*tasti, u"tasti"_s);
+    QTest::keyClick(tasti, Qt::Key_Escape);
+    EXPECT_FALSE(tasti->isVisible());
+}
+
+TEST_F(Schermi, AncheQtParlaItaliano) {
+    QFileDialog dialogo;
+    dialogo.setOption(QFileDialog::DontUseNativeDialog);
+    QStringList testi;
+    for (const auto* etichetta : dialogo.findChildren<QLabel*>())
+        testi.append(etichetta->text());
+    for (const auto* bottone : dialogo.findChildren<QAbstractButton*>())
+        testi << bottone->text() << bottone->toolTip();
+    QLineEdit campo;
+    const QMenu* menu = campo.createStandardContextMenu();
+    for (const auto* azione : menu->actions())
+        testi.append(azione->text());
+    const QRegularExpression inglese(
+        u"\\b(Open|Cancel|Look in|Files|Back|Forward|Copy|Paste|Select|Undo|Folder|Directory|View)\\b"_s);
+    for (const QString& testo : testi)
+        EXPECT_FALSE(QString(testo).remove(u'&').contains(inglese)) << qPrintable(testo);
+    EXPECT_EQ(QLocale().language(), QLocale::Italian);
+}
+
+} // namespace
+} // namespace bor
