@@ -52,9 +52,11 @@ void Pavimento_LetturaDelGiornale(benchmark::State& stato) {
 }
 
 void RicercaDelMovimento(benchmark::State& stato) {
-    const ContestoDiProva prova(grande());
-    for (auto _ : stato)
-        benchmark::DoNotOptimize(trovaMovimento(prova.archivio, -1));
+    ContestoDiProva prova(grande());
+    for (auto _ : stato) {
+        Raffica raffica(prova.archivio, {});
+        benchmark::DoNotOptimize(trovaMovimento(raffica, -1));
+    }
 }
 
 void Pavimento_LetturaDelMagazzino(benchmark::State& stato) {
@@ -66,7 +68,7 @@ void RimozioneDelleRighe(benchmark::State& stato) {
     Documento documento;
     documento.coppia.fte.stamp = -1;
     for (auto _ : stato)
-        benchmark::DoNotOptimize(togliscarico(documento, prova.contesto));
+        benchmark::DoNotOptimize(inRaffica(prova.archivio, [&](Raffica& r) { togliscarico(documento, r); }));
 }
 
 BENCHMARK(Pavimento_LetturaDelGiornale)->Unit(benchmark::kMillisecond);

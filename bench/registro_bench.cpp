@@ -136,9 +136,8 @@ void RiordinoPerData(benchmark::State& stato) {
     for (auto _ : stato) {
         stato.PauseTiming();
         auto prova = std::make_unique<ContestoDiProva>(grande());
-        Tot contatore = prova->archivio.leggiTot(Conta::Fte);
         stato.ResumeTiming();
-        const EsitoRiordino esito = riordina(prova->archivio, TipoRiordino::PerData, contatore, [](int) {});
+        const EsitoRiordino esito = riordina(prova->archivio, TipoRiordino::PerData, [](int) {});
         stato.PauseTiming();
         if (esito.fase != FaseRiordino::Riuscito)
             stato.SkipWithError("the reorder failed");

@@ -1,6 +1,7 @@
 #include "app/modulo.h"
 
 #include "common/avvio.h"
+#include "document/avvisi.h"
 #include "output/generapdf.h"
 #include "output/stampafattura.h"
 
@@ -18,9 +19,11 @@ std::unique_ptr<Modulo> Modulo::avvia(const QString& rigaComando, Percorsi perco
 }
 
 Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
-    : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda),
-      m_contesto{m_sessione,     m_archivio,    m_impostazioni,   m_tabelle, porte.operatore,
-                 porte.orologio, porte.sistema, porte.navigatore, m_timbro},
+    : m_percorsi(std::move(percorsi)),
+      m_archivio(m_percorsi, m_disco, codiceazienda), m_contesto{m_sessione,      m_archivio,
+                                                                 m_impostazioni,  m_tabelle,
+                                                                 porte.operatore, porte.orologio,
+                                                                 porte.sistema,   porte.navigatore},
       m_borfte(m_contesto, m_documento, [this] { return !m_sospese.vuoto(); }),
       m_borftem(m_contesto, m_documento), m_borsel(m_contesto, m_borftem), m_borftex(m_contesto, m_documento),
       m_borftek(m_contesto, m_documento), m_borftec(m_contesto, m_documento),
@@ -31,6 +34,8 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
     m_sessione.codiceazienda = codiceazienda;
     m_impostazioni = caricaimpostazioni(m_archivio);
     m_archivio.apri();
+    recupera(m_archivio);
+    avvisaRecuperi(m_contesto);
     m_tabelle = leggiTabelle(m_archivio);
     m_borfte.carica();
 }

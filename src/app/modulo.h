@@ -52,7 +52,6 @@ private:
     Percorsi m_percorsi;
     Disco m_disco;
     Sessione m_sessione;
-    Timbro m_timbro;
     Archivio m_archivio;
     Impostazioni m_impostazioni;
     Tabelle m_tabelle;

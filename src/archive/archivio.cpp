@@ -45,6 +45,10 @@ QString Archivio::reale(QStringView dos) const {
     return m_percorsi.reale(dos).value_or(QString());
 }
 
+EsitoLettura Archivio::leggiTot(Conta quale, Tot& contatore) const {
+    return tot.leggi(static_cast<int>(quale), contatore);
+}
+
 Tot Archivio::leggiTot(Conta quale) const {
     return tot.leggi(static_cast<int>(quale));
 }
@@ -53,17 +57,28 @@ bool Archivio::scriviTot(Conta quale, const Tot& contatore) {
     return tot.scrivi(static_cast<int>(quale), contatore);
 }
 
-int Archivio::prossimo(const Tot& contatore) {
-    const int n = std::max<int>(contatore.numero, 0) + 1;
-    return n > massimo ? 0 : n;
+FileCasuale& Archivio::fileDiRecord(std::size_t posizione) {
+    const std::array<FileCasuale*, fileDiRaffica.size()> file{&tot, &art, &con, &fte, &f2e, &mag, &gio};
+    return *file[posizione];
+}
+
+std::size_t Archivio::posizioneFile(const FileCasuale& file) const {
+    const std::array<const FileCasuale*, fileDiRaffica.size()> tutti{&tot, &art, &con, &fte,
+                                                                     &f2e, &mag, &gio};
+    return static_cast<std::size_t>(std::ranges::find(tutti, &file) - tutti.begin());
+}
+
+bool Archivio::leggi(int n, CoppiaFte& coppia) const {
+    const bool testa = fte.leggi(n, coppia.fte) != EsitoLettura::Guasta;
+    const bool coda = f2e.leggi(n, coppia.f2e) != EsitoLettura::Guasta;
+    if (coppia.f2e.marca != F2e::marcaValida)
+        inizializza2(coppia.f2e);
+    return testa && coda;
 }
 
 CoppiaFte Archivio::leggi(int n) const {
     CoppiaFte coppia;
-    fte.leggi(n, coppia.fte);
-    f2e.leggi(n, coppia.f2e);
-    if (coppia.f2e.marca != F2e::marcaValida)
-        inizializza2(coppia.f2e);
+    leggi(n, coppia);
     return coppia;
 }
 

@@ -9,10 +9,13 @@
 #include "archive/fte.h"
 #include "archive/gio.h"
 #include "archive/recordfile.h"
+#include "archive/recupero.h"
 #include "archive/tot.h"
 #include "common/percorsi.h"
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace bor {
 
@@ -38,49 +41,35 @@ public:
     /// Path of this machine for a DOS path; empty when the path is not allowed.
     QString reale(QStringView dos) const;
 
+    EsitoLettura leggiTot(Conta quale, Tot& contatore) const;
+    /// A counter that could not be read is all zeros: nothing may be written on the strength of it.
     Tot leggiTot(Conta quale) const;
     bool scriviTot(Conta quale, const Tot& contatore);
 
-    /// Keeps other running programs from reading a counter to write it back until the result goes away. It is
-    /// held for the few writes of one append, never while an operator thinks.
-    [[nodiscard]] BloccoByte bloccaContatori() const { return BloccoByte(tot, byteContatori); }
+    /// The open files that bursts of writes change, in the order of `fileDiRaffica`.
+    FileCasuale& fileDiRecord(std::size_t posizione);
+    std::size_t posizioneFile(const FileCasuale& file) const;
 
-    /// Writes the record behind the last one in use and then counts it, in that order: a crash in between
-    /// leaves a spare record that the next append overwrites. The new record's number; 0 when it could not be
-    /// written or the count has reached `massimo`, and the file is then as it was.
-    template <class R>
-    int aggiungi(RecordFile<R>& records, Conta quale, const R& record) {
-        const BloccoByte blocco = bloccaContatori();
-        Tot contatore = leggiTot(quale);
-        const int n = prossimo(contatore);
-        if (n == 0 || !records.scrivi(n, record))
-            return 0;
-        contatore.modificato = 1;
-        contatore.numero = static_cast<std::int16_t>(n);
-        return scriviTot(quale, contatore) ? n : 0;
-    }
+    /// Notes that a burst of an earlier run was completed; `prendiRecuperi` gives what was noted, once.
+    void annota(const Recupero& recupero) { m_recuperi.push_back(recupero); }
+    std::vector<Recupero> prendiRecuperi() { return std::exchange(m_recuperi, {}); }
 
-    /// Writes an existing record and marks its file as changed.
-    template <class R>
-    bool cambia(RecordFile<R>& records, Conta quale, int n, const R& record) {
-        if (!records.scrivi(n, record))
-            return false;
-        const BloccoByte blocco = bloccaContatori();
-        Tot contatore = leggiTot(quale);
-        contatore.modificato = 1;
-        return scriviTot(quale, contatore);
-    }
+    /// The log of a burst that failed and could not be put back yet: should it be found again in this run, it
+    /// is put back and not completed.
+    const QByteArray& daAnnullare() const { return m_daAnnullare; }
+    void tieniDaAnnullare(const QByteArray& diario) { m_daAnnullare = diario; }
+    /// The log of a burst that was written whole but whose log could not be emptied: nothing to tell anybody.
+    const QByteArray& finito() const { return m_finito; }
+    void tieniFinito(const QByteArray& diario) { m_finito = diario; }
 
-    /// The number that follows the counter's last one; 0 when the file is full. A count below 0 is taken for
-    /// 0.
-    static int prossimo(const Tot& contatore);
-
-    /// Reads document n. A second half that was never written comes out in its empty state.
+    /// Reads document n. A second half that was never written comes out in its empty state. False when a half
+    /// could not be read: the document must not be stored then.
+    bool leggi(int n, CoppiaFte& coppia) const;
     CoppiaFte leggi(int n) const;
     /// Writes document n, head first.
     bool scrivi(int n, const CoppiaFte& coppia);
 
-    Disco& disco() { return m_disco; }
+    Disco& disco() const { return m_disco; }
     const Percorsi& percorsi() const { return m_percorsi; }
 
     /// Counters and record numbers are 16 bits wide on file.
@@ -90,6 +79,9 @@ private:
     const Percorsi& m_percorsi;
     Disco& m_disco;
     QString m_cartella;
+    std::vector<Recupero> m_recuperi;
+    QByteArray m_daAnnullare;
+    QByteArray m_finito;
 
 public:
     RecordFile<Tot> tot;

@@ -23,7 +23,6 @@ struct Contesto {
     Orologio& orologio;
     Sistema& sistema;
     Navigatore& navigatore;
-    Timbro& timbro;
 
     const Valuta& valuta() const { return impostazioni.valuta; }
     Bordata bordata() const { return {sessione, orologio}; }

@@ -38,4 +38,14 @@ void inizializza2(F2e& f2e) {
     f2e.tributo = 1;
 }
 
+F2e f2eVuoto() {
+    F2e f2e = vuoto<F2e>();
+    f2e.pdf.blank();
+    f2e.resy1.blank();
+    f2e.dtermine.blank();
+    f2e.resy3.blank();
+    inizializza2(f2e);
+    return f2e;
+}
+
 } // namespace bor

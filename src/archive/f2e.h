@@ -56,4 +56,7 @@ BOR_POSTO(F2e, resy4, 587);
 /// and the reserved `resy1` and `resy3` stay as they are.
 void inizializza2(F2e& f2e);
 
+/// A record without anything in it: the marker, zeros and blanks in all its bytes.
+F2e f2eVuoto();
+
 } // namespace bor

@@ -17,8 +17,8 @@ namespace bor {
 
 namespace {
 
-constexpr auto attesaMassima = std::chrono::seconds(2);
-constexpr auto passo = std::chrono::milliseconds(2);
+constexpr auto attesaMassima = std::chrono::seconds(5);
+constexpr auto passo = std::chrono::milliseconds(5);
 
 enum class EsitoBlocco { Preso, Occupato, Impossibile };
 
@@ -49,7 +49,6 @@ int apriDescrittore(const QByteArray& nome, Apertura apertura) {
 bool FileCasuale::apri(const QString& percorso, Apertura apertura) {
     chiudi();
     m_percorso = percorso;
-    m_erroreLettura = false;
     m_descrittore = apriDescrittore(QFile::encodeName(percorso), apertura);
     if (m_descrittore < 0) {
         const int errore = errno;
@@ -79,29 +78,24 @@ qint64 FileCasuale::lunghezza() const {
 }
 
 qint64 FileCasuale::leggiBytes(qint64 posizione, std::span<std::byte> bytes) const {
-    std::size_t letti = 0;
-    m_erroreLettura = m_erroreLettura || !aperto();
-    while (aperto() && letti < bytes.size()) {
-        const auto n = ::pread(m_descrittore, bytes.data() + letti, bytes.size() - letti,
-                               posizione + static_cast<qint64>(letti));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0) {
-            m_erroreLettura = true;
-            qCWarning(logArchivio, "cannot read %s: %s", qPrintable(m_percorso), std::strerror(errno));
-        }
-        if (n <= 0)
-            break;
-        letti += static_cast<std::size_t>(n);
-    }
-    std::ranges::fill(bytes.subspan(letti), std::byte{0});
-    return static_cast<qint64>(letti);
+    const qint64 letti = m_disco.leggi(m_descrittore, posizione, bytes, m_percorso);
+    std::ranges::fill(bytes.subspan(static_cast<std::size_t>(std::max<qint64>(letti, 0))), std::byte{0});
+    return letti;
 }
 
 bool FileCasuale::scriviBytes(qint64 posizione, std::span<const std::byte> bytes) {
     return m_disco.scrivi(m_descrittore, posizione,
                           {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())},
                           m_percorso);
+}
+
+bool FileCasuale::scarica() {
+    return m_disco.scarica(m_descrittore, m_percorso);
+}
+
+void FileCasuale::accorcia(qint64 lunghezza) {
+    if (aperto() && ::ftruncate(m_descrittore, lunghezza) != 0)
+        qCWarning(logArchivio, "cannot shorten %s: %s", qPrintable(m_percorso), std::strerror(errno));
 }
 
 BloccoByte::BloccoByte(const FileCasuale& file, qint64 posizione) : m_posizione(posizione) {
@@ -113,9 +107,10 @@ BloccoByte::BloccoByte(const FileCasuale& file, qint64 posizione) : m_posizione(
         std::this_thread::sleep_for(passo);
         esito = blocca(file.descrittore(), F_WRLCK, posizione);
     }
+    m_occupato = esito == EsitoBlocco::Occupato;
     if (esito == EsitoBlocco::Preso)
         m_descrittore = file.descrittore();
-    else if (esito == EsitoBlocco::Occupato)
+    else if (m_occupato)
         qCWarning(logArchivio, "gave up waiting for the lock on %s", qPrintable(file.percorso()));
 }
 

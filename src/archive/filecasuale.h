@@ -36,22 +36,23 @@ public:
     int descrittore() const { return m_descrittore; }
     qint64 lunghezza() const;
 
-    /// A read since `apri` failed, or was asked of a closed file: what it gave was not what is on disk.
-    bool erroreLettura() const { return m_erroreLettura; }
-
-    /// How many bytes could be read; what lies beyond them in `bytes` is set to zero.
+    /// How many bytes could be read; what lies beyond them in `bytes` is set to zero. -1 when the read failed
+    /// or the file is closed: all bytes are then zero, but what lies on disk is not known.
     qint64 leggiBytes(qint64 posizione, std::span<std::byte> bytes) const;
     bool scriviBytes(qint64 posizione, std::span<const std::byte> bytes);
+    /// Waits until what was written is on the disk itself.
+    bool scarica();
+    /// Gives back the room behind this length, if the file is longer.
+    void accorcia(qint64 lunghezza);
 
 private:
     Disco& m_disco;
     QString m_percorso;
     int m_descrittore = -1;
-    mutable bool m_erroreLettura = false;
 };
 
-/// A lock on one byte of an open file, held for a few system calls. Waits for another program at the most two
-/// seconds, then goes on without: a program that hangs must not stop an office.
+/// A lock on one byte of an open file, held for a few system calls. Waits for another program at the most
+/// five seconds.
 class BloccoByte {
 public:
     BloccoByte(const FileCasuale& file, qint64 posizione);
@@ -59,7 +60,12 @@ public:
     BloccoByte(const BloccoByte&) = delete;
     BloccoByte& operator=(const BloccoByte&) = delete;
 
+    /// Another program kept the lock all the time. False also where the file system knows no locks: work goes
+    /// on without.
+    bool occupato() const { return m_occupato; }
+
 private:
+    bool m_occupato = false;
     int m_descrittore = -1;
     qint64 m_posizione;
 };

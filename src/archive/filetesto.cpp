@@ -12,7 +12,8 @@ FileTesto::FileTesto(const QString& percorso) {
     m_aperto = !percorso.isEmpty() && file.open(QIODevice::ReadOnly);
     if (m_aperto)
         m_bytes = file.readAll();
-    else
+    m_aperto = m_aperto && file.error() == QFileDevice::NoError;
+    if (!m_aperto)
         qCDebug(logArchivio, "no settings file %s", qPrintable(percorso));
 }
 

@@ -84,15 +84,19 @@ double contoGiorni(const QDateTime& momento) {
            locale.time().msecsSinceStartOfDay() / millisecondiAlGiorno;
 }
 
-double Timbro::nuovo(const QDateTime& momento) {
-    double conto = contoGiorni(momento);
-    if (conto <= m_ultimo) {
-        const double giorno = std::floor(m_ultimo);
-        const double millisecondi = std::round((m_ultimo - giorno) * millisecondiAlGiorno);
-        conto = giorno + (millisecondi + 1) / millisecondiAlGiorno;
-    }
-    m_ultimo = conto;
-    return conto;
+double timbro(const QDateTime& momento, int record) {
+    // A double that counts days of our time has 37 bits behind the point: some 1590 steps a millisecond, of
+    // which the record number takes 1024, as many as fit. Records 1024 apart are never made in one
+    // millisecond.
+    constexpr int bitFrazione = 37;
+    constexpr std::uint64_t passi = 1024;
+    const QDateTime locale = momento.toLocalTime();
+    const auto millisecondi = static_cast<std::uint64_t>(locale.time().msecsSinceStartOfDay());
+    // Rounded up, so that the stamp is never before its millisecond.
+    constexpr auto giorno = static_cast<std::uint64_t>(millisecondiAlGiorno);
+    const std::uint64_t inizio = ((millisecondi << bitFrazione) + giorno - 1) / giorno;
+    const std::uint64_t frazione = inizio + static_cast<std::uint64_t>(record) % passi;
+    return std::floor(contoGiorni(momento)) + std::ldexp(static_cast<double>(frazione), -bitFrazione);
 }
 
 } // namespace bor

@@ -37,13 +37,8 @@ QString giornoMeseAnno(QStringView data);
 /// Days since 30/12/1899 in local time with the time of day as fraction, to the millisecond.
 double contoGiorni(const QDateTime& momento);
 
-/// Gives each document its creation stamp: the present moment, moved on where two would be equal in one run.
-class Timbro {
-public:
-    double nuovo(const QDateTime& momento);
-
-private:
-    double m_ultimo = 0;
-};
+/// Creation stamp of a document: the moment as `contoGiorni` counts it and, below the millisecond, the number
+/// of its record, so that no two documents of a company share one.
+double timbro(const QDateTime& momento, int record);
 
 } // namespace bor

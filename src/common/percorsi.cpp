@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 namespace bor {
 
@@ -18,13 +20,42 @@ bool nomeLecito(QStringView parte) {
                                           [](QChar c) { return c.unicode() < 32 || vietati.contains(c); });
 }
 
+constexpr qsizetype lettereProvate = 4;
+
+/// The spelling of a short name in the folder, found by trying both cases of each letter; nothing when it has
+/// too many letters, or one beyond ASCII. A document's lines file has one letter among 32,000 names: listing
+/// them all takes a hundred thousand times as long.
+std::optional<QString> provaGrafie(const QDir& dir, const QString& nome) {
+    std::vector<qsizetype> lettere;
+    for (qsizetype i = 0; i < nome.size(); ++i) {
+        if (nome[i].unicode() > 127)
+            return std::nullopt;
+        if (nome[i].isLetter())
+            lettere.push_back(i);
+    }
+    if (std::ssize(lettere) > lettereProvate)
+        return std::nullopt;
+    for (std::size_t grafia = 0; grafia < std::size_t{1} << lettere.size(); ++grafia) {
+        QString prova = nome;
+        for (std::size_t k = 0; k < lettere.size(); ++k) {
+            QChar& c = prova[lettere[k]];
+            c = (grafia >> k & 1) == 0 ? c.toLower() : c.toUpper();
+        }
+        if (dir.exists(prova))
+            return prova;
+    }
+    return nome;
+}
+
 /// The entry of the folder that has this name, whatever its case; the name itself when there is none.
 QString trova(const QString& cartella, const QString& nome) {
     const QDir dir(cartella);
     if (dir.exists(nome))
         return nome;
+    if (const auto breve = provaGrafie(dir, nome))
+        return *breve;
     const QStringList voci =
-        dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
     const auto voce = std::find_if(voci.begin(), voci.end(), [&](const QString& v) {
         return v.compare(nome, Qt::CaseInsensitive) == 0;
     });

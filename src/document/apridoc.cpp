@@ -28,14 +28,18 @@ Documento nuovoDocumento(const Contesto& contesto, int tipodocumento, int record
     return documento;
 }
 
-Documento documentoEsistente(const Contesto& contesto, int recordfattura, const RigheInSospeso& sospese) {
+std::optional<Documento> documentoEsistente(const Contesto& contesto, int recordfattura,
+                                            RigheInSospeso& sospese) {
     Documento documento;
     documento.recordfattura = recordfattura;
-    documento.coppia = contesto.archivio.leggi(recordfattura);
+    contesto.archivio.disco().dimentica();
+    if (!contesto.archivio.leggi(recordfattura, documento.coppia))
+        return std::nullopt;
     caricadoc(documento, contesto.archivio);
     prendiCliente(documento, contesto.archivio, documento.recordcliente);
     documento.estremi.postael = documento.cliente.postael.text() == u"1";
-    leggedoc(documento, contesto.archivio, sospese);
+    if (!leggedoc(documento, contesto.archivio, sospese))
+        return std::nullopt;
     documento.integrata = cercaIntegrata(documento.coppia, contesto.tabelle);
     return documento;
 }

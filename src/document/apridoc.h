@@ -4,6 +4,8 @@
 
 #include "document/documento.h"
 
+#include <optional>
+
 namespace bor {
 
 struct Contesto;
@@ -15,7 +17,9 @@ class RigheInSospeso;
 Documento nuovoDocumento(const Contesto& contesto, int tipodocumento, int recordcliente);
 
 /// The document of an `fte` record with customer, lines and head texts; `sospese` holds the lines of one that
-/// was new in this run. What is not on file is blank.
-Documento documentoEsistente(const Contesto& contesto, int recordfattura, const RigheInSospeso& sospese);
+/// was new in this run. What is not on file is blank; nothing comes when a record or the lines file could not
+/// be read, for a save would then write that over them.
+std::optional<Documento> documentoEsistente(const Contesto& contesto, int recordfattura,
+                                            RigheInSospeso& sospese);
 
 } // namespace bor

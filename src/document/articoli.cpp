@@ -149,7 +149,7 @@ int ListaArticoli::cerca(QStringView inizio) const {
 }
 
 bool leggiarticolo(const Archivio& archivio, int recart, Art& articolo) {
-    return archivio.art.leggi(recart, articolo) && articolo.eliminato == 0;
+    return archivio.art.leggi(recart, articolo) == EsitoLettura::Letta && articolo.eliminato == 0;
 }
 
 int cercabarcode(const Archivio& archivio, QStringView testo) {

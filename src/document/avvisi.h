@@ -1,12 +1,21 @@
 // Messages that several procedures give in the same words.
 #pragma once
 
+#include "archive/recupero.h"
+
 namespace bor {
 
 struct Contesto;
+struct Documento;
 
-/// Tells the operator which file could not be written, or that an archive is full where no write failed, and
-/// that what is on screen is still there.
-void avvisaNonScritto(const Contesto& contesto);
+/// "fattura 12/A del 15/03/2015", or credit note, or fee bill.
+QString nomeDocumento(const Documento& documento);
+
+/// Tells the operator why nothing was registered, and that what is on screen is still there: which file could
+/// not be read or written, that an archive is full, or that another computer is writing.
+void avvisaNonRegistrato(const Contesto& contesto, EsitoRaffica esito);
+
+/// Tells which registrations, left unfinished by a run that was stopped, have been completed meanwhile.
+void avvisaRecuperi(const Contesto& contesto);
 
 } // namespace bor

@@ -1,6 +1,7 @@
 #include "document/borftea.h"
 
 #include "document/apridoc.h"
+#include "document/avvisi.h"
 #include "document/scadenze.h"
 
 #include <utility>
@@ -40,7 +41,12 @@ void Borftea::apri() {
         m_documento = nuovoDocumento(m_contesto, m_documento.tipodocumento(), m_documento.recordcliente);
         m_documento.testata = std::move(testata);
     } else {
-        m_documento = documentoEsistente(m_contesto, m_documento.recordfattura, m_sospese);
+        auto letto = documentoEsistente(m_contesto, m_documento.recordfattura, m_sospese);
+        if (!letto) {
+            avvisaNonRegistrato(m_contesto, EsitoRaffica::NonLetta);
+            return esci();
+        }
+        m_documento = *std::move(letto);
         m_contesto.sessione.testataletta = true;
     }
     m_numeroletto = m_documento.estremi.numero.trimmed();

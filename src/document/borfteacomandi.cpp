@@ -79,10 +79,10 @@ void Borftea::salva() {
 }
 
 void Borftea::elimina() {
-    if (!eliminadoc(m_documento, m_contesto, m_registrazioni, m_sospese))
-        return;
+    // The register shows what is on file, also where a delete got only half the way.
     m_contesto.sessione.listadaaggiornare = true;
-    esci();
+    if (eliminadoc(m_documento, m_contesto, m_registrazioni, m_sospese))
+        esci();
 }
 
 void Borftea::righe() {

@@ -9,9 +9,10 @@ struct Contesto;
 class Registrazioni;
 class RigheInSospeso;
 
-/// Asks, then marks the document as deleted, takes its warehouse rows back, removes its lines file and undoes
-/// its movement. False when the operator does not want to, or when a file could not be written: the operator
-/// was told which, and what was done before stays.
+/// Asks everything first; then, as one burst, marks the document as deleted, takes its warehouse rows back
+/// and undoes its movement; last removes its lines file. False when the operator does not want to, or when
+/// that failed: the operator was told why, and the archive is as it was, but for a lines file that would not
+/// go.
 bool eliminadoc(Documento& documento, const Contesto& contesto, Registrazioni& registrazioni,
                 RigheInSospeso& sospese);
 

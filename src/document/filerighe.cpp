@@ -4,6 +4,8 @@
 #include "common/numeri.h"
 #include "document/righeinsospeso.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -159,26 +161,44 @@ void svuota(Documento& documento) {
     documento.dddp.assign(righeParcella, {});
 }
 
+bool senzaRighe(const Documento& documento) {
+    return std::ranges::all_of(documento.ddd, [](const Riga& riga) { return riga == Riga(); }) &&
+           std::ranges::all_of(documento.dddp, [](const Rigap& riga) { return riga == Rigap(); });
+}
+
 } // namespace
 
 QString percorsoRighe(const Archivio& archivio, const Fte& fte) {
     return archivio.file((fte.parcella != 0 ? u"p"_s : u"f"_s) + testoDecimale(double{fte.nfile}));
 }
 
-void leggedoc(Documento& documento, const Archivio& archivio, const RigheInSospeso& sospese) {
+bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& sospese) {
     svuota(documento);
     Fte& fte = documento.coppia.fte;
     if (fte.nfile > 0.0F) {
-        Lettura file(archivio.reale(percorsoRighe(archivio, fte)));
-        if (file.aperta())
-            return leggi(file, documento);
+        const QString percorso = archivio.reale(percorsoRighe(archivio, fte));
+        Lettura file(percorso);
+        if (file.aperta()) {
+            leggi(file, documento);
+            // Another program may have saved a document that is new here, and found it without lines.
+            if (senzaRighe(documento))
+                sospese.riprendi(documento);
+            else
+                sospese.dimentica(documento);
+            return true;
+        }
+        if (QFileInfo::exists(percorso)) {
+            archivio.disco().segnaNonLetto(percorso);
+            return false;
+        }
     }
     fte.nfile = -1.0F;
     if (sospese.riprendi(documento))
-        return;
+        return true;
     Lettura vecchio(archivio.reale(archivio.file(nomeVecchio(documento))), true);
     if (vecchio.aperta())
         leggi(vecchio, documento);
+    return true;
 }
 
 bool scrividoc(const Documento& documento, Archivio& archivio) {

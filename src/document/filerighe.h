@@ -9,9 +9,10 @@ namespace bor {
 class RigheInSospeso;
 
 /// Fills lines, head texts and switches of the document from its lines file; from what the run still keeps of
-/// a new one; else from a file of the older name, by number and year. A document without any has no lines,
-/// which is no failure. Where the current file is missing the next save gives the document a new one.
-void leggedoc(Documento& documento, const Archivio& archivio, const RigheInSospeso& sospese);
+/// a new one, also where another program has meanwhile stored it without lines; else from a file of the older
+/// name, by number and year. A document without any has no lines, which is no failure; false when there is a
+/// file that could not be read. Where the current file is missing the next save gives the document a new one.
+bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& sospese);
 
 /// Writes the document's lines file, which must have a number, over an earlier one. False when it could not
 /// be written: the earlier one is then still there.

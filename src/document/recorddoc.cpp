@@ -212,7 +212,7 @@ void caricadoc(Documento& documento, const Archivio& archivio) {
     caricaSpesometro(documento.prospetti, fte);
 }
 
-CoppiaFte riempiRecord(const Documento& documento, const Contesto& contesto) {
+CoppiaFte riempiRecord(const Documento& documento, double stamp) {
     CoppiaFte coppia = documento.coppia;
     auto& [fte, f2e] = coppia;
     const bool nuovo = documento.recordfattura == 0;
@@ -225,7 +225,7 @@ CoppiaFte riempiRecord(const Documento& documento, const Contesto& contesto) {
     if (nuovo)
         iniziaRecord(coppia);
     if (nuovo || fte.stamp == 0.0)
-        fte.stamp = contesto.timbro.nuovo(contesto.orologio.adesso());
+        fte.stamp = stamp;
     fte.vuoto2.blank();
     fte.annullata = 0; // saving a deleted document brings it back
     f2e.marca = F2e::marcaValida;

@@ -6,15 +6,13 @@
 
 namespace bor {
 
-struct Contesto;
-
 /// Fills customer, numbers, schedule and panels of the document from its records. Lists get no selection
 /// where the stored position is none of theirs.
 void caricadoc(Documento& documento, const Archivio& archivio);
 
 /// The document's records with everything that it holds beside them. A new document also gets its reserved
-/// fields emptied; any other field that no screen shows stays as it was. A document without creation stamp
-/// gets one. The number of the lines file is not touched.
-CoppiaFte riempiRecord(const Documento& documento, const Contesto& contesto);
+/// fields emptied; any other field that no screen shows stays as it was. A new document, or
+/// one without creation stamp, gets `stamp`. The number of the lines file is not touched.
+CoppiaFte riempiRecord(const Documento& documento, double stamp);
 
 } // namespace bor

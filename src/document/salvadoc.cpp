@@ -1,6 +1,7 @@
 #include "document/salvadoc.h"
 
 #include "archive/contesto.h"
+#include "archive/raffica.h"
 #include "common/numeri.h"
 #include "document/avvisi.h"
 #include "document/filerighe.h"
@@ -73,22 +74,36 @@ void ricordaNumero(Tot& contatore, const QString& numero) {
         contatore.ultimonumero = static_cast<std::int16_t>(n);
 }
 
-/// Writes the records and counts them. The number of the record, or 0; `coppia` gets the number of its lines
-/// file.
-int scriviRecord(Archivio& archivio, CoppiaFte& coppia, const Documento& documento) {
-    const BloccoByte blocco = archivio.bloccaContatori();
-    Tot contatore = archivio.leggiTot(Conta::Fte);
+/// What a save has written of the document itself.
+struct Registrato {
+    EsitoRaffica esito = EsitoRaffica::Riuscita;
+    int record = 0;
+    CoppiaFte coppia;
+    bool righeMagazzino = false; ///< the archive holds warehouse rows
+};
+
+/// Writes the records and counts them.
+Registrato scriviRecord(const Documento& documento, const Contesto& contesto) {
+    const Attesa attesa(contesto.operatore);
+    Archivio& archivio = contesto.archivio;
+    Raffica raffica(archivio, nomeDocumento(documento));
+    Tot contatore = raffica.leggiTot(Conta::Fte);
     const bool nuovo = documento.recordfattura == 0;
-    const int n = nuovo ? Archivio::prossimo(contatore) : documento.recordfattura;
-    assegnaNfile(coppia.fte, contatore);
-    if (n == 0 || !archivio.scrivi(n, coppia))
-        return 0;
+    Registrato r;
+    r.record = nuovo ? raffica.prossimo(contatore) : documento.recordfattura;
+    r.coppia = riempiRecord(documento, timbro(contesto.orologio.adesso(), r.record));
+    r.righeMagazzino = raffica.leggiTot(Conta::Mag).numero >= 1;
+    assegnaNfile(r.coppia.fte, contatore);
     contatore.modificato = 1;
     if (nuovo) {
-        contatore.numero = static_cast<std::int16_t>(n);
+        contatore.numero = static_cast<std::int16_t>(r.record);
         ricordaNumero(contatore, documento.estremi.numero);
     }
-    return archivio.scriviTot(Conta::Fte, contatore) ? n : 0;
+    raffica.scrivi(archivio.fte, r.record, r.coppia.fte);
+    raffica.scrivi(archivio.f2e, r.record, r.coppia.f2e);
+    raffica.scriviTot(Conta::Fte, contatore);
+    r.esito = raffica.esegui();
+    return r;
 }
 
 bool scriviRighe(const Documento& documento, const Contesto& contesto, RigheInSospeso& sospese) {
@@ -101,15 +116,18 @@ bool scriviRighe(const Documento& documento, const Contesto& contesto, RigheInSo
     return true;
 }
 
-/// Asks whether the warehouse rows are to follow the lines; false only when they could not be written.
-bool aggiornaMagazzino(const Documento& documento, const Contesto& contesto, Registrazioni& registrazioni) {
+/// Asks whether the warehouse rows are to follow the lines, and replaces them.
+EsitoRaffica aggiornaMagazzino(const Documento& documento, const Contesto& contesto,
+                               Registrazioni& registrazioni) {
     if (documento.coppia.fte.stamp == 0.0 || documento.parcella() ||
-        contesto.archivio.leggiTot(Conta::Mag).numero < 1 ||
         !contesto.operatore.chiedi(u"Desideri aggiornare anche gli eventuali movimento di magazzino?"_s,
                                    u"Modifica fattura"_s))
-        return true;
+        return EsitoRaffica::Riuscita;
     const Attesa attesa(contesto.operatore);
-    return registrazioni.togliscarico(documento) && registrazioni.mettiscarico(documento);
+    Raffica raffica(contesto.archivio, u"movimenti di magazzino, "_s + nomeDocumento(documento));
+    registrazioni.togliscarico(documento, raffica);
+    registrazioni.mettiscarico(documento, raffica);
+    return raffica.esegui();
 }
 
 } // namespace
@@ -118,32 +136,34 @@ EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazion
                     RigheInSospeso& sospese) {
     if (const auto rifiuto = controlla(documento, contesto))
         return *rifiuto;
-    contesto.archivio.disco().dimentica();
-    const auto nonScritto = [&contesto] {
-        avvisaNonScritto(contesto);
+    const auto nonRegistrato = [&contesto](EsitoRaffica esito) {
+        avvisaRecuperi(contesto);
+        avvisaNonRegistrato(contesto, esito);
         return EsitoSalva{};
     };
 
     const bool nuovo = documento.recordfattura == 0;
-    CoppiaFte coppia = riempiRecord(documento, contesto);
-    int n = 0;
-    {
-        const Attesa attesa(contesto.operatore);
-        n = scriviRecord(contesto.archivio, coppia, documento);
-    }
-    if (n == 0)
-        return nonScritto();
-    documento.coppia = coppia;
+    const Registrato registrato = scriviRecord(documento, contesto);
+    if (registrato.esito != EsitoRaffica::Riuscita)
+        return nonRegistrato(registrato.esito);
+    documento.coppia = registrato.coppia;
+    avvisaRecuperi(contesto);
 
     if (nuovo) {
         sospese.tieni(documento);
         // Prepared while the document still counts as new: it has no earlier movement to ask about.
         registrazioni.preparaMovimento(documento);
-        documento.recordfattura = n;
+        documento.recordfattura = registrato.record;
         return {DopoSalva::Movimento, std::nullopt, false};
     }
-    if (!scriviRighe(documento, contesto, sospese) || !aggiornaMagazzino(documento, contesto, registrazioni))
-        return nonScritto();
+    if (!scriviRighe(documento, contesto, sospese))
+        return nonRegistrato(EsitoRaffica::NonScritta);
+    if (registrato.righeMagazzino) {
+        const EsitoRaffica esito = aggiornaMagazzino(documento, contesto, registrazioni);
+        if (esito != EsitoRaffica::Riuscita)
+            return nonRegistrato(esito);
+        avvisaRecuperi(contesto);
+    }
     if (!contesto.operatore.chiedi(u"Desideri aggiornare l'eventuale movimento contabile?"_s,
                                    u"Modifica fattura"_s))
         return {DopoSalva::Registro, std::nullopt};

@@ -32,9 +32,10 @@ struct EsitoSalva {
 /// operator wants it, its warehouse rows anew and its movement prepared.
 ///
 /// The form stays when a check refuses a box (which the result names), when the operator does not want to go
-/// on, or when a file could not be written: then the operator was told which, the document keeps everything
-/// typed, and what was written before stays. Files are written in a fixed order, so that after a crash the
-/// records are never behind what depends on them: records, counter, lines file, warehouse, accounting.
+/// on, or when a burst of writes failed: then the operator was told why, the document keeps everything
+/// typed, that burst wrote nothing, and those before it stay. The bursts follow in a fixed order, so that the
+/// records are never behind what depends on them: records with their counter, lines file, warehouse rows with
+/// their stock, accounting.
 EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazioni& registrazioni,
                     RigheInSospeso& sospese);
 

@@ -1,6 +1,8 @@
 #include "einvoice/borftepa.h"
 
+#include "archive/raffica.h"
 #include "common/numeri.h"
+#include "document/avvisi.h"
 #include "einvoice/generaxml.h"
 #include "einvoice/tabellefpa.h"
 
@@ -202,19 +204,31 @@ void Borftepa::raccogli() {
 void Borftepa::scriviDati() {
     if (m_documento.recordfpa < 1)
         m_documento.recordfpa = nuovoProgressivo();
+    if (m_documento.recordfpa < 1)
+        return;
     scriviFpa(fileDocumento(), m_fpadoc);
     scriviFpa(u"borlano.fpa"_s, m_fpaazienda);
 }
 
-/// The counter is 16 bits wide on file and starts again where they end.
+/// The counter is 16 bits wide on file and starts again where they end. 0 when it could not be counted on:
+/// the operator was told.
 double Borftepa::nuovoProgressivo() {
-    Archivio& archivio = m_contesto.archivio;
-    const BloccoByte blocco = archivio.bloccaContatori();
-    Tot contatore = archivio.leggiTot(Conta::Fpa);
-    const int ultimo = std::max<int>(contatore.numero, 0);
-    contatore.numero = static_cast<std::int16_t>(ultimo >= Archivio::massimo ? 1 : ultimo + 1);
-    archivio.scriviTot(Conta::Fpa, contatore);
-    return contatore.numero;
+    int numero = 0;
+    EsitoRaffica esito{};
+    {
+        Raffica raffica(m_contesto.archivio, u"numero di una fattura elettronica"_s);
+        Tot contatore = raffica.leggiTot(Conta::Fpa);
+        const int ultimo = std::max<int>(contatore.numero, 0);
+        numero = ultimo >= Archivio::massimo ? 1 : ultimo + 1;
+        contatore.numero = static_cast<std::int16_t>(numero);
+        raffica.scriviTot(Conta::Fpa, contatore);
+        esito = raffica.esegui();
+    }
+    avvisaRecuperi(m_contesto);
+    if (esito == EsitoRaffica::Riuscita)
+        return numero;
+    avvisaNonRegistrato(m_contesto, esito);
+    return 0;
 }
 
 std::optional<std::vector<Rilievo>> Borftepa::controlla() {

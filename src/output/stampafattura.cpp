@@ -35,10 +35,11 @@ bool esegui(const Documento& documento, const Contesto& contesto, Stampante& sta
             return false;
         uscita = Foglio::Uscita::SoloRapporto;
     }
+    contesto.archivio.disco().dimentica();
     Foglio foglio(contesto, stampante, uscita, documento.estremi.numero);
     disegnaPagine(layout, modello, pianta, dati, foglio);
     if (!foglio.termina()) {
-        avvisaNonScritto(contesto);
+        avvisaNonRegistrato(contesto, EsitoRaffica::NonScritta);
         return false;
     }
     return !senzaPagine;

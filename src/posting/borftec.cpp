@@ -170,22 +170,31 @@ bool Borftec::salvamovimento() {
         m_contesto.operatore.messaggio(u"La data del movimento non è valida"_s, u"Attenzione"_s, Icona::Stop);
         return false;
     }
-    if (!trovaConti()) {
+    bool contiTrovati = false;
+    const EsitoRaffica esito = registra(contiTrovati);
+    avvisaRecuperi(m_contesto);
+    if (esito != EsitoRaffica::Riuscita)
+        avvisaNonRegistrato(m_contesto, esito);
+    else if (!contiTrovati)
         m_contesto.operatore.messaggio(u"Uno o più conti selezionati non esistono"_s, u"Attenzione"_s,
                                        Icona::Stop);
-        return false;
-    }
-    const Attesa attesa(m_contesto.operatore);
-    const int vecchiomovimento = m_contesto.sessione.modificamovimento
-                                     ? trovaMovimento(m_contesto.archivio, m_documento.coppia.fte.stamp)
-                                     : 0;
-    if (aggiornaConti(vecchiomovimento) && scriviMovimento(vecchiomovimento))
-        return true;
-    avvisaNonScritto(m_contesto);
-    return false;
+    return esito == EsitoRaffica::Riuscita && contiTrovati;
 }
 
-bool Borftec::trovaConti() {
+EsitoRaffica Borftec::registra(bool& contiTrovati) {
+    const Attesa attesa(m_contesto.operatore);
+    Raffica raffica(m_contesto.archivio, u"movimento contabile, "_s + nomeDocumento(m_documento));
+    contiTrovati = trovaConti(raffica);
+    if (!contiTrovati)
+        return raffica.esito();
+    const int vecchiomovimento =
+        m_contesto.sessione.modificamovimento ? trovaMovimento(raffica, m_documento.coppia.fte.stamp) : 0;
+    aggiornaConti(raffica, vecchiomovimento);
+    scriviMovimento(raffica, vecchiomovimento);
+    return raffica.esegui();
+}
+
+bool Borftec::trovaConti(Raffica& raffica) {
     bool tutti = true;
     for (int i = 0; i < righe; ++i) {
         int& trovato = m_contoriga[static_cast<std::size_t>(i)];
@@ -195,42 +204,34 @@ bool Borftec::trovaConti() {
             riga(i).conto = {};
         const QString codice = riga(i).conto.unito().trimmed();
         if (!codice.isEmpty()) {
-            trovato = trovaconto(m_contesto.archivio, codice);
+            trovato = trovaconto(raffica, codice);
             tutti = tutti && trovato > 0;
         }
     }
     return tutti;
 }
 
-bool Borftec::aggiornaConti(int vecchiomovimento) {
-    Archivio& archivio = m_contesto.archivio;
+void Borftec::aggiornaConti(Raffica& raffica, int vecchiomovimento) {
     if (vecchiomovimento > 0) {
-        for (const VoceGio& voce : archivio.gio.leggi(vecchiomovimento).voce) {
-            if (!applicaconto(archivio, voce))
-                return false;
-        }
+        for (const VoceGio& voce : raffica.leggi(m_contesto.archivio.gio, vecchiomovimento).voce)
+            applicaconto(raffica, voce);
     }
-    // One read and write a line, so that two lines on one account add up.
     for (int i = 0; i < righe; ++i) {
         const int n = m_contoriga[static_cast<std::size_t>(i)];
-        if (n == 0)
-            continue;
-        Con conto = archivio.con.leggi(n);
-        conto.progressivodare += valorevirgola(riga(i).dare);
-        conto.progressivoavere += valorevirgola(riga(i).avere);
-        if (!archivio.con.scrivi(n, conto))
-            return false;
+        if (n > 0)
+            aggiornaconto(raffica, n, valorevirgola(riga(i).dare), valorevirgola(riga(i).avere));
     }
-    return true;
 }
 
-bool Borftec::scriviMovimento(int vecchiomovimento) {
-    Archivio& archivio = m_contesto.archivio;
-    Gio gio = vecchiomovimento > 0 ? archivio.gio.leggi(vecchiomovimento) : vuoto<Gio>();
+void Borftec::scriviMovimento(Raffica& raffica, int vecchiomovimento) {
+    RecordFile<Gio>& file = m_contesto.archivio.gio;
+    Gio gio = raffica.leggi(file, vecchiomovimento);
     m_movimento.riempi(gio);
     gio.riferimentofattura = m_documento.coppia.fte.stamp;
-    return vecchiomovimento > 0 ? archivio.cambia(archivio.gio, Conta::Gio, vecchiomovimento, gio)
-                                : archivio.aggiungi(archivio.gio, Conta::Gio, gio) > 0;
+    if (vecchiomovimento > 0)
+        raffica.cambia(file, Conta::Gio, vecchiomovimento, gio);
+    else
+        raffica.aggiungi(file, Conta::Gio, gio);
 }
 
 } // namespace bor

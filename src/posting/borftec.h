@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "archive/raffica.h"
 #include "document/cella.h"
 #include "document/documento.h"
 #include "posting/movimento.h"
@@ -69,9 +70,11 @@ public:
 
 private:
     bool salvamovimento();
-    bool trovaConti();
-    bool aggiornaConti(int vecchiomovimento);
-    bool scriviMovimento(int vecchiomovimento);
+    /// Writes the movement and the balances, unless an account is missing.
+    EsitoRaffica registra(bool& contiTrovati);
+    bool trovaConti(Raffica& raffica);
+    void aggiornaConti(Raffica& raffica, int vecchiomovimento);
+    void scriviMovimento(Raffica& raffica, int vecchiomovimento);
     RigaMovimento& riga(int i) { return m_movimento.righe[static_cast<std::size_t>(i)]; }
     const RigaMovimento& riga(int i) const { return m_movimento.righe[static_cast<std::size_t>(i)]; }
 

@@ -6,20 +6,20 @@
 
 namespace bor {
 
-bool RegistrazioniContabili::togliscarico(const Documento& documento) {
-    return bor::togliscarico(documento, m_contesto);
+void RegistrazioniContabili::togliscarico(const Documento& documento, Raffica& raffica) {
+    bor::togliscarico(documento, raffica);
 }
 
-bool RegistrazioniContabili::mettiscarico(const Documento& documento) {
-    return bor::mettiscarico(documento, m_contesto);
+void RegistrazioniContabili::mettiscarico(const Documento& documento, Raffica& raffica) {
+    bor::mettiscarico(documento, m_contesto, raffica);
+}
+
+void RegistrazioniContabili::stornaconti(const Gio& movimento, Raffica& raffica) {
+    bor::stornaconti(raffica, movimento);
 }
 
 void RegistrazioniContabili::preparaMovimento(const Documento& documento) {
     m_editor.prepara(documento.parcella() ? setpar(documento, m_contesto) : setfat(documento, m_contesto));
-}
-
-bool RegistrazioniContabili::stornaconti(const Gio& movimento) {
-    return bor::stornaconti(m_contesto.archivio, movimento);
 }
 
 } // namespace bor

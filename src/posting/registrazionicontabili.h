@@ -10,10 +10,10 @@ class RegistrazioniContabili : public Registrazioni {
 public:
     RegistrazioniContabili(Contesto& contesto, Borftec& editor) : m_contesto(contesto), m_editor(editor) {}
 
-    bool togliscarico(const Documento& documento) override;
-    bool mettiscarico(const Documento& documento) override;
+    void togliscarico(const Documento& documento, Raffica& raffica) override;
+    void mettiscarico(const Documento& documento, Raffica& raffica) override;
     void preparaMovimento(const Documento& documento) override;
-    bool stornaconti(const Gio& movimento) override;
+    void stornaconti(const Gio& movimento, Raffica& raffica) override;
 
 private:
     Contesto& m_contesto;

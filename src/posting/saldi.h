@@ -1,24 +1,26 @@
-// The balances of the accounts, as a movement that goes leaves them.
+// The balances of the accounts, as a movement that comes or goes leaves them. Everything is read and planned
+// in the burst that writes the movement.
 #pragma once
 
-#include "archive/archivio.h"
+#include "archive/raffica.h"
 
 namespace bor {
 
 /// Record number of the first account whose code has this numeric value; 0 when there is none.
-int trovaconto(const Archivio& archivio, QStringView codice);
+int trovaconto(Raffica& raffica, QStringView codice);
 
-/// Takes the amount of a replaced movement out of its account, on its own side. False when the account could
-/// not be written; one that is not in the chart is passed over.
-bool applicaconto(Archivio& archivio, const VoceGio& voce);
+/// Adds to the totals of an account.
+void aggiornaconto(Raffica& raffica, int record, double dare, double avere);
+
+/// Takes the amount of a replaced movement out of its account, on its own side. An account that is not in the
+/// chart is passed over, and so is an amount that is no number.
+void applicaconto(Raffica& raffica, const VoceGio& voce);
 
 /// Takes the amount of a deleted movement out of its account, on the side across: that of a credit out of the
-/// debit total. The other modules of the suite count on it. An amount of 0 or less changes nothing; the
-/// result as above.
-bool stornaconto(Archivio& archivio, const VoceGio& voce);
+/// debit total. The other modules of the suite count on it. An amount of 0 or less changes nothing.
+void stornaconto(Raffica& raffica, const VoceGio& voce);
 
-/// The same for every entry of a movement that names an account; it ends at the first that could not be
-/// written.
-bool stornaconti(Archivio& archivio, const Gio& movimento);
+/// The same for every entry of a movement that names an account.
+void stornaconti(Raffica& raffica, const Gio& movimento);
 
 } // namespace bor

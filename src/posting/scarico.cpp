@@ -21,12 +21,6 @@ double prezzoNetto(const Riga& riga, bool scorporo, const Contesto& contesto) {
     return p;
 }
 
-void muovi(Art& articolo, double quantita, double valore) {
-    articolo.giacenza -= quantita;
-    articolo.venduto += quantita;
-    articolo.venduto2 += valore;
-}
-
 Mag rigaMagazzino(const Documento& documento, const Riga& riga, double prezzo) {
     Mag mag = vuoto<Mag>();
     mag.data.set(annoMeseGiorno(documento.estremi.datareg));
@@ -42,52 +36,57 @@ Mag rigaMagazzino(const Documento& documento, const Riga& riga, double prezzo) {
     return mag;
 }
 
+/// Moves the stock of an article that exists; figures that are no numbers move nothing.
+void muovi(Raffica& raffica, int articolo, double quantita, double valore) {
+    if (articolo < 1 || articolo > raffica.leggiTot(Conta::Art).numero || !std::isfinite(quantita) ||
+        !std::isfinite(valore))
+        return;
+    RecordFile<Art>& art = raffica.archivio().art;
+    Art record = raffica.leggi(art, articolo);
+    record.giacenza -= quantita;
+    record.venduto += quantita;
+    record.venduto2 += valore;
+    raffica.scrivi(art, articolo, record);
+}
+
 /// Takes one row back: the value by quantity and price without rounding, unlike the way in. The suite keeps
 /// the two apart.
-bool togli(Archivio& archivio, int n, Mag mag, bool nota) {
+void togli(Raffica& raffica, int n, Mag mag, bool nota) {
     mag.cancellato = 1;
-    if (!archivio.mag.scrivi(n, mag))
-        return false;
-    Art articolo = archivio.art.leggi(mag.articolo);
+    raffica.scrivi(raffica.archivio().mag, n, mag);
     const double quantita = nota ? -std::fabs(mag.quantita) : double{mag.quantita};
-    muovi(articolo, -quantita, -quantita * mag.valore);
-    return mag.articolo < 1 || archivio.art.scrivi(mag.articolo, articolo);
+    muovi(raffica, mag.articolo, -quantita, -quantita * mag.valore);
 }
 
 } // namespace
 
-bool togliscarico(const Documento& documento, const Contesto& contesto) {
-    Archivio& archivio = contesto.archivio;
-    bool riuscito = true;
-    archivio.mag.scorri(1, archivio.leggiTot(Conta::Mag).numero, [&](int n, const Mag& mag) {
-        // A row that an earlier save took back stays taken back.
-        if (mag.stampmag == documento.coppia.fte.stamp && mag.cancellato != 1)
-            riuscito = togli(archivio, n, mag, documento.notaCredito());
-        return riuscito;
-    });
-    return riuscito;
+void togliscarico(const Documento& documento, Raffica& raffica) {
+    raffica.scorri(raffica.archivio().mag, 1, raffica.leggiTot(Conta::Mag).numero,
+                   [&](int n, const Mag& mag) {
+                       // A row that an earlier save took back stays taken back.
+                       if (mag.stampmag == documento.coppia.fte.stamp && mag.cancellato != 1)
+                           togli(raffica, n, mag, documento.notaCredito());
+                       return true;
+                   });
 }
 
-bool mettiscarico(const Documento& documento, const Contesto& contesto) {
-    Archivio& archivio = contesto.archivio;
+void mettiscarico(const Documento& documento, const Contesto& contesto, Raffica& raffica) {
     const Valuta valuta = contesto.valuta();
-    const BloccoByte blocco = archivio.bloccaContatori();
-    Tot contatore = archivio.leggiTot(Conta::Mag);
+    Tot contatore = raffica.leggiTot(Conta::Mag);
     for (const Riga& riga : documento.ddd) {
         if (riga.recart < 1 || !riga.codice2.isEmpty())
             continue;
         const double p = prezzoNetto(riga, documento.scorporo, contesto);
         const double verso = documento.notaCredito() ? -1 : 1;
-        const int n = Archivio::prossimo(contatore);
-        Art articolo = archivio.art.leggi(riga.recart);
-        muovi(articolo, verso * riga.quantita, verso * valuta.arrotonda(p * riga.quantita));
-        if (n == 0 || !archivio.art.scrivi(riga.recart, articolo) ||
-            !archivio.mag.scrivi(n, rigaMagazzino(documento, riga, p)))
-            return false;
+        const int n = raffica.prossimo(contatore);
+        if (n == 0)
+            return;
+        muovi(raffica, riga.recart, verso * riga.quantita, verso * valuta.arrotonda(p * riga.quantita));
+        raffica.scrivi(raffica.archivio().mag, n, rigaMagazzino(documento, riga, p));
         contatore.numero = static_cast<std::int16_t>(n);
     }
     contatore.modificato = 1;
-    return archivio.scriviTot(Conta::Mag, contatore);
+    raffica.scriviTot(Conta::Mag, contatore);
 }
 
 } // namespace bor

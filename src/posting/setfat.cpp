@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "document/avvisi.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
 #include "document/trovamovimento.h"
@@ -82,13 +83,21 @@ std::optional<Movimento> precedente(const Documento& documento, const Contesto& 
             "far generare un nuovo movimento sulla base delle nuove caratteristiche della fattura, clic su 'NO'"_s,
             u"Modifica registrazione contabile"_s))
         return std::nullopt;
-    int trovato = 0;
+    Gio gio;
+    std::optional<int> trovato;
     {
         const Attesa attesa(contesto.operatore);
+        contesto.archivio.disco().dimentica();
         trovato = trovaMovimento(contesto.archivio, documento.coppia.fte.stamp);
+        if (trovato && contesto.archivio.gio.leggi(*trovato, gio) == EsitoLettura::Guasta)
+            trovato.reset();
     }
-    if (trovato > 0)
-        return Movimento::da(contesto.archivio.gio.leggi(trovato));
+    if (!trovato) {
+        avvisaNonRegistrato(contesto, EsitoRaffica::NonLetta);
+        return std::nullopt;
+    }
+    if (*trovato > 0)
+        return Movimento::da(gio);
     contesto.operatore.messaggio(
         u"Non è stato possibile recuperare il movimento contabile registrato in precedenza: "
         "verrà generato un nuovo movimento contabile"_s,

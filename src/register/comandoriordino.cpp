@@ -1,5 +1,7 @@
 #include "register/comandoriordino.h"
 
+#include "document/avvisi.h"
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -48,18 +50,18 @@ bool ComandoRiordino::esegui(TipoRiordino tipo, int& numero) {
     // The label comes back without its colon and stays so.
     m_etichetta = u"Inserisci"_s;
     m_stato = Stato::InCorso;
-    Tot contatore = m_contesto.archivio.leggiTot(Conta::Fte);
     m_massimo = 0;
     avanza(0);
     EsitoRiordino esito;
     if (m_contesto.operatore.chiedi(domandaRiordino(tipo), u"Riordino archivio"_s)) {
         const Attesa attesa(m_contesto.operatore);
-        m_massimo = contatore.numero;
+        m_massimo = m_contesto.archivio.leggiTot(Conta::Fte).numero;
         avanza(1);
-        esito = riordina(m_contesto.archivio, tipo, contatore, [this](int fatti) { avanza(fatti); });
+        esito = riordina(m_contesto.archivio, tipo, [this](int fatti) { avanza(fatti); });
+        numero = esito.documenti;
     }
     m_stato = Stato::Fermo;
-    numero = contatore.numero;
+    avvisaRecuperi(m_contesto);
     if (esito.fase == FaseRiordino::Riuscito)
         return true;
     mostraErrore(esito);
@@ -74,6 +76,8 @@ void ComandoRiordino::avanza(int fatti) {
 }
 
 void ComandoRiordino::mostraErrore(const EsitoRiordino& esito) {
+    if (esito.occupato)
+        return avvisaNonRegistrato(m_contesto, EsitoRaffica::Occupata);
     m_contesto.operatore.messaggio(
         u"Si è verificato l'errore "_s + QString::number(esito.errore) + testoFase(esito.fase) +
             u" Probabilmente qualche applicazione non è stata chiusa correttamente oppure "

@@ -1,5 +1,6 @@
 #include "register/elencofatture.h"
 
+#include "archive/raffica.h"
 #include "common/date.h"
 #include "register/righeelenco.h"
 
@@ -33,6 +34,22 @@ bool nominato(const Text<60>& pdf) {
     });
 }
 
+/// Sets the number that cannot be one of an electronic invoice back to 0, in the records as they are by now.
+/// What cannot be written stays for the next time.
+void riparaFpa(Archivio& archivio, const std::vector<int>& guasti) {
+    if (guasti.empty())
+        return;
+    Raffica raffica(archivio, QStringLiteral("riparazione del registro"));
+    for (const int n : guasti) {
+        F2e f2e = raffica.leggi(archivio.f2e, n);
+        if (!f2e.fpaGuasto())
+            continue;
+        f2e.fpa = 0.0;
+        raffica.scrivi(archivio.f2e, n, f2e);
+    }
+    raffica.esegui();
+}
+
 } // namespace
 
 void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatture filtro) {
@@ -40,6 +57,7 @@ void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatt
     m_pdf.clear();
     std::vector<Fte> teste(documentiPerBlocco);
     std::vector<F2e> code(documentiPerBlocco);
+    std::vector<int> guasti;
     for (int n = primo; n <= ultimo; n += documentiPerBlocco) {
         const int nelBlocco = std::min(documentiPerBlocco, ultimo - n + 1);
         archivio.fte.leggiBlocco(n, std::span(teste).first(static_cast<std::size_t>(nelBlocco)));
@@ -48,12 +66,13 @@ void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatt
             F2e& f2e = code[static_cast<std::size_t>(i)];
             if (f2e.fpaGuasto()) {
                 f2e.fpa = 0.0;
-                archivio.f2e.scrivi(n + i, f2e);
+                guasti.push_back(n + i);
             }
             if (passa(f2e, filtro) && quante() < massimoRighe)
                 aggiungi(n + i, teste[static_cast<std::size_t>(i)], f2e);
         }
     }
+    riparaFpa(archivio, guasti);
     m_ultimaPdf = haPdf(quante() - 1);
     leggiNomi(archivio);
 }

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
+#include <optional>
 
 namespace bor {
 
@@ -41,10 +43,10 @@ struct Elenco {
     int eliminati = 0;
 };
 
-Elenco leggiElenco(const Archivio& archivio, TipoRiordino tipo, int numero, const Avanzamento& avanzamento) {
+Elenco leggiElenco(Raffica& raffica, TipoRiordino tipo, int numero, const Avanzamento& avanzamento) {
     Elenco elenco;
     elenco.voci.reserve(static_cast<std::size_t>(std::max(numero, 0)));
-    archivio.fte.scorri(1, numero, [&](int n, const Fte& fte) {
+    raffica.scorri(raffica.archivio().fte, 1, numero, [&](int n, const Fte& fte) {
         if (n % documentiPerBlocco == 0)
             avanzamento(n);
         if (fte.annullata == 1)
@@ -57,7 +59,8 @@ Elenco leggiElenco(const Archivio& archivio, TipoRiordino tipo, int numero, cons
     return elenco;
 }
 
-/// Copies the two files and takes them for this program alone.
+/// Copies the two files and takes them for this program alone. When that fails they stay closed, and whatever
+/// the operator begins next says that it cannot read them, until the program is started again.
 bool duplica(Archivio& archivio) {
     const QString fte = archivio.fte.percorso();
     const QString f2e = archivio.f2e.percorso();
@@ -68,13 +71,12 @@ bool duplica(Archivio& archivio) {
            archivio.fte.apri(fte, Apertura::Esclusiva) && archivio.f2e.apri(f2e, Apertura::Esclusiva);
 }
 
-/// All records of a copy, read at once.
+/// All records of a copy, read at once; nothing when they could not be read.
 template <class R>
-std::vector<R> tutti(const RecordFile<R>& copia) {
+std::optional<std::vector<R>> tutti(const RecordFile<R>& copia) {
     std::vector<R> records(static_cast<std::size_t>(
         std::min<qint64>(copia.lunghezza() / qint64{sizeof(R)} + 1, Archivio::massimo + 1)));
-    copia.leggiBlocco(1, records);
-    return records;
+    return copia.leggiBlocco(1, records) < 0 ? std::nullopt : std::optional(std::move(records));
 }
 
 template <class R>
@@ -83,35 +85,32 @@ R preso(const std::vector<R>& records, int n) {
     return i < records.size() ? records[i] : vuoto<R>();
 }
 
+/// Plans the record where the order changes it; the others stay as they are.
 template <class R>
-bool scriviBlocco(RecordFile<R>& file, int primo, const std::vector<R>& records) {
-    return file.scriviBytes(qint64{primo - 1} * qint64{sizeof(R)}, std::as_bytes(std::span(records)));
+void prevedi(Raffica& raffica, RecordFile<R>& file, const std::vector<R>& vecchie, int n, const R& record) {
+    const R vecchia = preso(vecchie, n);
+    if (std::memcmp(&vecchia, &record, sizeof(R)) != 0)
+        raffica.scrivi(file, n, record);
 }
 
-bool riscrivi(Archivio& archivio, const RecordFile<Fte>& copiaFte, const RecordFile<F2e>& copiaF2e,
+bool riscrivi(Raffica& raffica, const RecordFile<Fte>& copiaFte, const RecordFile<F2e>& copiaF2e,
               const std::vector<QByteArray>& voci, const Avanzamento& avanzamento) {
-    const std::vector<Fte> vecchieFte = tutti(copiaFte);
-    const std::vector<F2e> vecchieF2e = tutti(copiaF2e);
-    if (copiaFte.erroreLettura() || copiaF2e.erroreLettura())
+    const auto vecchieFte = tutti(copiaFte);
+    const auto vecchieF2e = tutti(copiaF2e);
+    if (!vecchieFte || !vecchieF2e)
         return false;
-    std::vector<Fte> teste;
-    std::vector<F2e> code;
-    for (std::size_t i = 0; i < voci.size();) {
-        const int primo = static_cast<int>(i) + 1;
-        teste.clear();
-        code.clear();
-        for (; i < voci.size() && std::ssize(teste) < documentiPerBlocco; ++i) {
-            const int n = voci[i].last(lunghezzaRecord).toInt();
-            teste.push_back(preso(vecchieFte, n));
-            code.push_back(preso(vecchieF2e, n));
-            if (code.back().marca != F2e::marcaValida)
-                inizializza2(code.back());
-        }
-        if (!scriviBlocco(archivio.fte, primo, teste) || !scriviBlocco(archivio.f2e, primo, code))
-            return false;
-        avanzamento(static_cast<int>(i));
+    Archivio& archivio = raffica.archivio();
+    for (std::size_t i = 0; i < voci.size(); ++i) {
+        const int n = voci[i].last(lunghezzaRecord).toInt();
+        F2e coda = preso(*vecchieF2e, n);
+        if (coda.marca != F2e::marcaValida)
+            coda = f2eVuoto();
+        prevedi(raffica, archivio.fte, *vecchieFte, static_cast<int>(i) + 1, preso(*vecchieFte, n));
+        prevedi(raffica, archivio.f2e, *vecchieF2e, static_cast<int>(i) + 1, coda);
+        if (i % documentiPerBlocco == 0)
+            avanzamento(static_cast<int>(i));
     }
-    return true;
+    return raffica.esegui() == EsitoRaffica::Riuscita;
 }
 
 } // namespace
@@ -132,24 +131,34 @@ QByteArray voceRiordino(TipoRiordino tipo, const Fte& fte, int record) {
     return chiave + QByteArray::number(record).rightJustified(lunghezzaRecord, '0');
 }
 
-EsitoRiordino riordina(Archivio& archivio, TipoRiordino tipo, Tot& contatore,
-                       const Avanzamento& avanzamento) {
-    const Elenco elenco = leggiElenco(archivio, tipo, contatore.numero, avanzamento);
-    contatore.numero = static_cast<std::int16_t>(contatore.numero - elenco.eliminati);
+EsitoRiordino riordina(Archivio& archivio, TipoRiordino tipo, const Avanzamento& avanzamento) {
     errno = 0;
+    Raffica raffica(archivio, QStringLiteral("riordino dell'archivio"));
+    Tot contatore = raffica.leggiTot(Conta::Fte);
+    EsitoRiordino esito{.documenti = contatore.numero};
+    const auto fallito = [&](FaseRiordino fase) {
+        esito.fase = fase;
+        esito.errore = numeroErrore();
+        esito.occupato = raffica.esito() == EsitoRaffica::Occupata;
+        return esito;
+    };
+    const Elenco elenco = leggiElenco(raffica, tipo, contatore.numero, avanzamento);
     // Files that another computer holds read as blank records: put in order, they would hide what they are.
-    if (!archivio.scriviTot(Conta::Fte, contatore) || archivio.fte.erroreLettura())
-        return {FaseRiordino::Caricamento, numeroErrore()};
+    if (!raffica.riuscita())
+        return fallito(FaseRiordino::Caricamento);
     if (!duplica(archivio))
-        return {FaseRiordino::Duplicazione, numeroErrore()};
+        return fallito(FaseRiordino::Duplicazione);
     RecordFile<Fte> copiaFte(archivio.disco());
     RecordFile<F2e> copiaF2e(archivio.disco());
     if (!copiaFte.apri(archivio.reale(archivio.borlano(u"$$$")), Apertura::Esclusiva) ||
         !copiaF2e.apri(archivio.reale(archivio.borlano(u"$2$")), Apertura::Esclusiva))
-        return {FaseRiordino::Apertura, numeroErrore()};
-    if (!riscrivi(archivio, copiaFte, copiaF2e, elenco.voci, avanzamento))
-        return {FaseRiordino::Salvataggio, numeroErrore()};
-    return {};
+        return fallito(FaseRiordino::Apertura);
+    contatore.numero = static_cast<std::int16_t>(contatore.numero - elenco.eliminati);
+    raffica.scriviTot(Conta::Fte, contatore);
+    if (!riscrivi(raffica, copiaFte, copiaF2e, elenco.voci, avanzamento))
+        return fallito(FaseRiordino::Salvataggio);
+    esito.documenti = contatore.numero;
+    return esito;
 }
 
 } // namespace bor

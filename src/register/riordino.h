@@ -2,7 +2,7 @@
 // documents, and the archive's compaction.
 #pragma once
 
-#include "archive/archivio.h"
+#include "archive/raffica.h"
 
 #include <functional>
 
@@ -10,14 +10,15 @@ namespace bor {
 
 enum class TipoRiordino { PerNumero = 0, PerData = 1, PerProtocollo = 2 };
 
-/// The stage of a reorder that failed. What then lies on file: before `Salvataggio` the records are as they
-/// were, but the count is already lower by the deleted documents; in `Salvataggio` they are partly rewritten,
-/// and the temporary copies `borlano.$$$` and `borlano.$2$` hold the old state.
+/// The stage of a reorder that failed. The documents and their count are then as they were, but from
+/// `Duplicazione` on `fte` and `f2e` may be closed, or open for this program alone, until it ends.
 enum class FaseRiordino { Riuscito, Caricamento, Duplicazione, Apertura, Salvataggio };
 
 struct EsitoRiordino {
     FaseRiordino fase = FaseRiordino::Riuscito;
-    int errore = 0; ///< number of the error, 70 when another computer uses the files
+    int errore = 0;        ///< number of the error, 70 when another computer uses the files
+    bool occupato = false; ///< another computer was writing: nothing was begun
+    int documenti = 0;     ///< the count, without the deleted documents after a success
 };
 
 /// Called with the documents done so far, often enough for a bar to move.
@@ -27,8 +28,9 @@ using Avanzamento = std::function<void(int)>;
 /// settle ties.
 QByteArray voceRiordino(TipoRiordino tipo, const Fte& fte, int record);
 
-/// Reorders. `contatore` is the documents' counter just read; it comes back without the deleted documents.
-/// After a success `fte` and `f2e` stay open for this program alone until the end of the run.
-EsitoRiordino riordina(Archivio& archivio, TipoRiordino tipo, Tot& contatore, const Avanzamento& avanzamento);
+/// Reorders, as one burst: a run that is stopped leaves the old order or, completed by the next one, the new.
+/// The counter is read under the lock, and only its count changes. After a success `fte` and `f2e` stay open
+/// for this program alone until the end of the run.
+EsitoRiordino riordina(Archivio& archivio, TipoRiordino tipo, const Avanzamento& avanzamento);
 
 } // namespace bor

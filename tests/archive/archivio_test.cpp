@@ -103,19 +103,24 @@ TEST(Archivio, IlContatoreContaDopoIlRecordESiFermaA32767) {
     const AziendaDiProva azienda;
     ContestoDiProva prova(azienda);
     Archivio& a = prova.archivio;
-    EXPECT_EQ(a.aggiungi(a.con, Conta::Con, vuoto<Con>()), 1);
+    const auto aggiunto = [&a](const Con& con) {
+        Raffica raffica(a, {});
+        const int n = raffica.aggiungi(a.con, Conta::Con, con);
+        return raffica.esegui() == EsitoRaffica::Riuscita ? n : 0;
+    };
+    EXPECT_EQ(aggiunto(vuoto<Con>()), 1);
     EXPECT_EQ(azienda.leggi(u"borlano.tot"_s).sliced(60, 12), QByteArray("\1\0\1\0\0\0\0\0\0\0\0\0", 12));
     Tot tot = vuoto<Tot>();
     tot.numero = 32767;
     tot.progressivo = 5.0F;
     a.scriviTot(Conta::Con, tot);
     const QByteArray con = azienda.leggi(u"borlano.con"_s);
-    EXPECT_EQ(a.aggiungi(a.con, Conta::Con, strano<Con>()), 0);
+    EXPECT_EQ(aggiunto(strano<Con>()), 0);
     EXPECT_EQ(azienda.leggi(u"borlano.con"_s), con);
     EXPECT_EQ(a.leggiTot(Conta::Con).numero, 32767);
     tot.numero = -7;
     a.scriviTot(Conta::Con, tot);
-    EXPECT_EQ(a.aggiungi(a.con, Conta::Con, vuoto<Con>()), 1);
+    EXPECT_EQ(aggiunto(vuoto<Con>()), 1);
     EXPECT_EQ(a.leggiTot(Conta::Con).progressivo, 5.0F);
 }
 
@@ -124,9 +129,9 @@ TEST(Archivio, FileMozziLeggonoQuelCheCEERiscrivonoAlPosto) {
     azienda.scrivi(u"borlano.con"_s, QByteArray(150 + 20, 'x'));
     ContestoDiProva prova(azienda);
     Con con;
-    EXPECT_FALSE(prova.archivio.con.leggi(2, con));
+    EXPECT_EQ(prova.archivio.con.leggi(2, con), EsitoLettura::Manca);
     EXPECT_EQ(bytesDi(con), QByteArray(20, 'x') + QByteArray(130, '\0'));
-    EXPECT_FALSE(prova.archivio.con.leggi(0, con));
+    EXPECT_EQ(prova.archivio.con.leggi(0, con), EsitoLettura::Manca);
     EXPECT_FALSE(prova.archivio.con.scrivi(0, con));
     EXPECT_TRUE(prova.archivio.con.scrivi(2, vuoto<Con>()));
     EXPECT_EQ(azienda.leggi(u"borlano.con"_s).size(), 300);

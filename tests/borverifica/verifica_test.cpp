@@ -41,7 +41,13 @@ protected:
         fattura(u"1"_s, 42078.25, 1);
         fattura(u"2"_s, 42079.25, 2);
         ContestoDiProva prova(azienda);
-        mettiscarico(scarico(), prova.contesto);
+        metti(prova, scarico());
+    }
+    static void metti(ContestoDiProva& prova, const Documento& documento) {
+        inRaffica(prova.archivio, [&](Raffica& r) { mettiscarico(documento, prova.contesto, r); });
+    }
+    static void togli(ContestoDiProva& prova, const Documento& documento) {
+        inRaffica(prova.archivio, [&](Raffica& r) { togliscarico(documento, r); });
     }
     Documento scarico() const {
         Documento documento;
@@ -57,7 +63,7 @@ protected:
         con.descrizione.set(descrizione);
         con.progressivodare = dare;
         con.progressivoavere = avere;
-        modifica([&](Archivio& a) { a.aggiungi(a.con, Conta::Con, con); });
+        modifica([&](Archivio& a) { aggiungi(a, a.con, Conta::Con, con); });
     }
     void fattura(const QString& numero, double stamp, float nfile) {
         CoppiaFte coppia = documentoDi(1, numero, 100, 22);
@@ -70,7 +76,7 @@ protected:
         gio.voce[0] = {.segno = Intero(0), .conto = testoConto(u"1010001"), .importo = Reale(122.0)};
         gio.voce[1] = {.segno = Intero(1), .conto = testoConto(u"7010001"), .importo = Reale(122.0)};
         gio.riferimentofattura = stamp;
-        modifica([&](Archivio& a) { a.aggiungi(a.gio, Conta::Gio, gio); });
+        modifica([&](Archivio& a) { aggiungi(a, a.gio, Conta::Gio, gio); });
     }
     static Text<8> testoConto(QStringView codice) {
         Text<8> testo;
@@ -208,13 +214,12 @@ TEST_F(VerificaTest, ProgressiviDeiConti) {
 TEST_F(VerificaTest, QuelloCheLEliminazioneLasciaNeiContiEDettoAParte) {
     modifica([](Archivio& a) {
         Gio gio = a.gio.leggi(2);
-        for (const VoceGio& voce : gio.voce)
-            stornaconto(a, voce);
+        inRaffica(a, [&](Raffica& r) { stornaconti(r, gio); });
         gio.cancellato = 1;
         a.gio.scrivi(2, gio);
         // A movement that is only replaced leaves nothing behind.
         Gio altro = a.gio.leggi(1);
-        applicaconto(a, altro.voce[0]);
+        inRaffica(a, [&](Raffica& r) { applicaconto(r, altro.voce[0]); });
         altro.voce[0].conto = testoConto(u"99999999");
         a.gio.scrivi(1, altro);
     });
@@ -231,14 +236,14 @@ TEST_F(VerificaTest, VendutoDegliArticoli) {
     {
         ContestoDiProva prova(azienda);
         for (int giro = 0; giro < 5; ++giro) {
-            togliscarico(scarico(), prova.contesto);
-            mettiscarico(scarico(), prova.contesto);
+            togli(prova, scarico());
+            metti(prova, scarico());
         }
         EXPECT_NEAR(prova.archivio.art.leggi(1).venduto2, 100.02, 1e-6);
-        togliscarico(scarico(), prova.contesto);
+        togli(prova, scarico());
         Documento nota = scarico();
         nota.coppia.fte.tipo = 1;
-        mettiscarico(nota, prova.contesto);
+        metti(prova, nota);
     }
     // Taken back without the rounding with which they went in: what that leaves is no fault.
     EXPECT_EQ(trovate(), "");
@@ -298,7 +303,8 @@ TEST_F(VerificaTest, NumeriDoppiEMancantiPerAnnoERegistro) {
 
 TEST_F(VerificaTest, FileOstiliNonLoFermano) {
     std::mt19937 caso(7);
-    const QStringList nomi = QDir(azienda.percorso({})).entryList({u"borlano.*"_s}, QDir::Files);
+    QStringList nomi = QDir(azienda.percorso({})).entryList({u"borlano.*"_s}, QDir::Files);
+    nomi.removeAll(u"borlano.rip"_s);
     for (int giro = 0; giro < 200; ++giro) {
         const QString nome = nomi[static_cast<qsizetype>(caso() % static_cast<unsigned>(nomi.size()))];
         QByteArray bytes = azienda.leggi(nome);

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -38,16 +40,19 @@ TEST(Date, LeDueFormeDelFileNonSiConfondono) {
 
 TEST(Date, IlTimbroNonSiRipeteMai) {
     EXPECT_EQ(contoGiorni(QDateTime(QDate(2015, 3, 15), QTime(12, 0))), 42078.5);
-    Timbro timbro;
     const QDateTime adesso(QDate(2015, 3, 15), QTime(12, 0));
-    double ultimo = timbro.nuovo(adesso);
-    EXPECT_EQ(ultimo, 42078.5);
-    for (int i = 0; i < 1000; ++i) {
-        const double t = timbro.nuovo(adesso);
-        ASSERT_GT(t, ultimo);
-        ultimo = t;
+    constexpr double millisecondo = 1.0 / 86400000;
+    EXPECT_EQ(timbro(adesso, 0), 42078.5);
+    std::set<double> timbri;
+    for (int ms = 0; ms < 50; ++ms) {
+        const QDateTime momento = adesso.addMSecs(ms);
+        for (int n = 1; n <= 1000; ++n) {
+            const double t = timbro(momento, 31000 + n);
+            ASSERT_GE(t, 42078.5 + ms * millisecondo);
+            ASSERT_LT(t, 42078.5 + (ms + 1) * millisecondo);
+            ASSERT_TRUE(timbri.insert(t).second);
+        }
     }
-    EXPECT_NEAR(ultimo, 42078.5 + 1.0 / 86400, 1e-9);
 }
 
 } // namespace

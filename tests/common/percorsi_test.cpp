@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <QElapsedTimer>
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +26,19 @@ TEST(PercorsiDos, SenzaBadareAlleMaiuscoleESenzaUscireDallUnita) {
         EXPECT_FALSE(p.reale(vietato)) << qPrintable(vietato.toString());
     EXPECT_EQ(p.dos(radice.path() + u"/Suprok/PDF/x.pdf"_s), u"\\Suprok\\PDF\\x.pdf"_s);
     EXPECT_FALSE(p.dos(u"/altrove/x.pdf"_s));
+}
+
+TEST(PercorsiDos, UnFileCheMancaNonCostaLElencoDellaCartella) {
+    const QTemporaryDir radice;
+    for (int n = 1; n <= 20000; ++n)
+        ASSERT_TRUE(QFile(radice.filePath(u"F%1"_s.arg(n))).open(QIODevice::WriteOnly));
+    const Percorsi p(radice.path(), radice.path());
+    QElapsedTimer tempo;
+    tempo.start();
+    for (int n = 30001; n <= 30050; ++n)
+        ASSERT_EQ(p.reale(u"\\f%1"_s.arg(n)), radice.filePath(u"f%1"_s.arg(n)));
+    EXPECT_LT(tempo.elapsed(), 1000);
+    EXPECT_EQ(p.reale(u"\\f123"), radice.filePath(u"F123"_s));
 }
 
 TEST(PercorsiDos, LaCartellaDellAzienda) {

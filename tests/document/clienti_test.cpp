@@ -64,7 +64,7 @@ protected:
         Age age = vuoto<Age>();
         age.codice.set(codice);
         age.provvigione.set(provvigione);
-        c.archivio.aggiungi(c.archivio.age, Conta::Age, age);
+        aggiungi(c.archivio, c.archivio.age, Conta::Age, age);
     }
 
     AziendaDiProva azienda;

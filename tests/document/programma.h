@@ -31,7 +31,7 @@ struct Programma {
         documento.scadenze.pagamento = 1;
         documento.scadenze.rate[0].scadenza = QStringLiteral("15/04/2015");
     }
-    void apri(int record) { documento = documentoEsistente(prova.contesto, record, sospese); }
+    void apri(int record) { documento = documentoEsistente(prova.contesto, record, sospese).value(); }
     void riporta() {
         const TotaliRighe t =
             ricalcola(documento.ddd, documento.scorporo, prova.tabelle, prova.contesto.valuta());

@@ -83,7 +83,7 @@ TEST_F(SalvaTest, FatturaDiMerceConScontiEDueAliquote) {
                             {418, hex("0000000000002940")},
                             {434, hex("0000000000002840")},
                             {442, hex("0200")},
-                            {444, hex("00000000ce8be440")},
+                            {444, hex("01000000ce8be440")},
                             {452, "100" + hex("0000803f") + "0\xE9" + "21" + QByteArray(33, '\x81')},
                             {504, hex("000000000000f83f")}})
                   .toHex(' '));
@@ -120,7 +120,7 @@ TEST_F(SalvaTest, RigheFinoAlSecondoSalvataggio) {
     EXPECT_EQ(p.documento.testata.trasporto.ddt, u"DDT 4"_s);
     p.documento.testata.trasporto.causale = 3;
     azienda.articolo(Art{});
-    p.prova.archivio.aggiungi(p.prova.archivio.mag, Conta::Mag, Mag{});
+    aggiungi(p.prova.archivio, p.prova.archivio.mag, Conta::Mag, Mag{});
     p.prova.operatore.risposte = {true, false};
     EXPECT_EQ(p.salva().dopo, DopoSalva::Registro);
     EXPECT_EQ(p.registrazioni.chiamate.mid(1), QStringList({u"togli"_s, u"metti"_s}));
@@ -255,7 +255,7 @@ TEST_F(SalvaTest, EliminareChiedeEDiceDelMovimento) {
     p.prova.operatore.risposte = {false};
     EXPECT_FALSE(p.elimina());
     EXPECT_EQ(p.prova.archivio.fte.leggi(1).annullata, 0);
-    p.prova.archivio.aggiungi(p.prova.archivio.gio, Conta::Gio, vuoto<Gio>());
+    aggiungi(p.prova.archivio, p.prova.archivio.gio, Conta::Gio, vuoto<Gio>());
     EXPECT_TRUE(p.elimina());
     EXPECT_EQ(p.prova.operatore.messaggi.last().testo,
               u"Non è stato trovato alcun movimento contabile associato alla fattura"_s);

@@ -66,7 +66,7 @@ struct FatturaDiProva {
     explicit FatturaDiProva(const Fpa& societa = fpaSocieta(), const Cli& cliente = clienteComune()) {
         azienda.scrivi(QStringLiteral("borlano.fpa"), bytesDi(societa));
         QDir(azienda.percorsi().radiceCorrente()).mkdir(QStringLiteral("xml"));
-        documento.recordcliente = prova.archivio.aggiungi(prova.archivio.cli, Conta::Cli, cliente);
+        documento.recordcliente = aggiungi(prova.archivio, prova.archivio.cli, Conta::Cli, cliente);
         prova.impostazioni.valuta.euro = true;
         tabelle.aliquote[1].aliquota = QStringLiteral("22");
         tabelle.aliquote[2] = {QStringLiteral("22"), QStringLiteral("20"), {}, {}};

@@ -27,7 +27,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     documento.coppia.fte.nfile = 1.0F;
     documento.coppia.fte.parcella = quale == 3 ? 1 : 0;
     documento.ddd[0].descrizione = u"Vite"_s;
-    leggedoc(documento, prova.archivio, RigheInSospeso());
+    RigheInSospeso sospese;
+    leggedoc(documento, prova.archivio, sospese);
     StampanteFinta stampante;
     (void)stampaDocumento(documento, prova.contesto, stampante);
     return 0;

@@ -56,7 +56,7 @@ public:
         prova.tabelle.contabili[5] = u"19010001"_s;
         prova.tabelle.contabili[15] = u"Ft. $D $N"_s.leftJustified(40) + u"N.C. $D $N"_s;
         prova.tabelle.tipopagamenti[2] = {u"Rimessa diretta"_s, u"000"_s};
-        prova.archivio.aggiungi(prova.archivio.mag, Conta::Mag, vuoto<Mag>());
+        aggiungi(prova.archivio, prova.archivio.mag, Conta::Mag, vuoto<Mag>());
         prova.sessione.modificamovimento = true; // a movement posted again takes the place of its own
         for (const int n : {fattura, nota, parcella})
             crea(n);
@@ -64,7 +64,7 @@ public:
 
     /// As the operator has it before him: opened, and an account typed over the customer's.
     Documento apri(int n) {
-        Documento d = documentoEsistente(prova.contesto, n, sospese);
+        Documento d = documentoEsistente(prova.contesto, n, sospese).value();
         d.testata.cliente.contoricavi.sottoconto = u"0002"_s;
         return d;
     }
@@ -93,11 +93,11 @@ private:
         cli.contoricavi.set(codice(n, u"020001"));
         cli.contoiva.set(codice(n, u"030001"));
         cli.pagamento = 2;
-        prova.archivio.aggiungi(prova.archivio.cli, Conta::Cli, cli);
+        aggiungi(prova.archivio, prova.archivio.cli, Conta::Cli, cli);
         for (const QStringView resto : {u"010001", u"020001", u"020002", u"030001", u"900001"}) {
             Con con = vuoto<Con>();
             con.codice.set(resto == u"900001" ? u"19010001"_s : codice(n, resto));
-            prova.archivio.aggiungi(prova.archivio.con, Conta::Con, con);
+            aggiungi(prova.archivio, prova.archivio.con, Conta::Con, con);
         }
         azienda.articolo(articoloDi(u"ART%1"_s.arg(n), u"Articolo"_s, 10, 1));
 
@@ -108,7 +108,7 @@ private:
             d.coppia.fte.parcella = 1;
             prova.archivio.scrivi(n, d.coppia);
         }
-        d = documentoEsistente(prova.contesto, n, sospese);
+        d = documentoEsistente(prova.contesto, n, sospese).value();
         d.ddd[0] = {.recart = n,
                     .codice = u"ART%1"_s.arg(n),
                     .descrizione = u"Articolo"_s,
@@ -153,7 +153,7 @@ private:
         form.prepara(d.parcella() ? setpar(d, prova.contesto) : setfat(d, prova.contesto));
         form.salva();
         QByteArray lasciato =
-            bytes(prova.archivio.gio.leggi(trovaMovimento(prova.archivio, d.coppia.fte.stamp)));
+            bytes(prova.archivio.gio.leggi(trovaMovimento(prova.archivio, d.coppia.fte.stamp).value()));
         const QString inizio = codice(d.recordfattura, {});
         prova.archivio.con.scorri(1, prova.archivio.leggiTot(Conta::Con).numero, [&](int, const Con& con) {
             if (con.codice.text().startsWith(inizio))

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -51,7 +52,7 @@ protected:
         con.codice.set(codice);
         con.descrizione.set(nome);
         con.conx1 = 7.5;
-        return prova.archivio.aggiungi(prova.archivio.con, Conta::Con, con);
+        return aggiungi(prova.archivio, prova.archivio.con, Conta::Con, con);
     }
     QList<double> saldi(int n) const {
         const Con con = prova.archivio.con.leggi(n);
@@ -201,22 +202,30 @@ TEST_F(MovimentoTest, UnMovimentoSostituitoTornaDalSuoLatoUnoEliminatoDaQuelloOp
     VoceGio voce = vuoto<VoceGio>();
     voce.conto.set(u"10010001");
     voce.importo = 30.0;
-    EXPECT_TRUE(applicaconto(prova.archivio, voce));
+    const auto applica = [&] { inRaffica(prova.archivio, [&](Raffica& r) { applicaconto(r, voce); }); };
+    const auto storna = [&] { inRaffica(prova.archivio, [&](Raffica& r) { stornaconto(r, voce); }); };
+    applica();
     EXPECT_EQ(saldi(n), QList<double>({-30, 0}));
     voce.segno = 1;
-    EXPECT_TRUE(applicaconto(prova.archivio, voce));
+    applica();
     EXPECT_EQ(saldi(n), QList<double>({-30, -30}));
-    EXPECT_TRUE(stornaconto(prova.archivio, voce));
+    storna();
     EXPECT_EQ(saldi(n), QList<double>({-60, -30}));
     voce.segno = 0;
-    EXPECT_TRUE(stornaconto(prova.archivio, voce));
+    storna();
     EXPECT_EQ(saldi(n), QList<double>({-60, -60}));
     voce.importo = -1.0;
-    EXPECT_TRUE(stornaconto(prova.archivio, voce));
+    storna();
     voce.conto.set(u"99");
     voce.importo = 1.0;
-    EXPECT_TRUE(stornaconto(prova.archivio, voce)) << "an account that is not in the chart";
-    EXPECT_EQ(saldi(n), QList<double>({-60, -60}));
+    storna(); // an account that is not in the chart
+    voce.conto.set(u"10010001");
+    voce.importo = std::numeric_limits<double>::quiet_NaN();
+    applica();
+    storna();
+    voce.importo = std::numeric_limits<double>::infinity();
+    storna();
+    EXPECT_EQ(saldi(n), QList<double>({-60, -60})) << "a garbled amount moves nothing";
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "register/borfte.h"
 #include "support/azienda.h"
+#include "support/disco_guasto.h"
 
 #include <QFile>
 
@@ -94,6 +95,9 @@ TEST_F(RiordinoTest, IDatiMaiInizializzatiEsconoVuotiConLaMarca) {
     EXPECT_EQ(f2e.left(2), QByteArray("\xE7\x03"));
     EXPECT_EQ(f2e.sliced(2, 96), QByteArray(96, '\0'));
     EXPECT_EQ(f2e.sliced(98, 8), QByteArray(8, ' '));
+    EXPECT_EQ(f2e.sliced(338, 60), QByteArray(60, ' ')) << "the PDF goes too";
+    EXPECT_EQ(f2e.sliced(526, 38), QByteArray("\1\0", 2) + QByteArray(36, ' '));
+    EXPECT_EQ(f2e.sliced(572), QByteArray(7, ' ') + QByteArray(8, '\0') + QByteArray(251, ' '));
 }
 
 TEST_F(RiordinoTest, UnAltroComputerFermaIlRiordinoConIlSuoMessaggio) {
@@ -143,7 +147,6 @@ TEST_F(RiordinoTest, ChiHaTrovatoIFileOccupatiNonLiRiordinaDaVuoti) {
     ASSERT_TRUE(
         primo->archivio.fte.apri(azienda.percorso(QStringLiteral("borlano.fte")), Apertura::Esclusiva));
     ContestoDiProva secondo(azienda);
-    primo.reset();
     const QByteArray prima = azienda.leggi(QStringLiteral("borlano.fte"));
     riordinaPer(secondo, TipoRiordino::PerNumero);
     ASSERT_EQ(secondo.operatore.messaggi.size(), 1);
@@ -152,31 +155,54 @@ TEST_F(RiordinoTest, ChiHaTrovatoIFileOccupatiNonLiRiordinaDaVuoti) {
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), prima);
 }
 
-TEST_F(RiordinoTest, UnDiscoPienoLasciaLeCopieEIlMessaggio) {
-    class DiscoPieno : public Disco {
-    public:
-        int ancora = 1 << 20;
-
-    protected:
-        bool scriviBytes(int descrittore, qint64 posizione, QByteArrayView bytes) override {
-            if (ancora-- <= 0) {
-                errno = ENOSPC;
-                return false;
-            }
-            return Disco::scriviBytes(descrittore, posizione, bytes);
-        }
-    };
+TEST_F(RiordinoTest, UnDiscoPienoLasciaTuttoComEraEDiceCosa) {
     documento(QStringLiteral("2"), u"20150101", 1);
-    documento(QStringLiteral("1"), u"20150101", 1);
+    documento(QStringLiteral("1"), u"20150101", 1, true);
     const QByteArray prima = azienda.leggi(QStringLiteral("borlano.fte"));
-    DiscoPieno disco;
+    const QByteArray contatori = azienda.leggi(QStringLiteral("borlano.tot"));
+    DiscoGuasto disco;
     ContestoDiProva prova(azienda, disco);
-    disco.ancora = 1; // the counter can still be written, the records no longer
+    disco.guasto = 6; // the copies and the log can still be written, the records no longer
+    disco.perSempre = true;
     riordinaPer(prova, TipoRiordino::PerNumero);
     ASSERT_EQ(prova.operatore.messaggi.size(), 1);
     EXPECT_TRUE(prova.operatore.messaggi[0].testo.startsWith(QStringLiteral(
         "Si è verificato l'errore 61 durante la procedura di salvataggio dei dati riordinati.")));
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.$$$")), prima);
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), prima);
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.tot")), contatori);
+    disco.ripara();
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    EXPECT_EQ(numeri(prova), QStringList(QStringLiteral("2")));
+}
+
+TEST_F(RiordinoTest, IlContatoreSiRileggeDopoLaDomandaESoloIlNumeroCambia) {
+    documento(QStringLiteral("2"), u"20150101", 1, true);
+    ContestoDiProva prova(azienda);
+    // Another program saves a document while the question stands on the screen.
+    prova.operatore.suDomanda = [this] {
+        documento(QStringLiteral("1"), u"20150101", 1);
+        ContestoDiProva altro(azienda);
+        Tot contatore = altro.archivio.leggiTot(Conta::Fte);
+        contatore.progressivo = 17.0F;
+        contatore.ultimonumero = 1;
+        altro.archivio.scriviTot(Conta::Fte, contatore);
+    };
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    EXPECT_EQ(numeri(prova), QStringList(QStringLiteral("1")));
+    EXPECT_EQ(prova.archivio.leggiTot(Conta::Fte).progressivo, 17.0F);
+    EXPECT_EQ(prova.archivio.leggiTot(Conta::Fte).ultimonumero, 1);
+}
+
+TEST_F(RiordinoTest, UnContatoreIllegibileNonSiAzzera) {
+    documento(QStringLiteral("2"), u"20150101", 1);
+    const QByteArray contatori = azienda.leggi(QStringLiteral("borlano.tot"));
+    DiscoGuasto disco;
+    ContestoDiProva prova(azienda, disco);
+    disco.illeggibile = QStringLiteral("borlano.tot");
+    riordinaPer(prova, TipoRiordino::PerNumero);
+    EXPECT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.tot")), contatori);
 }
 
 } // namespace

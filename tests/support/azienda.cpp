@@ -41,7 +41,7 @@ int AziendaDiProva::cliente(const QString& ragione) {
 int AziendaDiProva::cliente(const Cli& record) {
     Archivio archivio(m_percorsi, m_disco, codiceDiProva);
     archivio.apri();
-    const int n = archivio.aggiungi(archivio.cli, Conta::Cli, record);
+    const int n = aggiungi(archivio, archivio.cli, Conta::Cli, record);
     std::vector<Src> indice(static_cast<std::size_t>(n));
     archivio.src.leggiBlocco(1, indice);
     indice.back().chiave.set(record.sede.ragione1.text());
@@ -55,13 +55,13 @@ int AziendaDiProva::cliente(const Cli& record) {
 int AziendaDiProva::articolo(const Art& record) {
     Archivio archivio(m_percorsi, m_disco, codiceDiProva);
     archivio.apri();
-    return archivio.aggiungi(archivio.art, Conta::Art, record);
+    return aggiungi(archivio, archivio.art, Conta::Art, record);
 }
 
 int AziendaDiProva::documento(const CoppiaFte& coppia) {
     Archivio archivio(m_percorsi, m_disco, codiceDiProva);
     archivio.apri();
-    const int n = archivio.aggiungi(archivio.fte, Conta::Fte, coppia.fte);
+    const int n = aggiungi(archivio, archivio.fte, Conta::Fte, coppia.fte);
     archivio.f2e.scrivi(n, coppia.f2e);
     return n;
 }
@@ -102,9 +102,9 @@ Disco& ContestoDiProva::discoVero() {
 ContestoDiProva::ContestoDiProva(const AziendaDiProva& azienda) : ContestoDiProva(azienda, discoVero()) {}
 
 ContestoDiProva::ContestoDiProva(const AziendaDiProva& azienda, Disco& disco)
-    : archivio(azienda.percorsi(), disco, codiceDiProva), contesto{sessione, archivio,   impostazioni,
-                                                                   tabelle,  operatore,  orologio,
-                                                                   sistema,  navigatore, timbro} {
+    : archivio(azienda.percorsi(), disco, codiceDiProva), contesto{sessione, archivio,  impostazioni,
+                                                                   tabelle,  operatore, orologio,
+                                                                   sistema,  navigatore} {
     sessione.codiceazienda = codiceDiProva;
     archivio.apri();
     impostazioni = caricaimpostazioni(archivio);

@@ -3,6 +3,7 @@
 
 #include "archive/archivio.h"
 #include "archive/contesto.h"
+#include "archive/raffica.h"
 #include "support/porte_finte.h"
 
 #include <QTemporaryDir>
@@ -38,6 +39,24 @@ private:
     Disco m_disco;
 };
 
+/// What `lavoro` plans, as one burst.
+template <class Lavoro>
+EsitoRaffica inRaffica(Archivio& archivio, Lavoro lavoro) {
+    Raffica raffica(archivio, {});
+    lavoro(raffica);
+    return raffica.esegui();
+}
+
+/// Puts a record behind the last one in use and counts it; its number.
+template <class R>
+int aggiungi(Archivio& archivio, RecordFile<R>& file, Conta quale, const R& record) {
+    Tot contatore = archivio.leggiTot(quale);
+    contatore.numero += 1;
+    file.scrivi(contatore.numero, record);
+    archivio.scriviTot(quale, contatore);
+    return contatore.numero;
+}
+
 Cli clienteDi(const QString& ragione);
 Art articoloDi(const QString& codice, const QString& descrizione, double listino1, int iva);
 /// A live document of this number, dates of 15/03/2015, taxable and tax in VAT row 1.
@@ -56,7 +75,6 @@ public:
     SistemaFinto sistema;
     NavigatoreFinto navigatore;
     Sessione sessione;
-    Timbro timbro;
     Archivio archivio;
     Impostazioni impostazioni;
     Tabelle tabelle;

@@ -9,6 +9,9 @@
 
 #include <QList>
 
+#include <functional>
+#include <utility>
+
 namespace bor {
 
 struct Messaggio {
@@ -23,6 +26,7 @@ public:
     QList<Messaggio> domande;
     QList<bool> risposte; ///< answers to the next questions, in order; then `rispostaSolita`
     bool rispostaSolita = true;
+    std::function<void()> suDomanda; ///< happens once, while the next question stands on the screen
     QString fileScelto;
     int attese = 0; ///< wait cursors not yet taken away
     int eventiLasciati = 0;
@@ -32,6 +36,8 @@ public:
     }
     bool chiedi(const QString& testo, const QString& titolo, Icona icona) override {
         domande.append({testo, titolo, icona});
+        if (const auto intanto = std::exchange(suDomanda, nullptr))
+            intanto();
         return risposte.isEmpty() ? rispostaSolita : risposte.takeFirst();
     }
     void attesa(bool inizio) override { attese += inizio ? 1 : -1; }

@@ -1,33 +1,27 @@
 // Posting that only notes what a save or a delete asked of it.
 #pragma once
 
+#include "archive/raffica.h"
 #include "document/registrazioni.h"
 
 #include <QStringList>
-
-#include <functional>
 
 namespace bor {
 
 class RegistrazioniFinte : public Registrazioni {
 public:
     QStringList chiamate;
-    bool esito = true;
-    std::function<bool(const Gio&)> storno; ///< what taking a movement back does, where a test needs it
+    bool magazzinoPieno = false;
 
-    bool togliscarico(const Documento&) override {
-        chiamate.append(QStringLiteral("togli"));
-        return esito;
-    }
-    bool mettiscarico(const Documento&) override {
+    void togliscarico(const Documento&, Raffica&) override { chiamate.append(QStringLiteral("togli")); }
+    void mettiscarico(const Documento&, Raffica& raffica) override {
         chiamate.append(QStringLiteral("metti"));
-        return esito;
+        Tot contatore = vuoto<Tot>();
+        contatore.numero = magazzinoPieno ? Archivio::massimo : 0;
+        raffica.prossimo(contatore);
     }
+    void stornaconti(const Gio&, Raffica&) override { chiamate.append(QStringLiteral("storna")); }
     void preparaMovimento(const Documento&) override { chiamate.append(QStringLiteral("movimento")); }
-    bool stornaconti(const Gio& movimento) override {
-        chiamate.append(QStringLiteral("storna"));
-        return storno ? storno(movimento) : esito;
-    }
 };
 
 } // namespace bor

@@ -19,7 +19,7 @@ TEST(VistaMovimento, IlMovimentoSiCompletaDallaTastiera) {
         Con con = vuoto<Con>();
         con.codice.set(codice);
         con.descrizione.set(nome);
-        prova.archivio.aggiungi(prova.archivio.con, Conta::Con, con);
+        aggiungi(prova.archivio, prova.archivio.con, Conta::Con, con);
     }
     const Documento documento;
     Borftec form(prova.contesto, documento);

@@ -127,13 +127,11 @@ bool Cantiere::scriviArchivio() {
     SenzaSistema sistema;
     SenzaSchermi schermi;
     OrologioCantiere orologio;
-    Timbro timbro;
     Sessione sessione;
     sessione.codiceazienda = m_richiesta.codice;
     Impostazioni impostazioni = caricaimpostazioni(m_archivio);
     const Tabelle tabelle = leggiTabelle(m_archivio);
-    Contesto contesto{sessione, m_archivio, impostazioni, tabelle, operatore,
-                      orologio, sistema,    schermi,      timbro};
+    Contesto contesto{sessione, m_archivio, impostazioni, tabelle, operatore, orologio, sistema, schermi};
     auto documenti = leggiDocumenti(m_richiesta.sorgente, anagrafiche, contesto, m_problemi);
     // What is wrong is told without writing lines files that nobody will see.
     controllaQuanti(anagrafiche, documenti.size());

@@ -49,7 +49,12 @@ bool Registratore::registra(const Documento& d) {
     Borftec editor(m_contesto, d);
     editor.prepara(d.parcella() ? setpar(d, m_contesto) : setfat(d, m_contesto));
     editor.salva();
-    return m_rifiuti.isEmpty() && (d.parcella() || mettiscarico(d, m_contesto));
+    if (!m_rifiuti.isEmpty())
+        return false;
+    Raffica raffica(m_contesto.archivio, {});
+    if (!d.parcella())
+        mettiscarico(d, m_contesto, raffica);
+    return raffica.esegui() == EsitoRaffica::Riuscita;
 }
 
 bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
@@ -59,7 +64,7 @@ bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
     const QDate data = dataValida(d.estremi.datareg).value_or(QDate(2015, 1, 1));
     m_orologio.momento = QDateTime(data, QTime(8, 0)).addSecs(n);
     const Intero parcella = d.coppia.fte.parcella;
-    d.coppia = riempiRecord(d, m_contesto);
+    d.coppia = riempiRecord(d, timbro(m_orologio.momento, n));
     // The program itself begins no fee bill: a record that is one keeps its mark.
     d.coppia.fte.parcella = parcella;
     d.coppia.fte.nfile = static_cast<float>(n);

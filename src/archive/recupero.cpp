@@ -1,0 +1,127 @@
+#include "archive/recupero.h"
+
+#include "archive/archivio.h"
+#include "archive/raffica.h"
+
+#include <QFileInfo>
+
+#include <cstring>
+
+namespace bor {
+
+namespace {
+
+/// A log beyond this size gives its room back when it is emptied.
+constexpr qint64 diarioGrande = 1 << 20;
+
+/// Each byte is one of the two: the record before, after, or torn between them.
+bool mescolanza(const QByteArray& bytes, const VoceDiario& voce) {
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] != voce.prima[i] && bytes[i] != voce.dopo[i])
+            return false;
+    }
+    return true;
+}
+
+std::span<std::byte> come(QByteArray& bytes) {
+    return std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
+}
+
+} // namespace
+
+FileDiario::FileDiario(Archivio& archivio) : m_archivio(archivio), m_file(archivio.disco()) {}
+
+bool FileDiario::apri() {
+    return m_file.apri(m_archivio.reale(m_archivio.borlano(u"rip")));
+}
+
+bool FileDiario::scrivi(const Diario& diario) {
+    QByteArray bytes = codifica(diario);
+    const bool nuovo = m_file.lunghezza() == 0;
+    if (!m_file.scriviBytes(0, come(bytes)) || !m_file.scarica())
+        return false;
+    if (nuovo)
+        m_archivio.disco().scaricaCartella(QFileInfo(m_file.percorso()).path());
+    return true;
+}
+
+bool FileDiario::svuota() {
+    if (!m_file.scriviBytes(0, std::as_bytes(std::span(diarioVuoto))) || !m_file.scarica())
+        return false;
+    if (m_file.lunghezza() > diarioGrande)
+        m_file.accorcia(std::ssize(diarioVuoto));
+    return true;
+}
+
+EsitoRaffica FileDiario::completa(const Diario& diario, QStringList& lasciati) {
+    return porta(diario, Verso::Dopo, lasciati);
+}
+
+EsitoRaffica FileDiario::annulla(const Diario& diario) {
+    QStringList lasciati;
+    const EsitoRaffica esito = porta(diario, Verso::Prima, lasciati);
+    m_archivio.tieniDaAnnullare(esito == EsitoRaffica::Riuscita ? QByteArray() : codifica(diario));
+    return esito;
+}
+
+EsitoRaffica FileDiario::recupera() {
+    const qint64 lunghezza = std::min(m_file.lunghezza(), massimoDiario);
+    QByteArray bytes(static_cast<qsizetype>(lunghezza), '\0');
+    if (m_file.leggiBytes(0, come(bytes)) < 0)
+        return EsitoRaffica::NonLetta;
+    const auto diario = decodifica(bytes);
+    if (!diario)
+        return EsitoRaffica::Riuscita;
+    const QByteArray& nostro = m_archivio.daAnnullare();
+    if (!nostro.isEmpty() && bytes.startsWith(nostro))
+        return annulla(*diario);
+    const bool finito = !m_archivio.finito().isEmpty() && bytes.startsWith(m_archivio.finito());
+    Recupero recupero{diario->documento, {}};
+    const EsitoRaffica esito = completa(*diario, recupero.lasciati);
+    if (esito == EsitoRaffica::Riuscita && !finito)
+        m_archivio.annota(recupero);
+    return esito;
+}
+
+EsitoRaffica FileDiario::porta(const Diario& diario, Verso verso, QStringList& lasciati) {
+    std::array<bool, fileDiRaffica.size()> toccati{};
+    for (const VoceDiario& voce : diario.voci) {
+        const EsitoRaffica esito = portaVoce(voce, verso, lasciati);
+        if (esito != EsitoRaffica::Riuscita)
+            return esito;
+        toccati[voce.file] = true;
+    }
+    // What the interrupted run itself wrote may not be on the disk yet either.
+    for (std::size_t i = 0; i < toccati.size(); ++i) {
+        if (toccati[i] && !m_archivio.fileDiRecord(i).scarica())
+            return EsitoRaffica::NonScritta;
+    }
+    return svuota() ? EsitoRaffica::Riuscita : EsitoRaffica::NonScritta;
+}
+
+EsitoRaffica FileDiario::portaVoce(const VoceDiario& voce, Verso verso, QStringList& lasciati) {
+    FileCasuale& file = m_archivio.fileDiRecord(voce.file);
+    const qint64 posto = qint64{voce.record - 1} * voce.prima.size();
+    QByteArray attuale(voce.prima.size(), '\0');
+    if (file.leggiBytes(posto, come(attuale)) < 0)
+        return EsitoRaffica::NonLetta;
+    if (!mescolanza(attuale, voce)) {
+        lasciati.append(
+            QStringLiteral("borlano.%1 n. %2").arg(fileDiRaffica[voce.file].estensione).arg(voce.record));
+        return EsitoRaffica::Riuscita;
+    }
+    // Written also where it seems to be there: zero bytes at its end may only be the end of the file.
+    QByteArray meta = verso == Verso::Dopo ? voce.dopo : voce.prima;
+    // Putting back needs no room: a file never grows by it.
+    if (verso == Verso::Prima)
+        meta.truncate(std::clamp<qint64>(file.lunghezza() - posto, 0, meta.size()));
+    return file.scriviBytes(posto, come(meta)) ? EsitoRaffica::Riuscita : EsitoRaffica::NonScritta;
+}
+
+EsitoRaffica recupera(Archivio& archivio) {
+    if (!QFileInfo::exists(archivio.reale(archivio.borlano(u"rip"))))
+        return EsitoRaffica::Riuscita;
+    return Raffica(archivio, {}).esito();
+}
+
+} // namespace bor
