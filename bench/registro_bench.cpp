@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QProcess>
+#include <QTest>
 
 #include <benchmark/benchmark.h>
 
@@ -88,6 +90,33 @@ void FiltroSoloPa(benchmark::State& stato) {
     form.carica();
     for (auto _ : stato)
         form.cambiaFiltro(FiltroFatture::SoloPa);
+}
+
+/// One key in the search box of the register on screen, up to the list painted anew.
+void TastoNellaRicerca(benchmark::State& stato) {
+    ContestoDiProva prova(grande());
+    Documento documento;
+    Borfte form(prova.contesto, documento, nullptr);
+    form.carica();
+    VistaBorfte vista(form);
+    vista.resize(1280, 720);
+    vista.show();
+    vista.attiva();
+    auto* campo = vista.findChild<QLineEdit*>(u"cerca"_s);
+    campo->setFocus();
+    const QString scritto = stato.range(0) == 0 ? u"cliente 99"_s : u"1234,5"_s;
+    for (auto _ : stato) {
+        stato.PauseTiming();
+        campo->clear();
+        form.cerca({});
+        vista.attiva();
+        for (const QChar c : scritto.chopped(1))
+            QTest::keyClick(campo, c.toLatin1());
+        QApplication::processEvents();
+        stato.ResumeTiming();
+        QTest::keyClick(campo, scritto.back().toLatin1());
+        QApplication::processEvents();
+    }
 }
 
 /// The texts of a column, sorted by the standard library alone.
@@ -179,6 +208,7 @@ void AvvioFinoAllElenco(benchmark::State& stato) {
 BENCHMARK(Pavimento_LetturaDeiTreFile)->Unit(benchmark::kMillisecond);
 BENCHMARK(RiempimentoDellElenco)->Unit(benchmark::kMillisecond);
 BENCHMARK(FiltroSoloPa)->Unit(benchmark::kMillisecond);
+BENCHMARK(TastoNellaRicerca)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(Pavimento_Ordinamento)->Arg(0)->Arg(4)->Arg(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(Ordinamento)->Arg(0)->Arg(4)->Arg(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(Pavimento_AvvioSenzaDocumenti)->Unit(benchmark::kMillisecond)->UseRealTime();

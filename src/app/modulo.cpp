@@ -43,8 +43,10 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
 ComandiEsterni Modulo::comandi(Stampante& stampante) {
     return {.stampa =
                 [this, &stampante] {
-                    if (stampaDocumento(m_documento, m_contesto, stampante))
+                    const EsitoStampa esito = stampaDocumento(m_documento, m_contesto, stampante);
+                    if (esito == EsitoStampa::ConRapporto)
                         generapdf(m_documento, m_contesto);
+                    return esito != EsitoStampa::Niente;
                 },
             .anteprima =
                 [this, &stampante] {

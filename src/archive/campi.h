@@ -27,8 +27,9 @@ struct Text {
     QByteArrayView raw() const { return {bytes.data(), static_cast<qsizetype>(N)}; }
     /// All N characters.
     QString text() const { return daCp1252(raw()); }
-    /// Without the blanks around it.
-    QString trimmed() const { return text().trimmed(); }
+    /// What a person reads of it, on paper, screen or in a message: without the blanks around it and without
+    /// the bytes of a place never written.
+    QString trimmed() const { return puliscitesto(text()); }
     /// Encodes, cuts at N and pads with blanks.
     void set(QStringView testo) {
         const QByteArray codici = inCp1252(testo.left(static_cast<qsizetype>(N)));

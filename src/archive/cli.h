@@ -58,7 +58,9 @@ struct Cli {
     Intero eliminato; ///< 1: deleted
 
     /// Bank coordinates as one text, blanks included.
-    QString coordinate() const { return banca1.text() + abi.text() + cab.text() + contocorrente.text(); }
+    QString coordinate() const {
+        return pulisci(banca1.text() + abi.text() + cab.text() + contocorrente.text());
+    }
     /// Position of the payment type in its list, from 0; -1 when it names none of the 60.
     int posizionePagamento() const { return pagamento >= 1 && pagamento <= 60 ? pagamento - 1 : -1; }
 };

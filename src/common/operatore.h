@@ -7,6 +7,9 @@ namespace bor {
 
 enum class Icona { Nessuna, Informazione, Domanda, Esclamazione, Stop };
 
+/// The answer that Enter gives to a question. A question after which something is gone has `No`.
+enum class Predefinita { Si, No };
+
 /// Port to the operator: message boxes in the real program, recorded answers in tests.
 class Operatore {
 public:
@@ -14,7 +17,8 @@ public:
 
     virtual void messaggio(const QString& testo, const QString& titolo, Icona icona) = 0;
     /// A question with the buttons Yes and No; true for Yes.
-    virtual bool chiedi(const QString& testo, const QString& titolo, Icona icona = Icona::Domanda) = 0;
+    virtual bool chiedi(const QString& testo, const QString& titolo, Icona icona = Icona::Domanda,
+                        Predefinita predefinita = Predefinita::Si) = 0;
     /// Shows the wait cursor, or takes it away. Calls nest.
     virtual void attesa(bool inizio) = 0;
     /// Called inside long work: what the operator did meanwhile reaches the window, which repaints.

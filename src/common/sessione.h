@@ -15,6 +15,7 @@ struct Sessione {
     bool righelette = false;        ///< the line forms have their data
     bool listadaaggiornare = false; ///< the register fills itself again when it is shown next
     bool modificamovimento = false; ///< the movement editor replaces the document's movement
+    int ultimosalvato = 0;          ///< `fte` record of the document saved last in this run; 0 for none
     ModoSelezione modoselezione = ModoSelezione::Nessuno;
     QString datadialogo; ///< the date that `bordata` starts from
     QString datariserva; ///< the one it starts from when that is no date

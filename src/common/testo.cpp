@@ -73,6 +73,16 @@ QString puliscitesto(QStringView testo) {
     return pulisci(testo).trimmed();
 }
 
+QString piega(QStringView testo) {
+    QString risultato = testo.toString();
+    for (QChar& c : risultato) {
+        if (c.unicode() >= 0x80 && c.decompositionTag() == QChar::Canonical)
+            c = c.decomposition().front();
+        c = c.toLower();
+    }
+    return risultato;
+}
+
 QString riempi(QStringView testo, qsizetype lunghezza) {
     return testo.left(lunghezza).toString().leftJustified(lunghezza);
 }

@@ -28,6 +28,9 @@ QString pulisci(QStringView testo);
 /// `pulisci`, then trimmed.
 QString puliscitesto(QStringView testo);
 
+/// The text as a search compares it: small letters, without accents.
+QString piega(QStringView testo);
+
 /// The text cut or padded with blanks to exactly `lunghezza` characters.
 QString riempi(QStringView testo, qsizetype lunghezza);
 

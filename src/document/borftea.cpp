@@ -50,6 +50,7 @@ void Borftea::apri() {
         m_contesto.sessione.testataletta = true;
     }
     m_numeroletto = m_documento.estremi.numero.trimmed();
+    m_aperto = m_documento;
 }
 
 QString Borftea::titolo() const {

@@ -106,8 +106,12 @@ private:
     bool nuovo() const { return m_documento.recordfattura == 0; }
     void apri();
 
+    /// Something was typed since the document was opened.
+    bool modificato() const;
     void chiudi();
+    void lascia();
     void esci();
+    void stampa();
     void salva();
     void righe();
     void elimina();
@@ -118,6 +122,7 @@ private:
     Registrazioni& m_registrazioni;
     RigheInSospeso& m_sospese;
     ComandiEsterni m_comandi;
+    Documento m_aperto;    ///< the document as it was opened
     QString m_numeroletto; ///< the number as last shown or warned about
     std::optional<PostoTea> m_fuoco;
     Prospetto m_prospetto = Prospetto::RigheIva;

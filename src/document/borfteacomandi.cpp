@@ -2,6 +2,9 @@
 #include "document/apripdf.h"
 #include "document/borftea.h"
 #include "document/eliminadoc.h"
+#include "document/modifiche.h"
+
+using namespace Qt::StringLiterals;
 
 namespace bor {
 
@@ -41,7 +44,7 @@ void Borftea::esegui(Comando comando) {
     case Comando::Elimina:
         return elimina();
     case Comando::Stampa:
-        return m_comandi.stampa();
+        return stampa();
     case Comando::Anteprima:
         return m_comandi.anteprima();
     case Comando::Testata:
@@ -60,9 +63,29 @@ void Borftea::chiudi() {
     m_contesto.sessione.righelette = false;
 }
 
-void Borftea::esci() {
+bool Borftea::modificato() const {
+    return bor::modificato(m_documento, m_aperto);
+}
+
+void Borftea::lascia() {
     chiudi();
     m_contesto.navigatore.mostra(Schermo::Borfte);
+}
+
+void Borftea::esci() {
+    if (!modificato() ||
+        m_contesto.operatore.chiedi(u"Le modifiche non registrate andranno perse. Uscire comunque?"_s,
+                                    u"Attenzione"_s, Icona::Domanda, Predefinita::No))
+        lascia();
+}
+
+void Borftea::stampa() {
+    const bool daRegistrare = nuovo() || modificato();
+    if (m_comandi.stampa() && daRegistrare)
+        m_contesto.operatore.messaggio(
+            u"Il documento è stato stampato come si vede sullo schermo, ma non è ancora registrato così: "
+            "salvatelo prima di uscire."_s,
+            u"Attenzione"_s, Icona::Esclamazione);
 }
 
 void Borftea::salva() {
@@ -72,6 +95,7 @@ void Borftea::salva() {
     m_fuoco = esito.fuoco;
     if (esito.dopo == DopoSalva::Resta)
         return;
+    m_contesto.sessione.ultimosalvato = m_documento.recordfattura;
     if (esito.dopo == DopoSalva::Movimento)
         m_contesto.sessione.modificamovimento = esito.modificamovimento;
     chiudi();
@@ -82,7 +106,7 @@ void Borftea::elimina() {
     // The register shows what is on file, also where a delete got only half the way.
     m_contesto.sessione.listadaaggiornare = true;
     if (eliminadoc(m_documento, m_contesto, m_registrazioni, m_sospese))
-        esci();
+        lascia();
 }
 
 void Borftea::righe() {

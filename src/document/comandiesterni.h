@@ -7,8 +7,8 @@
 namespace bor {
 
 struct ComandiEsterni {
-    /// Prints the document in the form, then makes its PDF and sends it.
-    std::function<void()> stampa;
+    /// Prints the document in the form, then makes its PDF and sends it; false when nothing was printed.
+    std::function<bool()> stampa;
     /// Shows its pages on screen.
     std::function<void()> anteprima;
     /// Lets the operator choose the document's PDF.

@@ -24,12 +24,16 @@ struct Estremi {
     QString quota3;       ///< `Text2(6)`
     QString pdf;          ///< name of the document's PDF
     bool postael = false; ///< send by e-mail
+
+    friend bool operator==(const Estremi&, const Estremi&) = default;
 };
 
 /// One of the six instalments.
 struct Rata {
     QString scadenza; ///< `dsca`
     QString importo;  ///< `sca`
+
+    friend bool operator==(const Rata&, const Rata&) = default;
 };
 
 /// The commission rate is kept as it was typed, in a field of this many characters.
@@ -42,6 +46,8 @@ struct Scadenze {
     bool rib = false; ///< bank receipts (Ri.Ba.)
     QString provaliq; ///< `pro(0)`: commission rate, up to `caratteriProvvigione`
     QString provimp;  ///< `pro(1)`: commission
+
+    friend bool operator==(const Scadenze&, const Scadenze&) = default;
 };
 
 /// One row of the withholding panel.
@@ -50,6 +56,8 @@ struct Ritenuta {
     QString raimp;  ///< amount
     QString rascad; ///< to be paid by
     QString ravers; ///< paid on
+
+    friend bool operator==(const Ritenuta&, const Ritenuta&) = default;
 };
 
 /// One row of the deferred-VAT panel.
@@ -58,6 +66,8 @@ struct IvaDifferita {
     QString anno;
     QString pagato; ///< `timp`
     QString quota;  ///< `tiva`: tax that became due
+
+    friend bool operator==(const IvaDifferita&, const IvaDifferita&) = default;
 };
 
 /// The panels beside the VAT rows.
@@ -73,6 +83,8 @@ struct Prospetti {
     bool ivanonesp = false;     ///< `xxiva(2)`
     bool autofattura = false;   ///< `xxiva(3)`
     bool riepilogativo = false; ///< `xxiva(4)`
+
+    friend bool operator==(const Prospetti&, const Prospetti&) = default;
 };
 
 /// What the line above the command bar says of a document that integrates a supplier's invoice.

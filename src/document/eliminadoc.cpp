@@ -5,6 +5,7 @@
 #include "document/avvisi.h"
 #include "document/filerighe.h"
 #include "document/registrazioni.h"
+#include "document/riassunto.h"
 #include "document/righeinsospeso.h"
 #include "document/trovamovimento.h"
 
@@ -17,7 +18,7 @@ namespace bor {
 namespace {
 
 bool chiedi(const Contesto& contesto, const QString& domanda) {
-    return contesto.operatore.chiedi(domanda, u"Eliminazione fattura"_s);
+    return contesto.operatore.chiedi(domanda, u"Eliminazione fattura"_s, Icona::Domanda, Predefinita::No);
 }
 
 void informa(const Contesto& contesto, const QString& testo) {
@@ -92,7 +93,7 @@ bool eliminaRighe(const Documento& documento, Archivio& archivio, RigheInSospeso
 
 bool eliminadoc(Documento& documento, const Contesto& contesto, Registrazioni& registrazioni,
                 RigheInSospeso& sospese) {
-    if (!chiedi(contesto, u"Sei proprio sicuro?"_s))
+    if (!chiedi(contesto, riassunto(documento, contesto) + u"\n\nSei proprio sicuro?"_s))
         return false;
     const auto scelta = scegli(documento, contesto);
     EsitoRaffica esito = EsitoRaffica::NonLetta;

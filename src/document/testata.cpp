@@ -6,26 +6,16 @@ namespace bor {
 
 namespace {
 
-/// All characters of a field but the NULs of a place never written.
-template <std::size_t N>
-QString scritto(const Text<N>& campo) {
-    return campo.text().remove(QChar::Null);
-}
-
-template <std::size_t N>
-QString testoDi(const Text<N>& campo) {
-    return scritto(campo).trimmed();
-}
-
 SedeTesti testiDi(const Sede& sede) {
-    return {testoDi(sede.ragione1), testoDi(sede.ragione2), testoDi(sede.indirizzo), testoDi(sede.cap),
-            testoDi(sede.citta)};
+    return {sede.ragione1.trimmed(), sede.ragione2.trimmed(), sede.indirizzo.trimmed(), sede.cap.trimmed(),
+            sede.citta.trimmed()};
 }
 
 } // namespace
 
 ContoTesti ContoTesti::da(QStringView campo) {
-    return {pezzo(campo, 1, 2).trimmed(), pezzo(campo, 3, 2).trimmed(), pezzo(campo, 5).trimmed()};
+    return {puliscitesto(pezzo(campo, 1, 2)), puliscitesto(pezzo(campo, 3, 2)),
+            puliscitesto(pezzo(campo, 5))};
 }
 
 DatiCliente DatiCliente::da(const Cli& cliente) {
@@ -33,22 +23,22 @@ DatiCliente DatiCliente::da(const Cli& cliente) {
     d.sede = testiDi(cliente.sede);
     if (cliente.eliminato == 1)
         d.sede.ragione1.remove(0, 1);
-    d.codicefiscale = testoDi(cliente.codicefiscale);
-    d.nazione = testoDi(cliente.nazione);
-    d.partitaiva = testoDi(cliente.partitaiva);
+    d.codicefiscale = cliente.codicefiscale.trimmed();
+    d.nazione = cliente.nazione.trimmed();
+    d.partitaiva = cliente.partitaiva.trimmed();
     d.amministrazione = testiDi(cliente.amministrazione);
     for (std::size_t i = 0; i < d.telefono.size(); ++i)
-        d.telefono[i] = testoDi(cliente.telefono[i]);
-    d.email = testoDi(cliente.email);
-    d.vettore = {testoDi(cliente.vettore1), testoDi(cliente.vettore2), testoDi(cliente.vettore3)};
-    d.nota = {testoDi(cliente.nota1), testoDi(cliente.nota2)};
+        d.telefono[i] = cliente.telefono[i].trimmed();
+    d.email = cliente.email.trimmed();
+    d.vettore = {cliente.vettore1.trimmed(), cliente.vettore2.trimmed(), cliente.vettore3.trimmed()};
+    d.nota = {cliente.nota1.trimmed(), cliente.nota2.trimmed()};
     d.pagamento = cliente.posizionePagamento();
-    d.banca = testoDi(cliente.banca);
-    d.coordinate = cliente.coordinate().remove(QChar::Null);
-    d.contocliente = ContoTesti::da(scritto(cliente.contocliente));
-    d.contoricavi = ContoTesti::da(scritto(cliente.contoricavi));
-    d.contoiva = ContoTesti::da(scritto(cliente.contoiva));
-    d.contoesenti = ContoTesti::da(scritto(cliente.contoesenti));
+    d.banca = cliente.banca.trimmed();
+    d.coordinate = cliente.coordinate();
+    d.contocliente = ContoTesti::da(cliente.contocliente.text());
+    d.contoricavi = ContoTesti::da(cliente.contoricavi.text());
+    d.contoiva = ContoTesti::da(cliente.contoiva.text());
+    d.contoesenti = ContoTesti::da(cliente.contoesenti.text());
     return d;
 }
 

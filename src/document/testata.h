@@ -17,6 +17,8 @@ struct SedeTesti {
     QString indirizzo;
     QString cap;
     QString citta;
+
+    friend bool operator==(const SedeTesti&, const SedeTesti&) = default;
 };
 
 /// An account of the chart in its three groups: two, two and four digits.
@@ -28,6 +30,8 @@ struct ContoTesti {
     QString unito() const { return mastro + conto + sottoconto; }
     /// Cuts an account field at the characters 1-2, 3-4 and 5 to the end.
     static ContoTesti da(QStringView campo);
+
+    friend bool operator==(const ContoTesti&, const ContoTesti&) = default;
 };
 
 /// The customer's fields as texts (controls `Text2(0)` to `Text2(41)` and `Text`). What is typed over them
@@ -53,6 +57,8 @@ struct DatiCliente {
     /// The fields of a customer record, trimmed; blank where nothing was ever written. A deleted customer's
     /// name comes without the mark in front of it.
     static DatiCliente da(const Cli& cliente);
+
+    friend bool operator==(const DatiCliente&, const DatiCliente&) = default;
 };
 
 /// Transport of a goods invoice. List positions count from 0; -1 is no selection.
@@ -66,6 +72,8 @@ struct Trasporto {
     int causale = -1;   ///< `Combo3`
     int aspetto = -1;   ///< `Combo2`
     int spedizione = 0; ///< `sped`: 0 carrier, 1 recipient, 2 sender
+
+    friend bool operator==(const Trasporto&, const Trasporto&) = default;
 };
 
 /// What a fee bill says of the service. List positions count from 0; regime k is row k + 1 of the VAT table.
@@ -74,12 +82,16 @@ struct Pratica {
     int ivaspe = 0;                     ///< regime of the expenses
     int ivaant = 0;                     ///< regime of the advances
     std::array<QString, 4> descrizione; ///< `Text4(0)` to `(3)`
+
+    friend bool operator==(const Pratica&, const Pratica&) = default;
 };
 
 struct Testata {
     DatiCliente cliente;
     Trasporto trasporto;
     Pratica pratica;
+
+    friend bool operator==(const Testata&, const Testata&) = default;
 };
 
 } // namespace bor

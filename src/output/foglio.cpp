@@ -25,7 +25,7 @@ Foglio::Foglio(const Contesto& contesto, Stampante& stampante, Uscita uscita, co
       m_stampa(uscita != Uscita::SoloRapporto && stampante.inizia(titolo)) {}
 
 void Foglio::testo(double x, double y, const QString& testo, const Carattere& carattere, int colore) {
-    if (m_stampa)
+    if (m_stampa && !testo.isEmpty())
         m_stampante.testo(x, y, testo, disegnato(carattere), colore);
     m_rapporto.testo(x, y, testo, carattere, colore);
 }

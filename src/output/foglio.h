@@ -23,6 +23,8 @@ public:
     /// `file` is a DOS path.
     void immagine(double x1, double y1, double x2, double y2, const QString& file);
     void finePagina();
+    /// The printer takes part.
+    bool suCarta() const { return m_stampa; }
     /// Ends the print and writes the report file. False when that could not be written.
     bool termina();
 

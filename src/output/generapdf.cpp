@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/comandopdf.h"
+#include "common/date.h"
 #include "common/indirizzoposta.h"
 #include "common/numeri.h"
 #include "common/rapporto.h"
@@ -28,6 +29,30 @@ QString nomePdf(const Documento& documento, const TestiPdf& testi) {
     return testi.cartella() + (documento.parcella() ? u"\\par"_s : u"\\ftr"_s) + numero + u".pdf"_s;
 }
 
+/// The other document that has this PDF; 0 for none.
+int altroConPdf(const Documento& documento, const Archivio& archivio, const QString& pdf) {
+    int trovato = 0;
+    archivio.f2e.scorri(1, archivio.leggiTot(Conta::Fte).numero, [&](int n, const F2e& f2e) {
+        if (n != documento.recordfattura && f2e.marca == F2e::marcaValida &&
+            f2e.pdf.trimmed().compare(pdf, Qt::CaseInsensitive) == 0 && archivio.fte.leggi(n).annullata != 1)
+            trovato = n;
+        return trovato == 0;
+    });
+    return trovato;
+}
+
+/// A file that is another document's PDF, of the same number of another year, is replaced on request only.
+bool pdfLibero(const Documento& documento, const Contesto& contesto, const QString& pdf) {
+    const int altro = altroConPdf(documento, contesto.archivio, pdf);
+    if (altro == 0)
+        return true;
+    const Fte fte = contesto.archivio.fte.leggi(altro);
+    return contesto.operatore.chiedi(
+        u"Il file \"%1\" è già il PDF del documento n. %2 del %3. Sostituirlo?"_s.arg(
+            pdf, fte.numero.trimmed(), dataDaAnnoMeseGiorno(fte.datadoc.text())),
+        titoloAttenzione, Icona::Esclamazione, Predefinita::No);
+}
+
 bool avviaStrumento(const Contesto& contesto, const ComandoPdf& comando) {
     const bool avviato = contesto.sistema.avvia(programma(contesto), comando.argomenti());
     if (!avviato)
@@ -46,8 +71,10 @@ void generapdf(Documento& documento, const Contesto& contesto) {
         return;
     const TestiPdf testi = caricaTestiPdf(contesto.archivio);
     const QString pdf = nomePdf(documento, testi);
-    QString destinatario =
-        documento.estremi.postael ? documento.cliente.email.trimmed() : senzaPosta.toString();
+    // Of an address only the places never written are taken away: with a line end in it, it is none.
+    QString destinatario = documento.estremi.postael
+                               ? documento.cliente.email.text().remove(QChar::Null).trimmed()
+                               : senzaPosta.toString();
     if (documento.estremi.postael && !indirizzoValido(destinatario)) {
         contesto.operatore.messaggio(
             u"L'indirizzo di posta elettronica del cliente non è valido: \"%1\". Il documento non è stato inviato."_s
@@ -61,12 +88,18 @@ void generapdf(Documento& documento, const Contesto& contesto) {
             Icona::Stop);
         return;
     }
-    if (avviaStrumento(contesto, {.layout = layoutStrumento(documento, contesto),
-                                  .rapporto = fileRapporto.toString(),
-                                  .pdf = pdf,
-                                  .indirizzo = destinatario,
-                                  .testo = testi.testo(documento.parcella())}))
-        documento.estremi.pdf = pdf;
+    if (!pdfLibero(documento, contesto, pdf) ||
+        !avviaStrumento(contesto, {.layout = layoutStrumento(documento, contesto),
+                                   .rapporto = fileRapporto.toString(),
+                                   .pdf = pdf,
+                                   .indirizzo = destinatario,
+                                   .testo = testi.testo(documento.parcella())}))
+        return;
+    documento.estremi.pdf = pdf;
+    if (destinatario != senzaPosta)
+        contesto.operatore.messaggio(u"Il documento è stato affidato all'invio per posta elettronica a: "_s +
+                                         destinatario,
+                                     titoloAttenzione, Icona::Informazione);
 }
 
 void anteprima(const Documento& documento, const Contesto& contesto) {

@@ -6,6 +6,7 @@
 #include "output/foglio.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -37,11 +38,14 @@ QStringView estensione(CodiceModello codice) {
     return u"lkg";
 }
 
-OggettoModello leggiOggetto(FileTesto& file) {
+/// Nothing when the file ends before the kind; last numbers that are missing count as 0.
+std::optional<OggettoModello> leggiOggetto(FileTesto& file) {
     OggettoModello o;
     o.testo = file.linea();
     o.carattere = file.linea().trimmed();
     const int tipo = valoreIntero(file.campo());
+    if (file.finito())
+        return std::nullopt;
     using Tipo = OggettoModello::Tipo;
     if (tipo > static_cast<int>(Tipo::Nessuno) && tipo <= static_cast<int>(Tipo::Immagine))
         o.tipo = static_cast<Tipo>(tipo);
@@ -86,10 +90,10 @@ Modello caricamodello(const Archivio& archivio, CodiceModello codice) {
     const int quanti = std::clamp(valoreIntero(file.campo()), 0, massimoOggetti);
     Modello modello;
     for (int i = 0; i < quanti && file.aperto(); ++i) {
-        OggettoModello oggetto = leggiOggetto(file);
-        if (file.finito())
+        auto oggetto = leggiOggetto(file);
+        if (!oggetto)
             break;
-        modello.push_back(std::move(oggetto));
+        modello.push_back(*std::move(oggetto));
     }
     return modello;
 }

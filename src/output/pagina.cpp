@@ -17,8 +17,9 @@ double bordo(const Layout& layout, int riga) {
     return layout.voce(riga).x();
 }
 
+/// An empty text writes its record too: the reader of the report counts on every item and cell.
 void scrivi(const VoceLayout& voce, double y, const QString& testo, bool aDestra, Foglio& foglio) {
-    if (testo.isEmpty() || voce.x() <= 0 || y <= 0)
+    if (voce.x() <= 0)
         return;
     if (aDestra)
         foglio.testoADestra(voce.x(), y, testo, voce.carattere, voce.colore);
@@ -32,10 +33,12 @@ void disegnaGruppo(const Layout& layout, const GruppoVoci& gruppo, const QString
         if (voce.y() <= 0)
             continue;
         double y = voce.y();
-        for (qsizetype t = i; t < testi.size(); t += gruppo.quante) {
-            scrivi(voce, y, testi[t], gruppo.aDestra(i), foglio);
+        qsizetype t = i;
+        do {
+            scrivi(voce, y, testi.value(t), gruppo.aDestra(i), foglio);
             y += passo;
-        }
+            t += gruppo.quante;
+        } while (t < testi.size());
     }
 }
 

@@ -95,17 +95,22 @@ constexpr std::array gruppi = voci::conComuni(std::array{
     GruppoVoci{83, 2, Tutte, Sinistra, voci::note},
 });
 
+// The widths of a line's texts, which the electronic invoice keeps to as well.
+constexpr qsizetype caratteriCodice = 15;
+constexpr qsizetype caratteriDescrizione = 60;
+constexpr qsizetype caratteriUnita = 2;
+
 const Riga& riga(const DatiStampa& dati, int linea) {
     return dati.documento.ddd[static_cast<std::size_t>(linea - 1)];
 }
 
 QString codice(const DatiStampa& dati, int linea) {
     const Riga& r = riga(dati, linea);
-    return r.recart >= 1 ? puliscitesto(r.codice) : QString();
+    return r.recart >= 1 ? puliscitesto(r.codice.left(caratteriCodice)) : QString();
 }
 
 QString descrizione(const DatiStampa& dati, int linea) {
-    return puliscitesto(riga(dati, linea).descrizione);
+    return puliscitesto(riga(dati, linea).descrizione.left(caratteriDescrizione));
 }
 
 QString quantita(const DatiStampa& dati, int linea) {
@@ -114,7 +119,7 @@ QString quantita(const DatiStampa& dati, int linea) {
 }
 
 QString unita(const DatiStampa& dati, int linea) {
-    return puliscitesto(riga(dati, linea).um);
+    return puliscitesto(riga(dati, linea).um.left(caratteriUnita));
 }
 
 QString prezzo(const DatiStampa& dati, int linea) {

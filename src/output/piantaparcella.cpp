@@ -52,16 +52,19 @@ constexpr std::array gruppi = voci::conComuni(std::array{
     GruppoVoci{78, 2, Tutte, Sinistra, voci::note},
 });
 
+constexpr qsizetype caratteriData = 10;
+constexpr qsizetype caratteriDescrizione = 50;
+
 const Rigap& riga(const DatiStampa& dati, int linea) {
     return dati.documento.dddp[static_cast<std::size_t>(linea - 1)];
 }
 
 QString data(const DatiStampa& dati, int linea) {
-    return puliscitesto(riga(dati, linea).data);
+    return puliscitesto(riga(dati, linea).data.left(caratteriData));
 }
 
 QString descrizione(const DatiStampa& dati, int linea) {
-    return puliscitesto(riga(dati, linea).descrizione);
+    return puliscitesto(riga(dati, linea).descrizione.left(caratteriDescrizione));
 }
 
 QString anticipazioni(const DatiStampa& dati, int linea) {

@@ -1,8 +1,9 @@
 #include "output/stampafattura.h"
 
 #include "archive/contesto.h"
-#include "document/avvisi.h"
 #include "output/pagina.h"
+
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +19,35 @@ bool confermata(const Documento& documento, const Contesto& contesto) {
     return contesto.operatore.chiedi(u"Iniziare la stampa?"_s, u"Stampa fattura"_s);
 }
 
-/// Draws the document; false when there is nothing to draw or the report file could not be written.
-bool esegui(const Documento& documento, const Contesto& contesto, Stampante& stampante,
-            Foglio::Uscita uscita) {
+void avvisa(const Contesto& contesto, const QString& testo) {
+    contesto.operatore.messaggio(testo, u"Attenzione"_s, Icona::Esclamazione);
+}
+
+void avvisaSenzaRighe(const Contesto& contesto) {
+    avvisa(
+        contesto,
+        u"Il documento non ha righe: non c'è nulla da stampare. Inserite le righe, poi ripetete la stampa."_s);
+}
+
+void avvisaSenzaStampante(const Contesto& contesto) {
+    avvisa(contesto, u"Nessuna stampante: il documento non è uscito su carta. Installate o collegate una "
+                     "stampante, poi ripetete la stampa."_s);
+}
+
+void avvisaSenzaRapporto(const Contesto& contesto) {
+    Disco& disco = contesto.archivio.disco();
+    contesto.operatore.messaggio(
+        u"Non è stato possibile scrivere il file di stampa \"%1\", da cui nascono PDF e anteprima. "
+        u"Verificate "
+        "lo spazio libero e i permessi della cartella, poi ripetete la stampa."_s.arg(
+            QDir::toNativeSeparators(disco.nonScritto())),
+        u"Attenzione"_s, Icona::Stop);
+    disco.dimentica();
+}
+
+/// Draws the document and tells what went wrong; `Niente` also when there was nothing to draw.
+EsitoStampa esegui(const Documento& documento, const Contesto& contesto, Stampante& stampante,
+                   Foglio::Uscita uscita) {
     const Attesa attesa(contesto.operatore);
     const bool parcella = documento.parcella();
     const Layout layout = caricaLayout(contesto.archivio, parcella);
@@ -31,34 +58,36 @@ bool esegui(const Documento& documento, const Contesto& contesto, Stampante& sta
     const bool senzaPagine = pagine(layout, pianta, dati) == 0;
     if (senzaPagine) {
         // Nothing to print: the report file is emptied, and no blank sheet leaves the printer.
+        avvisaSenzaRighe(contesto);
         if (uscita == Foglio::Uscita::SoloStampante)
-            return false;
+            return EsitoStampa::Niente;
         uscita = Foglio::Uscita::SoloRapporto;
     }
     contesto.archivio.disco().dimentica();
     Foglio foglio(contesto, stampante, uscita, documento.estremi.numero);
     disegnaPagine(layout, modello, pianta, dati, foglio);
-    if (!foglio.termina()) {
-        avvisaNonRegistrato(contesto, EsitoRaffica::NonScritta);
-        return false;
-    }
-    return !senzaPagine;
+    const bool scritto = foglio.termina();
+    if (!scritto)
+        avvisaSenzaRapporto(contesto);
+    if (uscita != Foglio::Uscita::SoloRapporto && !foglio.suCarta())
+        avvisaSenzaStampante(contesto);
+    if (scritto && !senzaPagine && uscita != Foglio::Uscita::SoloStampante)
+        return EsitoStampa::ConRapporto;
+    return foglio.suCarta() ? EsitoStampa::SoloCarta : EsitoStampa::Niente;
 }
 
 } // namespace
 
-bool stampaDocumento(const Documento& documento, const Contesto& contesto, Stampante& stampante) {
+EsitoStampa stampaDocumento(const Documento& documento, const Contesto& contesto, Stampante& stampante) {
     if (!confermata(documento, contesto))
-        return false;
+        return EsitoStampa::Niente;
     const bool integrata = !documento.parcella() && documento.integrata != Integrata::No;
-    const bool scritto =
-        esegui(documento, contesto, stampante,
-               integrata ? Foglio::Uscita::SoloStampante : Foglio::Uscita::StampanteERapporto);
-    return scritto && !integrata;
+    return esegui(documento, contesto, stampante,
+                  integrata ? Foglio::Uscita::SoloStampante : Foglio::Uscita::StampanteERapporto);
 }
 
 bool preparaRapporto(const Documento& documento, const Contesto& contesto, Stampante& stampante) {
-    return esegui(documento, contesto, stampante, Foglio::Uscita::SoloRapporto);
+    return esegui(documento, contesto, stampante, Foglio::Uscita::SoloRapporto) == EsitoStampa::ConRapporto;
 }
 
 } // namespace bor

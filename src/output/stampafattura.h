@@ -6,9 +6,16 @@
 
 namespace bor {
 
-/// Asks, then prints the goods invoice, credit note or fee bill. An invoice that integrates a supplier's one
-/// goes to the printer alone. True when a report file was written that a PDF can be made of.
-bool stampaDocumento(const Documento& documento, const Contesto& contesto, Stampante& stampante);
+/// What a print left behind.
+enum class EsitoStampa {
+    Niente,
+    SoloCarta,  ///< an invoice that integrates a supplier's one goes to the printer alone
+    ConRapporto ///< a report file that a PDF can be made of; on paper too, where there is a printer
+};
+
+/// Asks, then prints the goods invoice, credit note or fee bill. A missing printer, a document without lines
+/// and a report file that could not be written are told.
+EsitoStampa stampaDocumento(const Documento& documento, const Contesto& contesto, Stampante& stampante);
 
 /// Writes the report file without printing, for the preview; nothing is asked. False when the document has no
 /// line to print or the file could not be written.

@@ -45,11 +45,20 @@ void Borfte::carica() {
 }
 
 void Borfte::attiva() {
-    if (m_contesto.sessione.listadaaggiornare && m_contesto.impostazioni.gnr.riempiDopoSalvataggio()) {
+    const bool daRiempire =
+        m_contesto.sessione.listadaaggiornare && m_contesto.impostazioni.gnr.riempiDopoSalvataggio();
+    const int aperto = m_documento.recordfattura;
+    if (!daRiempire && (aperto <= 0 || aperto == m_recordCorrente))
+        return;
+    if (aperto > 0)
+        m_recordCorrente = aperto;
+    if (daRiempire) {
         leggiConteggio();
         caricalista();
         m_contesto.sessione.listadaaggiornare = false;
     }
+    m_primaRiga.reset();
+    ++m_edizione;
 }
 
 void Borfte::esci() {
@@ -57,8 +66,8 @@ void Borfte::esci() {
         return;
     if (m_righeInSospeso && m_righeInSospeso() &&
         !m_contesto.operatore.chiedi(
-            u"Alcuni documenti nuovi hanno righe non ancora registrate. Uscire comunque?"_s,
-            titoloAttenzione))
+            u"Alcuni documenti nuovi hanno righe non ancora registrate. Uscire comunque?"_s, titoloAttenzione,
+            Icona::Domanda, Predefinita::No))
         return;
     m_contesto.archivio.chiudi();
     m_contesto.navigatore.termina();
@@ -72,8 +81,12 @@ void Borfte::rileggi() {
 }
 
 void Borfte::riordino(TipoRiordino tipo) {
-    if (m_riordino.esegui(tipo, m_numero))
-        caricalista();
+    if (!m_riordino.esegui(tipo, m_numero))
+        return;
+    // The documents have other numbers now.
+    m_recordCorrente = 0;
+    m_contesto.sessione.ultimosalvato = 0;
+    caricalista();
 }
 
 void Borfte::nuovoDocumento(int tipo) {
@@ -112,6 +125,7 @@ void Borfte::cambiaVisua(Visua scelta) {
     if (m_riordino.inCorso())
         return;
     m_visua = scelta;
+    m_recordCorrente = 0;
     salvaVista();
     caricalista();
 }
@@ -154,6 +168,7 @@ void Borfte::ordina(Colonna colonna) {
 
 void Borfte::cellaCorrente(int riga, Colonna colonna) {
     m_cellaCorrente = {riga, colonna};
+    m_recordCorrente = m_elenco.record(riga);
 }
 
 void Borfte::apri(int riga, Colonna colonna) {
@@ -163,9 +178,43 @@ void Borfte::apri(int riga, Colonna colonna) {
         ApriPDF(m_contesto, testo(riga, Colonna::NomePdf));
         return;
     }
-    const int record = m_elenco.record(riga);
-    if (record <= 0)
+    apriDocumento(riga);
+}
+
+void Borfte::apriDocumento(int riga) {
+    if (m_riordino.fermo() && m_elenco.record(riga) > 0)
+        apriRecord(m_elenco.record(riga));
+}
+
+void Borfte::riapriUltimo() {
+    if (!m_riordino.fermo())
         return;
+    const int record = m_contesto.sessione.ultimosalvato;
+    if (record > 0)
+        apriRecord(record);
+    else
+        m_contesto.operatore.messaggio(
+            u"Nessun documento è stato ancora registrato da quando il programma è aperto"_s, titoloAttenzione,
+            Icona::Informazione);
+}
+
+void Borfte::cerca(const QString& testo) {
+    if (m_riordino.inCorso())
+        return;
+    m_cercato = testo;
+    m_elenco.cerca(testo);
+    m_primaRiga.reset();
+    ++m_edizione;
+}
+
+int Borfte::rigaCorrente() const {
+    const int riga = m_elenco.rigaDi(m_recordCorrente);
+    if (riga >= 0)
+        return riga;
+    return m_visua == Visua::DallUltima ? std::max(m_elenco.quante() - 1, 0) : 0;
+}
+
+void Borfte::apriRecord(int record) {
     const Fte fte = m_contesto.archivio.fte.leggi(record);
     if (fte.annullata == 1) {
         m_contesto.operatore.messaggio(u"Fattura annullata"_s, titoloAttenzione, Icona::Esclamazione);

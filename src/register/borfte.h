@@ -42,8 +42,14 @@ public:
     void ordina(Colonna colonna);
     /// The cell that has the operator's cursor; rows count from 0, as in `elenco()`.
     void cellaCorrente(int riga, Colonna colonna);
-    /// Double click or Enter on a cell: its PDF, or its document.
+    /// Double click on a cell: its PDF, or its document.
     void apri(int riga, Colonna colonna);
+    /// Enter on a row: its document.
+    void apriDocumento(int riga);
+    /// The document saved last in this run.
+    void riapriUltimo();
+    /// Leaves in the list the documents that answer to the text, as `CercaFatture` tells.
+    void cerca(const QString& testo);
 
     const ElencoFatture& elenco() const { return m_elenco; }
     QString testo(int riga, Colonna colonna) const;
@@ -51,8 +57,12 @@ public:
     std::optional<int> colore(int riga, Colonna colonna) const;
     /// Rows on screen, blank filler rows included.
     int righeGriglia() const;
-    /// The row, counted from 0, that the list shows first; nothing after a sort, which leaves it where it
-    /// stands.
+    const QString& cercato() const { return m_cercato; }
+    /// The row, counted from 0, of the document that has the operator's cursor, also after a fill or a sort.
+    /// Where it is not in the list any more, the one at which the list opens.
+    int rigaCorrente() const;
+    /// The row, counted from 0, that the list shows first; nothing where the list stays as it stands and only
+    /// has to show the current row: after a sort, a search, on the way back from a document.
     std::optional<int> primaRigaVisibile() const { return m_primaRiga; }
     /// Grows with every fill and sort.
     int edizione() const { return m_edizione; }
@@ -78,6 +88,7 @@ private:
         int colore;
     };
 
+    void apriRecord(int record);
     void leggiConteggio();
     void caricalista();
     void ripristinavista();
@@ -96,6 +107,8 @@ private:
     std::optional<int> m_primaRiga;
     int m_edizione = 0;
     Cella m_cellaCorrente;
+    int m_recordCorrente = 0; ///< `fte` record of the row with the cursor; 0 for none
+    QString m_cercato;
     std::optional<CellaColorata> m_cellaColorata;
 };
 

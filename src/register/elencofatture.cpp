@@ -2,6 +2,7 @@
 
 #include "archive/raffica.h"
 #include "common/date.h"
+#include "register/cercafatture.h"
 #include "register/righeelenco.h"
 
 #include <algorithm>
@@ -11,6 +12,7 @@ namespace bor {
 namespace {
 
 constexpr int documentiPerBlocco = 512;
+const QString eliminata = QStringLiteral("Fattura eliminata");
 
 bool passa(const F2e& f2e, FiltroFatture filtro) {
     return filtro == FiltroFatture::Tutte || f2e.fatturaPa() == (filtro == FiltroFatture::SoloPa);
@@ -68,13 +70,14 @@ void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatt
                 f2e.fpa = 0.0;
                 guasti.push_back(n + i);
             }
-            if (passa(f2e, filtro) && quante() < massimoRighe)
+            if (passa(f2e, filtro) && std::ssize(m_righe) < massimoRighe)
                 aggiungi(n + i, teste[static_cast<std::size_t>(i)], f2e);
         }
     }
     riparaFpa(archivio, guasti);
-    m_ultimaPdf = haPdf(quante() - 1);
+    m_ultimaPdf = !m_righe.empty() && m_righe.back().pdf >= 0;
     leggiNomi(archivio);
+    scegliMostrate();
 }
 
 void ElencoFatture::aggiungi(int record, const Fte& fte, const F2e& f2e) {
@@ -100,18 +103,48 @@ void ElencoFatture::leggiNomi(const Archivio& archivio) {
 
 QString ElencoFatture::nomeCliente(const Riga& riga) const {
     if (riga.annullata)
-        return QStringLiteral("Fattura eliminata");
+        return eliminata;
     return riga.cliente > 0 ? m_nomi[static_cast<std::size_t>(riga.cliente)] : QString();
 }
 
 void ElencoFatture::ordina(Colonna colonna) {
-    ordinaRighe(m_righe, [this, colonna](int riga) { return testo(riga, colonna, {}); });
+    ordinaRighe(m_righe, [this, colonna](int riga) {
+        return testo(m_righe[static_cast<std::size_t>(riga)], colonna, {});
+    });
+    scegliMostrate();
+}
+
+void ElencoFatture::cerca(const QString& testo) {
+    m_cercato = testo;
+    scegliMostrate();
+}
+
+void ElencoFatture::scegliMostrate() {
+    const CercaFatture cerca(m_cercato);
+    // A customer's name is compared once, however many documents he has.
+    std::vector<char> nomi;
+    nomi.reserve(m_nomi.size());
+    for (const QString& nome : m_nomi)
+        nomi.push_back(cerca.vuota() || cerca.trovaNome(nome));
+    const bool eliminate = cerca.vuota() || cerca.trovaNome(eliminata);
+    const auto trovata = [&](const Riga& r) {
+        const bool perNome =
+            r.annullata ? eliminate : r.cliente > 0 && nomi[static_cast<std::size_t>(r.cliente)];
+        return cerca.vuota() || perNome ||
+               cerca.trovaDocumento(r.numero.raw(), r.datareg.raw(), r.datadoc.raw(), r.totale);
+    };
+    m_mostrate.clear();
+    for (std::size_t i = 0; i < m_righe.size(); ++i) {
+        if (trovata(m_righe[i]))
+            m_mostrate.push_back(i);
+    }
 }
 
 QString ElencoFatture::testo(int riga, Colonna colonna, const Valuta& valuta) const {
-    if (!esiste(riga))
-        return {};
-    const Riga& r = m_righe[static_cast<std::size_t>(riga)];
+    return esiste(riga) ? testo(mostrata(riga), colonna, valuta) : QString();
+}
+
+QString ElencoFatture::testo(const Riga& r, Colonna colonna, const Valuta& valuta) const {
     switch (colonna) {
     case Colonna::Registrazione:
         return QString::number(r.record);
@@ -138,16 +171,17 @@ QString ElencoFatture::testo(int riga, Colonna colonna, const Valuta& valuta) co
 }
 
 int ElencoFatture::record(int riga) const {
-    return esiste(riga) ? m_righe[static_cast<std::size_t>(riga)].record : 0;
+    return esiste(riga) ? mostrata(riga).record : 0;
 }
 
 int ElencoFatture::rigaDi(int record) const {
-    const auto trovata = std::ranges::find(m_righe, record, &Riga::record);
-    return trovata == m_righe.end() ? -1 : static_cast<int>(trovata - m_righe.begin());
+    const auto trovata =
+        std::ranges::find(m_mostrate, record, [this](std::size_t i) { return int{m_righe[i].record}; });
+    return trovata == m_mostrate.end() ? -1 : static_cast<int>(trovata - m_mostrate.begin());
 }
 
 bool ElencoFatture::haPdf(int riga) const {
-    return esiste(riga) && m_righe[static_cast<std::size_t>(riga)].pdf >= 0;
+    return esiste(riga) && mostrata(riga).pdf >= 0;
 }
 
 } // namespace bor

@@ -40,7 +40,11 @@ public:
     /// order.
     void ordina(Colonna colonna);
 
-    int quante() const { return static_cast<int>(m_righe.size()); }
+    /// Leaves in the list the documents that answer to a text, as `CercaFatture` tells; an empty text brings
+    /// all of them back. A fill and a sort keep it.
+    void cerca(const QString& testo);
+
+    int quante() const { return static_cast<int>(m_mostrate.size()); }
     /// Text of a cell; rows count from 0. A row that does not exist is blank.
     QString testo(int riga, Colonna colonna, const Valuta& valuta) const;
     /// Record number of a row; 0 for a row that does not exist.
@@ -65,11 +69,16 @@ private:
     };
 
     bool esiste(int riga) const { return riga >= 0 && riga < quante(); }
+    const Riga& mostrata(int riga) const { return m_righe[m_mostrate[static_cast<std::size_t>(riga)]]; }
+    QString testo(const Riga& riga, Colonna colonna, const Valuta& valuta) const;
+    void scegliMostrate();
     void aggiungi(int record, const Fte& fte, const F2e& f2e);
     void leggiNomi(const Archivio& archivio);
     QString nomeCliente(const Riga& riga) const;
 
-    std::vector<Riga> m_righe;
+    std::vector<Riga> m_righe;           ///< all that the fill took in
+    std::vector<std::size_t> m_mostrate; ///< indices of those that answer to `m_cercato`
+    QString m_cercato;
     std::vector<Text<60>> m_pdf;
     std::vector<QString> m_nomi; ///< first name line of the customers, by record number
     bool m_ultimaPdf = false;

@@ -71,12 +71,13 @@ void OperatoreQt::messaggio(const QString& testo, const QString& titolo, Icona i
     QMessageBox(iconaQt(icona), titolo, testo, QMessageBox::Ok, m_finestra).exec();
 }
 
-bool OperatoreQt::chiedi(const QString& testo, const QString& titolo, Icona icona) {
+bool OperatoreQt::chiedi(const QString& testo, const QString& titolo, Icona icona, Predefinita predefinita) {
     const CursoreNormale cursore;
     const SenzaRipetizioni filtro;
     QMessageBox box(iconaQt(icona), titolo, testo, QMessageBox::Yes | QMessageBox::No, m_finestra);
     box.button(QMessageBox::Yes)->setText(QStringLiteral("&Sì"));
     box.button(QMessageBox::No)->setText(QStringLiteral("&No"));
+    box.setDefaultButton(predefinita == Predefinita::Si ? QMessageBox::Yes : QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }

@@ -15,7 +15,7 @@ public:
     void usa(QWidget* finestra) { m_finestra = finestra; }
 
     void messaggio(const QString& testo, const QString& titolo, Icona icona) override;
-    bool chiedi(const QString& testo, const QString& titolo, Icona icona) override;
+    bool chiedi(const QString& testo, const QString& titolo, Icona icona, Predefinita predefinita) override;
     void attesa(bool inizio) override;
     void lasciaEventi() override;
     QString scegliFile(const QString& titolo, const QString& filtro) override;

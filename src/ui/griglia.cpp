@@ -1,9 +1,12 @@
 #include "ui/griglia.h"
 
 #include <QColor>
+#include <QEvent>
 #include <QHeaderView>
+#include <QShortcut>
 #include <QTableView>
 
+#include <algorithm>
 #include <utility>
 
 namespace bor {
@@ -14,6 +17,45 @@ namespace {
 QColor coloreQt(int bgr) {
     return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
 }
+
+void vaiARiga(QTableView* elenco, int riga) {
+    elenco->setCurrentIndex(elenco->model()->index(riga, std::max(elenco->currentIndex().column(), 0)));
+}
+
+/// Where a grid is too narrow for all of its columns, the widest one gives way, so that none is out of sight.
+class ColonnaCedevole : public QObject {
+public:
+    ColonnaCedevole(QTableView* elenco, int colonna, int larghezza)
+        : QObject(elenco), m_elenco(elenco), m_colonna(colonna), m_larghezza(larghezza) {
+        elenco->viewport()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() == QEvent::Resize)
+            adatta();
+        return QObject::eventFilter(oggetto, evento);
+    }
+
+private:
+    void adatta() {
+        QHeaderView* testata = m_elenco->horizontalHeader();
+        int altre = 0;
+        for (int i = 0; i < testata->count(); ++i) {
+            if (i == m_colonna || testata->isSectionHidden(i))
+                continue;
+            altre += testata->sectionResizeMode(i) == QHeaderView::Stretch ? testata->sectionSizeHint(i)
+                                                                           : testata->sectionSize(i);
+        }
+        const int minima = testata->sectionSizeHint(m_colonna);
+        testata->resizeSection(
+            m_colonna, std::max(minima, std::min(m_larghezza, m_elenco->viewport()->width() - altre)));
+    }
+
+    QTableView* m_elenco;
+    int m_colonna;
+    int m_larghezza;
+};
 
 } // namespace
 
@@ -62,7 +104,15 @@ QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation orientamento, i
     return {};
 }
 
-void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne) {
+void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne,
+                   const std::function<int()>& righe) {
+    const auto tasto = [elenco](Qt::Key quale, const std::function<void()>& azione) {
+        auto* scorciatoia = new QShortcut(QKeySequence(quale), elenco);
+        scorciatoia->setContext(Qt::WidgetShortcut);
+        QObject::connect(scorciatoia, &QShortcut::activated, elenco, azione);
+    };
+    tasto(Qt::Key_Home, [elenco] { vaiARiga(elenco, 0); });
+    tasto(Qt::Key_End, [elenco, righe] { vaiARiga(elenco, std::max(righe() - 1, 0)); });
     elenco->setSelectionMode(QAbstractItemView::SingleSelection);
     elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
     elenco->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -76,6 +126,9 @@ void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne) 
     QHeaderView* testata = elenco->horizontalHeader();
     testata->setHighlightSections(false);
     constexpr double ingrandimento = 1.2;
+    const auto punti = [elenco](int larghezza) {
+        return static_cast<int>(larghezza * ingrandimento * elenco->logicalDpiX() / 1440);
+    };
     for (int i = 0; i < std::ssize(colonne); ++i) {
         const int larghezza = colonne[static_cast<std::size_t>(i)].larghezza;
         if (larghezza == ColonnaGriglia::nascosta)
@@ -83,9 +136,10 @@ void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne) 
         else if (larghezza == ColonnaGriglia::elastica)
             testata->setSectionResizeMode(i, QHeaderView::Stretch);
         else
-            testata->resizeSection(
-                i, static_cast<int>(larghezza * ingrandimento * elenco->logicalDpiX() / 1440));
+            testata->resizeSection(i, punti(larghezza));
     }
+    const auto larga = std::ranges::max_element(colonne, {}, &ColonnaGriglia::larghezza);
+    new ColonnaCedevole(elenco, static_cast<int>(larga - colonne.begin()), punti(larga->larghezza));
 }
 
 } // namespace bor

@@ -48,7 +48,9 @@ private:
     int m_righe = 0;
 };
 
-/// Makes a grid that has its model a list of whole rows to choose from, with the widths of its columns.
-void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne);
+/// Makes a grid that has its model a list of whole rows to choose from, with the widths of its columns. Home
+/// and End go to the first row and to the last one of `righe`, which leaves the blank filler rows out.
+void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne,
+                   const std::function<int()>& righe);
 
 } // namespace bor

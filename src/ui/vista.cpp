@@ -2,7 +2,9 @@
 
 #include "ui/lettere.h"
 
+#include <QBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QShortcut>
 
 #include <utility>
@@ -27,6 +29,20 @@ Vista::Vista(QWidget* parent)
     aiuto->setWhatsThis(u"Tasti di questo schermo"_s);
     connect(aiuto, &QShortcut::activated, this,
             [this] { (new FinestraTasti(titolo(), tasti(), this))->open(); });
+}
+
+void Vista::intesta(const std::function<QString()>& testo) {
+    auto* riga = new QLabel;
+    riga->setObjectName(u"intestazione"_s);
+    riga->setAccessibleName(u"Documento"_s);
+    riga->setTextFormat(Qt::PlainText);
+    riga->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    riga->setStyleSheet(u"font-weight: bold;"_s);
+    legami.altro([riga, testo] {
+        riga->setText(testo());
+        riga->setToolTip(riga->text());
+    });
+    static_cast<QBoxLayout*>(layout())->insertWidget(0, riga);
 }
 
 QList<TastoSchermo> Vista::tasti() const {

@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 namespace bor {
 
 class Vista : public QWidget {
@@ -19,6 +21,8 @@ public:
     virtual void lascia() = 0;
     /// Caption of the window while the screen is in view.
     virtual QString titolo() const = 0;
+    /// Puts a line at the top of the screen; `testo` is asked at each refresh.
+    void intesta(const std::function<QString()>& testo);
     /// The keys of the screen, those of its commands in view first.
     QList<TastoSchermo> tasti() const;
 

@@ -11,10 +11,12 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTableView>
 
 #include <array>
@@ -80,6 +82,7 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
     layout->addWidget(opzioniVista);
     layout->addWidget(elenco, 1);
     layout->addWidget(creaComandi());
+    creaScorciatoie();
     legami.altro([this] { aggiornaElenco(); });
     m_form.suAvanzamento([this] { legami.aggiorna(); });
 }
@@ -98,6 +101,11 @@ QWidget* VistaBorfte::creaOpzioni() {
         {u"Visualizza a partire dalla prima registrazione"_s,
          u"Visualizza a partire dall'ultima registrazione"_s},
         legami, [this] { return m_form.visua(); }, [this](Visua scelta) { m_form.cambiaVisua(scelta); }));
+    layout->addWidget(creaFiltro(), 1);
+    return barra;
+}
+
+QGroupBox* VistaBorfte::creaFiltro() {
     auto* filtro = new QGroupBox(u"Filtro"_s);
     auto* colonna = new QVBoxLayout(filtro);
     auto* lista = new QComboBox;
@@ -109,10 +117,20 @@ QWidget* VistaBorfte::creaOpzioni() {
         lista, [this] { return static_cast<int>(m_form.filtro()); },
         [this](int i) { m_form.cambiaFiltro(static_cast<FiltroFatture>(i)); });
     colonna->addWidget(lista);
+    const QString cerca = u"Cerca"_s;
+    m_cerca = new CampoTesto(u"cerca"_s, cerca);
+    m_cerca->setPlaceholderText(u"numero, numero/anno, cliente, importo o data"_s);
+    m_cerca->setToolTip(u"Restano in elenco i documenti che rispondono; Esc li mostra tutti"_s);
+    m_cerca->setClearButtonEnabled(true);
+    legami.testo(
+        m_cerca, [this] { return m_form.cercato(); }, [this](const QString& testo) { m_form.cerca(testo); });
+    invio.passo(m_cerca, [this] { vaiA(m_elenco); });
+    auto* linea = new QHBoxLayout;
+    linea->addWidget(didascalia(cerca, m_cerca));
+    linea->addWidget(m_cerca, 1);
+    colonna->addLayout(linea);
     colonna->addStretch();
-    layout->addWidget(filtro);
-    layout->addStretch();
-    return barra;
+    return filtro;
 }
 
 QWidget* VistaBorfte::creaElenco() {
@@ -120,13 +138,19 @@ QWidget* VistaBorfte::creaElenco() {
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Registro delle fatture emesse"_s);
     m_elenco->setModel(m_modello);
-    preparaElenco(m_elenco, colonne);
-    connect(m_elenco, &QTableView::doubleClicked, this, [this] { apri(); });
+    preparaElenco(m_elenco, colonne, [this] { return m_form.elenco().quante(); });
+    connect(m_elenco, &QTableView::doubleClicked, this, [this](const QModelIndex& cella) {
+        legami.esegui([&] { m_form.apri(cella.row(), static_cast<Colonna>(cella.column())); });
+    });
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) {
                 m_form.cellaCorrente(cella.row(), static_cast<Colonna>(cella.column()));
             });
-    invio.passo(m_elenco, [this] { apri(); });
+    invio.passo(m_elenco, [this] {
+        const QModelIndex cella = m_elenco->currentIndex();
+        if (cella.isValid())
+            legami.esegui([&] { m_form.apriDocumento(cella.row()); });
+    });
 
     auto* riquadro = new QWidget;
     auto* layout = new QVBoxLayout(riquadro);
@@ -201,6 +225,20 @@ void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
     comando(7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, per(TipoRiordino::PerNumero), scelta);
 }
 
+void VistaBorfte::creaScorciatoie() {
+    const auto scorciatoia = [this](const QString& tasti, const QString& cosa,
+                                    const std::function<void()>& azione) {
+        auto* voce = new QShortcut(QKeySequence(tasti), this);
+        voce->setAutoRepeat(false);
+        voce->setWhatsThis(cosa);
+        connect(voce, &QShortcut::activated, this, azione);
+    };
+    scorciatoia(u"Ctrl+F"_s, u"Cerca un documento"_s, [this] { vaiA(m_cerca); });
+    scorciatoia(u"Ctrl+R"_s, u"Riapre l'ultimo documento registrato"_s,
+                [this] { legami.esegui([this] { m_form.riapriUltimo(); }); });
+    altriTasti = {{u"Inizio, Fine"_s, u"Al primo documento, all'ultimo"_s}};
+}
+
 void VistaBorfte::attiva() {
     m_form.attiva();
     legami.aggiorna();
@@ -220,22 +258,34 @@ void VistaBorfte::aggiornaElenco() {
         return;
     const std::optional<int> prima = m_form.primaRigaVisibile();
     const int vista = m_elenco->verticalScrollBar()->value();
-    const int rigaCursore = m_elenco->currentIndex().row();
+    const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
-    // The operator's cursor goes where the list opens: to its first document, or to its last one. A sort
-    // leaves it, and what is seen, in place.
-    const int ultima = std::max(m_form.elenco().quante() - 1, 0);
-    int corrente = std::max(rigaCursore, 0);
-    if (prima)
-        corrente = m_form.visua() == Visua::DallUltima ? ultima : 0;
-    m_elenco->setCurrentIndex(m_modello->index(corrente, static_cast<int>(Colonna::DataRegistrazione)));
+    const QModelIndex cella = m_modello->index(corrente, static_cast<int>(Colonna::DataRegistrazione));
+    m_elenco->setCurrentIndex(cella);
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));
+    if (!prima)
+        m_elenco->scrollTo(cella);
+    else if (m_form.visua() == Visua::DallUltima)
+        mostraUltima();
 }
 
-void VistaBorfte::apri() {
-    const QModelIndex cella = m_elenco->currentIndex();
-    if (cella.isValid())
-        legami.esegui([&] { m_form.apri(cella.row(), static_cast<Colonna>(cella.column())); });
+/// A list that opens at its end shows its last row, however few rows there is room for.
+void VistaBorfte::mostraUltima() {
+    m_elenco->scrollTo(m_modello->index(std::max(m_form.elenco().quante() - 1, 0), 0));
+}
+
+void VistaBorfte::keyPressEvent(QKeyEvent* evento) {
+    const bool inCerca = m_cerca->hasFocus();
+    const bool esce = evento->key() == Qt::Key_Escape && evento->modifiers() == Qt::NoModifier;
+    if (inCerca && evento->key() == Qt::Key_Down) {
+        vaiA(m_elenco);
+    } else if (esce && (inCerca || !m_form.cercato().isEmpty())) {
+        m_cerca->clear();
+        legami.esegui([this] { m_form.cerca({}); });
+        vaiA(m_elenco);
+    } else {
+        Vista::keyPressEvent(evento);
+    }
 }
 
 } // namespace bor

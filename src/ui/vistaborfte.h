@@ -3,12 +3,14 @@
 
 #include "ui/vista.h"
 
+class QGroupBox;
 class QHBoxLayout;
 class QTableView;
 
 namespace bor {
 
 class Borfte;
+class CampoTesto;
 class ModelloGriglia;
 
 class VistaBorfte : public Vista {
@@ -19,17 +21,23 @@ public:
     void lascia() override;
     QString titolo() const override;
 
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
 private:
     QWidget* creaOpzioni();
+    QGroupBox* creaFiltro();
     QWidget* creaElenco();
     QWidget* creaComandi();
     void creaBottoni(QHBoxLayout* layout);
+    void creaScorciatoie();
     void aggiornaElenco();
-    void apri();
+    void mostraUltima();
 
     Borfte& m_form;
     ModelloGriglia* m_modello;
     QTableView* m_elenco = nullptr;
+    CampoTesto* m_cerca = nullptr;
     int m_edizione = -1;
 };
 

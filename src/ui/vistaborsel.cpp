@@ -74,17 +74,22 @@ QWidget* VistaBorsel::creaElenco() {
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Clienti"_s);
     m_elenco->setModel(m_modello);
-    preparaElenco(m_elenco, colonne);
+    preparaElenco(m_elenco, colonne, [this] { return m_form.quanti(); });
     connect(m_elenco, &QTableView::doubleClicked, this, [this] { scegli(); });
     invio.passo(m_elenco, [this] { scegli(); });
 
     std::vector<BarraIntestazioni::Comando> comandi;
     for (int i = 0; i < colonneCliente; ++i)
         comandi.push_back({i, u"Riordina"_s, QKeySequence(u"Ctrl+%1"_s.arg(i + 1))});
+    auto* nessuno = new QLabel(u"Nessun cliente"_s);
+    nessuno->setObjectName(u"nessuno"_s);
+    nessuno->setAlignment(Qt::AlignCenter);
+    legami.visibile(nessuno, [this] { return m_form.quanti() == 0; });
     auto* riquadro = new QWidget;
     auto* layout = new QVBoxLayout(riquadro);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    layout->addWidget(nessuno);
     layout->addWidget(new BarraIntestazioni(m_elenco, comandi, [this](int i) {
         legami.esegui([&] { m_form.ordina(static_cast<ColonnaCliente>(i)); });
     }));

@@ -58,6 +58,13 @@ protected:
                  registrazioni,
                  sospese,
                  {.stampa = {}, .anteprima = {}, .scegliPdf = {}, .fatturaPa = [] {}}};
+    bool stampato = true;
+    Borftea conStampa{
+        contesto.contesto,
+        documento,
+        registrazioni,
+        sospese,
+        {.stampa = [this] { return stampato; }, .anteprima = {}, .scegliPdf = {}, .fatturaPa = {}}};
 };
 
 TEST_F(DocumentForm, NuovoDocumento_NumeriDateECliente) {
@@ -270,6 +277,64 @@ TEST_F(DocumentForm, DopoIlSalvataggio) {
     form.esegui(Comando::Elimina);
     EXPECT_EQ(contesto.navigatore.mostrati, (QList{Schermo::Borftec, Schermo::Borfte, Schermo::Borfte}));
     EXPECT_EQ(contesto.archivio.fte.leggi(1).annullata, 1);
+}
+
+TEST_F(DocumentForm, UscireChiedeSoloSeQualcosaSiPerde) {
+    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    form.esegui(Comando::Righe);
+    form.attiva();
+    form.esegui(Comando::Esci);
+    EXPECT_TRUE(contesto.operatore.domande.isEmpty()) << "the lines were only looked at";
+    EXPECT_EQ(contesto.navigatore.mostrati.back(), Schermo::Borfte);
+
+    const auto chiede = [this](const std::function<void()>& modifica) {
+        contesto.operatore.domande.clear();
+        contesto.operatore.rispostaSolita = false;
+        riapri();
+        modifica();
+        contesto.navigatore.mostrati.clear();
+        form.esegui(Comando::Esci);
+        EXPECT_EQ(contesto.operatore.domande.value(0).predefinita, Predefinita::No);
+        EXPECT_EQ(contesto.operatore.domande.value(0).testo,
+                  u"Le modifiche non registrate andranno perse. Uscire comunque?"_s);
+        return contesto.operatore.domande.size() == 1 && contesto.navigatore.mostrati.isEmpty() &&
+               sessione.documentoletto;
+    };
+    EXPECT_TRUE(chiede([this] { form.cambia(u"8"_s, &Estremi::numero); }));
+    EXPECT_TRUE(chiede([this] { form.cambiaImporto(0, VoceIva::Esente, u"1"_s); }));
+    EXPECT_TRUE(chiede([this] { form.cambia(u"5"_s, &Prospetti::ritenute, 0, &Ritenuta::raimp); }));
+    EXPECT_TRUE(chiede([this] { documento.ddd[3].descrizione = u"confirmed in the lines"_s; }));
+    EXPECT_TRUE(chiede([this] { documento.testata.cliente.banca = u"typed in the head"_s; }));
+    contesto.operatore.rispostaSolita = true;
+    form.esegui(Comando::Esci);
+    EXPECT_EQ(contesto.navigatore.mostrati.back(), Schermo::Borfte);
+}
+
+TEST_F(DocumentForm, CioCheEStampatoMaNonRegistratoSiDice) {
+    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    sessione.documentoletto = sessione.righelette = false;
+    conStampa.attiva();
+    conStampa.esegui(Comando::Stampa);
+    EXPECT_TRUE(testi().isEmpty());
+    conStampa.cambia(u"8"_s, &Estremi::protocollo);
+    conStampa.esegui(Comando::Stampa);
+    EXPECT_EQ(testi().size(), 1);
+    stampato = false;
+    conStampa.esegui(Comando::Stampa);
+    EXPECT_EQ(testi().size(), 1) << "nothing was printed";
+}
+
+TEST_F(DocumentForm, LEliminazioneDiceQualeDocumentoEdHaNo) {
+    contesto.operatore.rispostaSolita = false;
+    esistente(documentoDi(cliente, u"7"_s, 1000, 220));
+    documento.testata.cliente.sede.citta = u"Lodi"_s;
+    documento.prospetti.ritenute[0].raimp = u"200"_s;
+    form.esegui(Comando::Elimina);
+    ASSERT_EQ(contesto.operatore.domande.size(), 1);
+    const Messaggio& domanda = contesto.operatore.domande[0];
+    EXPECT_EQ(domanda.testo, u"Fattura 7 del 15/03/2015 - Rossi, Lodi - netto a pagare 1.020,00\n\n"
+                             "Sei proprio sicuro?"_s);
+    EXPECT_EQ(domanda.predefinita, Predefinita::No);
 }
 
 } // namespace

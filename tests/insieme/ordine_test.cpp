@@ -165,7 +165,7 @@ private:
     QByteArray stampa(const Documento& d) {
         prova.operatore.risposte = {true};
         StampanteFinta stampante;
-        EXPECT_TRUE(stampaDocumento(d, prova.contesto, stampante));
+        EXPECT_EQ(stampaDocumento(d, prova.contesto, stampante), EsitoStampa::ConRapporto);
         QFile rapporto(azienda.percorsi().reale(u"c:\\bordoc.rto").value());
         return rapporto.open(QIODevice::ReadOnly) ? rapporto.readAll() : QByteArray();
     }

@@ -83,5 +83,28 @@ TEST_F(PdfTest, UnPdfSceltoAManoPerdeLUnita) {
     EXPECT_EQ(documento.estremi.pdf, u"\\c\\y.pdf"_s);
 }
 
+TEST_F(PdfTest, IlPdfDiUnAltroDocumentoELaPostaSiDicono) {
+    CoppiaFte vecchia = documentoDi(1, u"12"_s, 1, 0);
+    vecchia.fte.datadoc.set(u"20140102");
+    vecchia.f2e.pdf.set(u"\\suprok\\PDF\\ftr12.pdf");
+    documento.recordfattura = azienda.documento(vecchia);
+    documento.estremi.postael = true;
+    generapdf(documento, prova.contesto);
+    EXPECT_EQ(prova.operatore.domande.size(), 1) << "its own PDF";
+    ASSERT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_TRUE(prova.operatore.messaggi[0].testo.endsWith(u": conti@rossi.example"_s));
+
+    documento.recordfattura = 2;
+    documento.estremi.pdf.clear();
+    prova.operatore.risposte = {true, false};
+    generapdf(documento, prova.contesto);
+    EXPECT_TRUE(prova.operatore.domande.back().testo.contains(u"n. 12 del 02/01/2014"_s));
+    EXPECT_EQ(prova.operatore.domande.back().predefinita, Predefinita::No);
+    EXPECT_EQ(prova.sistema.avviati.size(), 1);
+    EXPECT_EQ(documento.estremi.pdf, QString());
+    generapdf(documento, prova.contesto);
+    EXPECT_EQ(prova.sistema.avviati.size(), 2);
+}
+
 } // namespace
 } // namespace bor

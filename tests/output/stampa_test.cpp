@@ -6,6 +6,7 @@
 #include "support/azienda.h"
 #include "support/stampante_finta.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -62,16 +63,19 @@ protected:
             record.append(linee.mid(i, 11).join(u'|'));
         return record;
     }
-    /// Only the texts of the report file.
+    /// Only the texts of the report file; items and cells without one leave them to `rapporto`.
     QStringList testi() const {
         QStringList t;
         for (const QString& record : rapporto()) {
             if (record.startsWith(u" 3 |"_s))
                 t.append(record.split(u'|')[7]);
         }
+        t.removeAll(QString());
         return t;
     }
-    bool stampa() { return stampaDocumento(documento, prova.contesto, stampante); }
+    bool stampa() {
+        return stampaDocumento(documento, prova.contesto, stampante) == EsitoStampa::ConRapporto;
+    }
 
     AziendaDiProva azienda;
     ContestoDiProva prova{azienda};
@@ -94,17 +98,23 @@ TEST_F(StampaTest, IlRapportoDiUnaFatturaRigaPerRiga) {
                                      " Fattura numero\r\nArial\r\n3,20,35,0,0,0,1,1,0\r\n");
     ASSERT_TRUE(stampa());
     EXPECT_EQ(prova.operatore.domande.back().testo, u"Iniziare la stampa?"_s);
-    EXPECT_EQ(rapporto(),
-              QStringList({u" 0 | 10 | 10 | 50 | 30 | 0 | 0 |logo.png|| 0 | 0 "_s,
-                           u" 2 | 1 | 5 | 210 | 100 | 0 | 255 ||| 1 | 0 "_s,
-                           u" 3 | 20 | 35 | 0 | 0 | 1 | 0 | Fattura numero|Arial| 1 | 0 "_s,
-                           u" 3 | 120 | 30 | 0 | 0 | 9 | 0 |Società Però|Arial| 0 | 0 "_s,
-                           u" 3 | 20 | 40 | 0 | 0 | 9 | 0 |12|Arial| 0 | 0 "_s,
-                           u" 3 | 188 | 250 | 0 | 0 | 9 | 0 |312,93|Arial| 0 | 0 "_s,
-                           u" 3 | 20 | 20 | 0 | 0 | 9 | 0 |FATTURA|Arial| 0 | 0 "_s,
-                           u" 3 | 30 | 100 | 0 | 0 | 9 | 0 |Vite|Arial| 0 | 0 "_s,
-                           // Both discounts on the gross amount: 300 less 30 less 15.
-                           u" 3 | 138 | 100 | 0 | 0 | 9 | 0 |255,00|Arial| 0 | 0 "_s, u" 9 ||||||||||"_s}));
+    // The body has room for twenty lines; those without text have their records too.
+    QStringList attesi({u" 0 | 10 | 10 | 50 | 30 | 0 | 0 |logo.png|| 0 | 0 "_s,
+                        u" 2 | 1 | 5 | 210 | 100 | 0 | 255 ||| 1 | 0 "_s,
+                        u" 3 | 20 | 35 | 0 | 0 | 1 | 0 | Fattura numero|Arial| 1 | 0 "_s,
+                        u" 3 | 120 | 30 | 0 | 0 | 9 | 0 |Società Però|Arial| 0 | 0 "_s,
+                        u" 3 | 20 | 40 | 0 | 0 | 9 | 0 |12|Arial| 0 | 0 "_s,
+                        u" 3 | 188 | 250 | 0 | 0 | 9 | 0 |312,93|Arial| 0 | 0 "_s,
+                        u" 3 | 20 | 20 | 0 | 0 | 9 | 0 |FATTURA|Arial| 0 | 0 "_s,
+                        u" 3 | 30 | 100 | 0 | 0 | 9 | 0 |Vite|Arial| 0 | 0 "_s,
+                        // Both discounts on the gross amount: 300 less 30 less 15.
+                        u" 3 | 138 | 100 | 0 | 0 | 9 | 0 |255,00|Arial| 0 | 0 "_s});
+    for (int r = 1; r < 20; ++r) {
+        for (const int x : {30, 150})
+            attesi.append(u" 3 | %1 | %2 | 0 | 0 | 9 | 0 ||Arial| 0 | 0 "_s.arg(x).arg(100 + 4 * r));
+    }
+    attesi.append(u" 9 ||||||||||"_s);
+    EXPECT_EQ(rapporto(), attesi);
     EXPECT_EQ(stampante.pagine, 1);
     EXPECT_TRUE(stampante.terminata);
     EXPECT_TRUE(stampante.immagini[0].endsWith(u"/logo.png"_s));
@@ -191,6 +201,46 @@ TEST_F(StampaTest, LayoutEModelliRovinatiDannoPagineVuote) {
     EXPECT_TRUE(caricamodello(prova.archivio, CodiceModello::Fattura).empty());
     EXPECT_TRUE(stampa()) << "nothing has a place, and the page is blank";
     EXPECT_EQ(rapporto().size(), 1);
+}
+
+TEST_F(StampaTest, VociVuoteBordoAZeroEModelliMonchiStannoNelRapporto) {
+    azienda.scrivi(
+        u"borlano.lyf"_s,
+        layout({{17, "010010"}, {85, "000000"}, {86, "004000"}, {87, "040000"}, {88, "030000"}}, "000001"));
+    azienda.scrivi(u"borlano.lkf"_s, "2\r\nDitta\r\nArial\r\n3,20,35,0,0,255\r\nmezzo");
+    documento.ddd[0].codice = u"12345678901234567890"_s;
+    documento.ddd[0].descrizione = QString(70, u'x');
+    ASSERT_TRUE(stampa());
+    EXPECT_EQ(rapporto(),
+              QStringList({u" 3 | 20 | 35 | 0 | 0 | 0 | 255 |Ditta|Arial| 0 | 0 "_s,
+                           u" 3 | 10 | 10 | 0 | 0 | 9 | 0 ||Arial| 0 | 0 "_s,
+                           u" 3 | 40 | 0 | 0 | 0 | 9 | 0 |123456789012345|Arial| 0 | 0 "_s,
+                           u" 3 | 30 | 0 | 0 | 0 | 9 | 0 |%1|Arial| 0 | 0 "_s.arg(QString(60, u'x')),
+                           u" 9 ||||||||||"_s}));
+    EXPECT_EQ(stampante.testi.size(), 3) << "a text without characters is nothing on paper";
+}
+
+TEST_F(StampaTest, CioCheNonEUscitoSiDiceConIlRimedio) {
+    const auto detto = [this] { return prova.operatore.messaggi.value(0).testo; };
+    azienda.scrivi(u"borlano.lyf"_s, layout({{33, "020040"}, {85, "100000"}, {86, "180000"}}));
+    stampante.presente = false;
+    EXPECT_TRUE(stampa());
+    EXPECT_TRUE(detto().startsWith(u"Nessuna stampante"_s));
+    prova.operatore.messaggi.clear();
+    EXPECT_TRUE(preparaRapporto(documento, prova.contesto, stampante)) << "a preview needs no printer";
+    EXPECT_TRUE(prova.operatore.messaggi.isEmpty());
+    documento.ddd[0] = {};
+    EXPECT_EQ(stampaDocumento(documento, prova.contesto, stampante), EsitoStampa::Niente);
+    EXPECT_TRUE(detto().startsWith(u"Il documento non ha righe"_s));
+    documento.ddd[0].descrizione = u"Vite"_s;
+    documento.coppia.fte.parcella = 0;
+    const QString file = azienda.percorsi().reale(u"c:\\bordoc.rto").value();
+    QFile::remove(file);
+    ASSERT_TRUE(QDir().mkdir(file)) << "a folder stands where the report file goes";
+    prova.operatore.messaggi.clear();
+    stampante.presente = true;
+    EXPECT_EQ(stampaDocumento(documento, prova.contesto, stampante), EsitoStampa::SoloCarta);
+    EXPECT_TRUE(detto().contains(u"ripetete la stampa"_s) && !detto().contains(u"registrazione"_s));
 }
 
 } // namespace

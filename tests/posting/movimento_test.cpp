@@ -228,5 +228,18 @@ TEST_F(MovimentoTest, UnMovimentoSostituitoTornaDalSuoLatoUnoEliminatoDaQuelloOp
     EXPECT_EQ(saldi(n), QList<double>({-60, -60})) << "a garbled amount moves nothing";
 }
 
+TEST_F(MovimentoTest, ContiMaiScrittiSonoVuoti) {
+    documento.cliente = vuoto<Cli>();
+    documento.cliente.sede.ragione1.bytes[0] = 'R';
+    documento.cliente.contoiva.bytes = {'\0', '\0', '0', '5', '0', '0', '0', '1'};
+    documento.coppia.fte.parcella = 1;
+    const Movimento m = setpar(documento, prova.contesto);
+    EXPECT_EQ(m.righe[0].conto.unito(), QString());
+    EXPECT_TRUE(m.descrizione.contains(u" a R prot."_s)) << qPrintable(m.descrizione);
+    const DatiCliente d = DatiCliente::da(documento.cliente);
+    EXPECT_EQ(d.contoiva.mastro + u'|' + d.contoiva.conto, u"|05"_s);
+    EXPECT_EQ(d.banca + d.coordinate, QString());
+}
+
 } // namespace
 } // namespace bor

@@ -212,5 +212,42 @@ TEST_F(RegistroTest, IColoriSonoQuelliDelleImpostazioni) {
     EXPECT_EQ(form().colore(0, Colonna::DataDocumento), std::nullopt);
 }
 
+TEST_F(RegistroTest, SiCercaPerNumeroAnnoClienteImportoEData) {
+    const int perche = azienda.cliente(QStringLiteral("Caffè Perché & C."));
+    const int rossi = azienda.cliente(QStringLiteral("ROSSI 12 Srl"));
+    azienda.documento(documentoDi(perche, QStringLiteral("12"), 1000, 250.5));
+    CoppiaFte vecchia = documentoDi(perche, QStringLiteral("12/a"), 100, 22);
+    vecchia.fte.datadoc.set(u"20140201");
+    vecchia.fte.tipo = 1;
+    azienda.documento(vecchia);
+    azienda.documento(documentoDi(rossi, QStringLiteral("7"), 1.25, 0));
+    CoppiaFte eliminata = documentoDi(rossi, QStringLiteral("8"), 0, 0);
+    eliminata.fte.annullata = 1;
+    azienda.documento(eliminata);
+    apri();
+    const auto trovati = [this](const QString& testo) {
+        form().cerca(testo);
+        return colonna(form(), Colonna::Registrazione).join(u' ');
+    };
+    EXPECT_EQ(trovati(QStringLiteral("12")), QStringLiteral("1 2 3")) << "numbers and part of a name";
+    EXPECT_EQ(trovati(QStringLiteral("12/2015")), QStringLiteral("1"));
+    EXPECT_EQ(trovati(QStringLiteral("12/A")), QStringLiteral("2"));
+    EXPECT_EQ(trovati(QStringLiteral("perche")), QStringLiteral("1 2"));
+    EXPECT_EQ(trovati(QStringLiteral(" CAFFÈ ")), QStringLiteral("1 2"));
+    EXPECT_EQ(trovati(QStringLiteral("1.250")), QStringLiteral("1"));
+    EXPECT_EQ(trovati(QStringLiteral("€ 1.250,50")), QStringLiteral("1"));
+    EXPECT_EQ(trovati(QStringLiteral("1250,4")), QString());
+    EXPECT_EQ(trovati(QStringLiteral("1.25")), QStringLiteral("3"));
+    EXPECT_EQ(trovati(QStringLiteral("-122")), QStringLiteral("2"));
+    EXPECT_EQ(trovati(QStringLiteral("1/2/14")), QStringLiteral("2"));
+    EXPECT_EQ(trovati(QStringLiteral("15/03")), QStringLiteral("1 2 3 4")) << "either date";
+    EXPECT_EQ(trovati(QStringLiteral("150315")), QStringLiteral("1 2 3 4"));
+    EXPECT_EQ(trovati(QStringLiteral("eliminata")), QStringLiteral("4"));
+    form().ordina(Colonna::Cliente);
+    EXPECT_EQ(form().elenco().quante(), 1) << "a sort keeps what is searched";
+    EXPECT_EQ(trovati(QStringLiteral("9999999999999999999999")), QString());
+    EXPECT_EQ(trovati(QString()).size(), 7);
+}
+
 } // namespace
 } // namespace bor

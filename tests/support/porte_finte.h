@@ -18,6 +18,7 @@ struct Messaggio {
     QString testo;
     QString titolo;
     Icona icona = Icona::Nessuna;
+    Predefinita predefinita = Predefinita::Si; ///< of a question
 };
 
 class OperatoreFinto : public Operatore {
@@ -34,8 +35,8 @@ public:
     void messaggio(const QString& testo, const QString& titolo, Icona icona) override {
         messaggi.append({testo, titolo, icona});
     }
-    bool chiedi(const QString& testo, const QString& titolo, Icona icona) override {
-        domande.append({testo, titolo, icona});
+    bool chiedi(const QString& testo, const QString& titolo, Icona icona, Predefinita predefinita) override {
+        domande.append({testo, titolo, icona, predefinita});
         if (const auto intanto = std::exchange(suDomanda, nullptr))
             intanto();
         return risposte.isEmpty() ? rispostaSolita : risposte.takeFirst();

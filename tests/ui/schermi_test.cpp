@@ -4,6 +4,7 @@
 #include "common/avvio.h"
 #include "support/azienda.h"
 #include "support/stampante_finta.h"
+#include "ui/adattatori.h"
 #include "ui/campi.h"
 #include "ui/finestra.h"
 #include "ui/gesti.h"
@@ -16,6 +17,7 @@
 #include <QRegularExpression>
 #include <QShortcut>
 #include <QTableWidget>
+#include <QTimer>
 
 #include <array>
 #include <map>
@@ -235,6 +237,29 @@ TEST_F(Schermi, AncheQtParlaItaliano) {
     for (const QString& testo : testi)
         EXPECT_FALSE(QString(testo).remove(u'&').contains(inglese)) << qPrintable(testo);
     EXPECT_EQ(QLocale().language(), QLocale::Italian);
+}
+
+TEST_F(Schermi, InCimaSiLeggeDiChiEIlDocumento) {
+    modulo->documento().estremi.numero = u"12"_s;
+    modulo->documento().testata.cliente.sede = {.ragione1 = u"Alfa & <b>C."_s, .citta = u"Lodi"_s};
+    for (const Schermo schermo :
+         {Schermo::Borftea, Schermo::Borftex, Schermo::Borftek, Schermo::Borftec, Schermo::Borftepa}) {
+        Vista& vista = mostra(schermo);
+        auto* riga = controllo<QLabel>(vista, u"intestazione"_s);
+        EXPECT_TRUE(riga->isVisibleTo(&vista));
+        EXPECT_TRUE(riga->text().startsWith(u"Fattura 12 del "_s)) << qPrintable(riga->text());
+        EXPECT_TRUE(riga->text().endsWith(u" - Alfa & <b>C., Lodi - netto a pagare 0"_s));
+    }
+}
+
+TEST_F(Schermi, UnaDomandaCheDistruggeHaNoSullInvio) {
+    OperatoreQt vero;
+    const auto conInvio = [&vero](Predefinita predefinita) {
+        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+        return vero.chiedi(u"Sei proprio sicuro?"_s, u"Eliminazione"_s, Icona::Domanda, predefinita);
+    };
+    EXPECT_FALSE(conInvio(Predefinita::No));
+    EXPECT_TRUE(conInvio(Predefinita::Si));
 }
 
 } // namespace

@@ -48,6 +48,7 @@ TEST_F(VistaRegistroTest, DallaTastieraSiSceglieSiOrdinaESiApre) {
     tasto(*vista, Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(cella(0, 4), QStringLiteral("Bianchi Édith & Figli"));
     EXPECT_EQ(cella(0, 0), QStringLiteral("2"));
+    tasto(*vista, Qt::Key_Home);
     tasto(*vista, Qt::Key_Down);
     tasto(*vista, Qt::Key_Return);
     EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
@@ -79,6 +80,78 @@ TEST_F(VistaRegistroTest, IlRiordinoCambiaIBottoni) {
     EXPECT_EQ(prova->operatore.domande.size(), 1);
     tasto(*vista, Qt::Key_Escape);
     EXPECT_TRUE(prova->navigatore.terminato);
+}
+
+TEST_F(VistaRegistroTest, LaRigaSceltaRestaLoStessoDocumento) {
+    tasto(*vista, Qt::Key_Down);
+    tasto(*vista, Qt::Key_Down);
+    const auto scelto = [this] { return cella(griglia->currentIndex().row(), 0); };
+    EXPECT_EQ(scelto(), QStringLiteral("3"));
+    tasto(*vista, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(scelto(), QStringLiteral("3"));
+    EXPECT_EQ(griglia->currentIndex().row(), 16);
+    tasto(*vista, Qt::Key_F5);
+    EXPECT_EQ(scelto(), QStringLiteral("3"));
+    EXPECT_EQ(griglia->currentIndex().row(), 2);
+
+    // A document added meanwhile, then the way back from one that was opened and saved.
+    azienda.documento(documentoDi(1, QStringLiteral("31"), 1, 0));
+    documento.recordfattura = 31;
+    prova->sessione.listadaaggiornare = true;
+    vista->attiva();
+    EXPECT_EQ(scelto(), QStringLiteral("31"));
+    EXPECT_TRUE(griglia->viewport()->rect().contains(griglia->visualRect(griglia->currentIndex())));
+}
+
+TEST_F(VistaRegistroTest, InvioApreIlDocumentoEInizioEFineVannoAgliEstremi) {
+    vista->resize(900, 320);
+    QApplication::processEvents();
+    tasto(*vista, Qt::Key_End);
+    EXPECT_EQ(griglia->currentIndex().row(), 29);
+    EXPECT_TRUE(griglia->viewport()->rect().contains(griglia->visualRect(griglia->currentIndex())));
+    griglia->setCurrentIndex(griglia->model()->index(29, static_cast<int>(Colonna::Pdf)));
+    ASSERT_EQ(griglia->currentIndex().data().toString(), QStringLiteral("PDF"));
+    tasto(*vista, Qt::Key_Return);
+    EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
+    EXPECT_TRUE(prova->sistema.aperti.isEmpty());
+    const QPoint qui = griglia->visualRect(griglia->currentIndex()).center();
+    QTest::mouseClick(griglia->viewport(), Qt::LeftButton, {}, qui);
+    QTest::mouseDClick(griglia->viewport(), Qt::LeftButton, {}, qui);
+    EXPECT_EQ(prova->sistema.aperti.size(), 1)
+        << prova->operatore.messaggi.size() << qPrintable(griglia->indexAt(qui).data().toString());
+    tasto(*vista, Qt::Key_Home);
+    EXPECT_EQ(griglia->currentIndex().row(), 0);
+    clic(*vista, QStringLiteral("visua(1)"));
+    EXPECT_TRUE(griglia->viewport()->rect().contains(griglia->visualRect(griglia->model()->index(29, 0))));
+}
+
+TEST_F(VistaRegistroTest, SiCercaScrivendoEdEscRimetteTutto) {
+    tasto(*vista, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(fuoco(*vista), QStringLiteral("cerca"));
+    scrivi(*vista, QStringLiteral("edith"));
+    EXPECT_EQ(cella(0, 0), QStringLiteral("2"));
+    EXPECT_EQ(cella(15, 0), QString());
+    foto(*vista, QStringLiteral("registro_cerca"));
+    tasto(*vista, Qt::Key_Down);
+    tasto(*vista, Qt::Key_End);
+    EXPECT_EQ(griglia->currentIndex().row(), 14) << "the blank rows below are no documents";
+    tasto(*vista, Qt::Key_Return);
+    EXPECT_EQ(documento.recordfattura, 30);
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_EQ(cella(0, 0), QStringLiteral("1"));
+    EXPECT_EQ(cella(griglia->currentIndex().row(), 0), QStringLiteral("30"));
+    EXPECT_FALSE(prova->navigatore.terminato);
+}
+
+TEST_F(VistaRegistroTest, CtrlRRiapreLUltimoRegistrato) {
+    tasto(*vista, Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(prova->operatore.messaggi.size(), 1);
+    EXPECT_TRUE(prova->navigatore.mostrati.isEmpty());
+    prova->sessione.ultimosalvato = 17;
+    tasto(*vista, Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(documento.recordfattura, 17);
+    vista->attiva();
+    EXPECT_EQ(cella(griglia->currentIndex().row(), 0), QStringLiteral("17"));
 }
 
 } // namespace

@@ -58,7 +58,7 @@ protected:
                  documento,
                  registrazioni,
                  sospese,
-                 {.stampa = [] {}, .anteprima = [] {}, .scegliPdf = [] {}, .fatturaPa = [] {}}};
+                 {.stampa = [] { return true; }, .anteprima = [] {}, .scegliPdf = [] {}, .fatturaPa = [] {}}};
     VistaBorftea vista{form};
 };
 

@@ -166,6 +166,12 @@ TEST_F(VistaTestata, ListaDeiClienti) {
     tasto(lista, Qt::Key_4, Qt::ControlModifier);
     EXPECT_EQ(griglia->model()->index(0, 0).data().toString(), u"Bianchi Édith & Figli");
     controllo(lista, u"selnome"_s)->setFocus();
+    EXPECT_FALSE(controllo(lista, u"nessuno"_s)->isVisible());
+    scrivi(lista, u"nobody"_s);
+    tasto(lista, Qt::Key_Return);
+    EXPECT_TRUE(controllo(lista, u"nessuno"_s)->isVisible()) << "an empty list says so";
+    controllo(lista, u"selnome"_s)->setFocus();
+    controllo<QLineEdit>(lista, u"selnome"_s)->selectAll();
     scrivi(lista, u"forniture"_s);
     tasto(lista, Qt::Key_Return);
     EXPECT_EQ(griglia->model()->index(1, 0).data().toString(), u"");

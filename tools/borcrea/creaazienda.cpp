@@ -25,7 +25,7 @@ public:
     QStringList messaggi;
 
     void messaggio(const QString& testo, const QString&, Icona) override { messaggi.append(testo); }
-    bool chiedi(const QString&, const QString&, Icona) override { return false; }
+    bool chiedi(const QString&, const QString&, Icona, Predefinita) override { return false; }
     void attesa(bool) override {}
     void lasciaEventi() override {}
     QString scegliFile(const QString&, const QString&) override { return {}; }

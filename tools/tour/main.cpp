@@ -26,7 +26,7 @@ public:
     void messaggio(const QString& testo, const QString&, bor::Icona) override {
         std::fprintf(stderr, "tour: %s\n", qPrintable(testo));
     }
-    bool chiedi(const QString&, const QString&, bor::Icona) override { return true; }
+    bool chiedi(const QString&, const QString&, bor::Icona, bor::Predefinita) override { return true; }
 };
 
 /// Other programs are started by the tour alone, where it waits for them.
