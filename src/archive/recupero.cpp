@@ -5,7 +5,8 @@
 
 #include <QFileInfo>
 
-#include <cstring>
+#include <optional>
+#include <utility>
 
 namespace bor {
 
@@ -25,6 +26,39 @@ bool mescolanza(const QByteArray& bytes, const VoceDiario& voce) {
 
 std::span<std::byte> come(QByteArray& bytes) {
     return std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
+}
+
+/// Every record of the log holds the bytes after its burst; nothing when one could not be read.
+std::optional<bool> compiuto(Archivio& archivio, const Diario& diario) {
+    for (const VoceDiario& voce : diario.voci) {
+        QByteArray attuale(voce.dopo.size(), '\0');
+        if (archivio.fileDiRecord(voce.file).leggiBytes(qint64{voce.record - 1} * attuale.size(),
+                                                        come(attuale)) < 0)
+            return std::nullopt;
+        if (attuale != voce.dopo)
+            return false;
+    }
+    return true;
+}
+
+/// What this program told its operator had failed, another one may have completed since. As long as nobody
+/// has built on it, it is taken back, so that the repeat counts nothing twice.
+EsitoRaffica disfa(FileDiario& file, Archivio& archivio) {
+    auto fallito = decodifica(archivio.daAnnullare());
+    const auto fatto = fallito ? compiuto(archivio, *fallito) : false;
+    if (!fatto)
+        return EsitoRaffica::NonLetta;
+    if (*fatto) {
+        for (VoceDiario& voce : fallito->voci)
+            std::swap(voce.prima, voce.dopo);
+        QStringList lasciati;
+        if (!file.scrivi(*fallito))
+            return EsitoRaffica::NonScritta;
+        if (const EsitoRaffica esito = file.completa(*fallito, lasciati); esito != EsitoRaffica::Riuscita)
+            return esito;
+    }
+    archivio.tieniDaAnnullare({});
+    return EsitoRaffica::Riuscita;
 }
 
 } // namespace
@@ -71,7 +105,7 @@ EsitoRaffica FileDiario::recupera() {
         return EsitoRaffica::NonLetta;
     const auto diario = decodifica(bytes);
     if (!diario)
-        return EsitoRaffica::Riuscita;
+        return disfa(*this, m_archivio);
     const QByteArray& nostro = m_archivio.daAnnullare();
     if (!nostro.isEmpty() && bytes.startsWith(nostro))
         return annulla(*diario);
@@ -80,7 +114,7 @@ EsitoRaffica FileDiario::recupera() {
     const EsitoRaffica esito = completa(*diario, recupero.lasciati);
     if (esito == EsitoRaffica::Riuscita && !finito)
         m_archivio.annota(recupero);
-    return esito;
+    return esito == EsitoRaffica::Riuscita ? disfa(*this, m_archivio) : esito;
 }
 
 EsitoRaffica FileDiario::porta(const Diario& diario, Verso verso, QStringList& lasciati) {

@@ -104,6 +104,22 @@ TEST_F(RafficaTest, UnaScritturaFallitaRimetteTuttoELaRipetizioneParteDaCapo) {
     }
 }
 
+TEST_F(RafficaTest, CioCheUnAltroHaCompletatoNonSiRipeteDueVolte) {
+    for (const bool toccato : {false, true}) {
+        disco.ripara();
+        disco.guasto = 4; // the log is on disk; nothing more can be written, the operator is told so
+        disco.perSempre = true;
+        ASSERT_EQ(registra(prova.archivio), EsitoRaffica::NonScritta);
+        disco.ripara();
+        ContestoDiProva altro(azienda);
+        ASSERT_EQ(recupera(altro.archivio), EsitoRaffica::Riuscita);
+        if (toccato)
+            altro.archivio.con.scrivi(2, contoDi(500));
+        EXPECT_EQ(registra(prova.archivio), EsitoRaffica::Riuscita);
+        EXPECT_EQ(stato(), toccato ? QList<double>({160, 510, 3}) : dopo);
+    }
+}
+
 TEST_F(RafficaTest, UnaRafficaInterrottaSiCompletaELOperatoreSaQuale) {
     disco.caduta = 4; // the log is on disk, and of the records the accounts
     registra(prova.archivio);
