@@ -11,10 +11,6 @@ std::size_t chiave(std::size_t file, int n) {
     return file << 16 | static_cast<std::size_t>(n);
 }
 
-std::span<std::byte> come(QByteArray& bytes) {
-    return std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
-}
-
 } // namespace
 
 Raffica::Raffica(Archivio& archivio, const QString& documento)
@@ -56,7 +52,7 @@ void Raffica::prevedi(FileCasuale& file, int n, QByteArrayView bytes) {
         return;
     }
     QByteArray prima(bytes.size(), '\0');
-    if (file.leggiBytes(qint64{n - 1} * bytes.size(), come(prima)) < 0)
+    if (file.leggiBytes(qint64{n - 1} * bytes.size(), std::as_writable_bytes(std::span(prima))) < 0)
         fallisci(EsitoRaffica::NonLetta);
     m_diario.voci.push_back({quale, n, std::move(prima), bytes.toByteArray()});
 }
@@ -100,7 +96,8 @@ bool Raffica::scriviTutto() {
             scritte[voce->second] = true;
         }
         if (!m_archivio.fileDiRecord(prima.file)
-                 .scriviBytes(qint64{prima.record - 1} * prima.dopo.size(), come(insieme)))
+                 .scriviBytes(qint64{prima.record - 1} * prima.dopo.size(),
+                              std::as_bytes(std::span(insieme))))
             return false;
         toccati[prima.file] = true;
     }

@@ -24,18 +24,26 @@ bool mescolanza(const QByteArray& bytes, const VoceDiario& voce) {
     return true;
 }
 
-std::span<std::byte> come(QByteArray& bytes) {
-    return std::as_writable_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
+qint64 posto(const VoceDiario& voce) {
+    return qint64{voce.record - 1} * voce.prima.size();
+}
+
+/// The record as it is by now; nothing when it could not be read.
+std::optional<QByteArray> attuale(Archivio& archivio, const VoceDiario& voce) {
+    QByteArray bytes(voce.prima.size(), '\0');
+    if (archivio.fileDiRecord(voce.file).leggiBytes(posto(voce), std::as_writable_bytes(std::span(bytes))) <
+        0)
+        return std::nullopt;
+    return bytes;
 }
 
 /// Every record of the log holds the bytes after its burst; nothing when one could not be read.
 std::optional<bool> compiuto(Archivio& archivio, const Diario& diario) {
     for (const VoceDiario& voce : diario.voci) {
-        QByteArray attuale(voce.dopo.size(), '\0');
-        if (archivio.fileDiRecord(voce.file).leggiBytes(qint64{voce.record - 1} * attuale.size(),
-                                                        come(attuale)) < 0)
+        const auto bytes = attuale(archivio, voce);
+        if (!bytes)
             return std::nullopt;
-        if (attuale != voce.dopo)
+        if (*bytes != voce.dopo)
             return false;
     }
     return true;
@@ -72,7 +80,7 @@ bool FileDiario::apri() {
 bool FileDiario::scrivi(const Diario& diario) {
     QByteArray bytes = codifica(diario);
     const bool nuovo = m_file.lunghezza() == 0;
-    if (!m_file.scriviBytes(0, come(bytes)) || !m_file.scarica())
+    if (!m_file.scriviBytes(0, std::as_bytes(std::span(bytes))) || !m_file.scarica())
         return false;
     if (nuovo)
         m_archivio.disco().scaricaCartella(QFileInfo(m_file.percorso()).path());
@@ -101,7 +109,7 @@ EsitoRaffica FileDiario::annulla(const Diario& diario) {
 EsitoRaffica FileDiario::recupera() {
     const qint64 lunghezza = std::min(m_file.lunghezza(), massimoDiario);
     QByteArray bytes(static_cast<qsizetype>(lunghezza), '\0');
-    if (m_file.leggiBytes(0, come(bytes)) < 0)
+    if (m_file.leggiBytes(0, std::as_writable_bytes(std::span(bytes))) < 0)
         return EsitoRaffica::NonLetta;
     const auto diario = decodifica(bytes);
     if (!diario)
@@ -135,11 +143,10 @@ EsitoRaffica FileDiario::porta(const Diario& diario, Verso verso, QStringList& l
 
 EsitoRaffica FileDiario::portaVoce(const VoceDiario& voce, Verso verso, QStringList& lasciati) {
     FileCasuale& file = m_archivio.fileDiRecord(voce.file);
-    const qint64 posto = qint64{voce.record - 1} * voce.prima.size();
-    QByteArray attuale(voce.prima.size(), '\0');
-    if (file.leggiBytes(posto, come(attuale)) < 0)
+    const auto bytes = attuale(m_archivio, voce);
+    if (!bytes)
         return EsitoRaffica::NonLetta;
-    if (!mescolanza(attuale, voce)) {
+    if (!mescolanza(*bytes, voce)) {
         lasciati.append(
             QStringLiteral("borlano.%1 n. %2").arg(fileDiRaffica[voce.file].estensione).arg(voce.record));
         return EsitoRaffica::Riuscita;
@@ -148,8 +155,9 @@ EsitoRaffica FileDiario::portaVoce(const VoceDiario& voce, Verso verso, QStringL
     QByteArray meta = verso == Verso::Dopo ? voce.dopo : voce.prima;
     // Putting back needs no room: a file never grows by it.
     if (verso == Verso::Prima)
-        meta.truncate(std::clamp<qint64>(file.lunghezza() - posto, 0, meta.size()));
-    return file.scriviBytes(posto, come(meta)) ? EsitoRaffica::Riuscita : EsitoRaffica::NonScritta;
+        meta.truncate(std::clamp<qint64>(file.lunghezza() - posto(voce), 0, meta.size()));
+    return file.scriviBytes(posto(voce), std::as_bytes(std::span(meta))) ? EsitoRaffica::Riuscita
+                                                                         : EsitoRaffica::NonScritta;
 }
 
 EsitoRaffica recupera(Archivio& archivio) {

@@ -157,6 +157,9 @@ double valorevirgola(QStringView testo) {
 }
 
 QString testoDecimale(double x) {
+    // Most numbers of a document are whole.
+    if (std::fabs(x) < 1e15 && x == std::trunc(x))
+        return QString::number(static_cast<qint64>(x));
     const Cifre n = cifreDi(x);
     if (n.cifre.isEmpty())
         return QStringLiteral("0");

@@ -26,7 +26,7 @@ public:
     const QByteArray& bytes() const { return m_bytes; }
 
 private:
-    void linea(const QString& testo) { m_bytes += inCp1252(testo) + "\r\n"; }
+    void linea(const QString& testo) { m_bytes.append(inCp1252(testo)).append("\r\n"); }
 
     QByteArray m_bytes;
 };
