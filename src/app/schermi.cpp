@@ -17,8 +17,8 @@ namespace bor {
 void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
     // Whose document it is stands at the top of every screen that edits one.
     const auto aggiungi = [&](Schermo schermo, Vista* vista) {
-        vista->intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
         finestra.aggiungi(schermo, vista);
+        vista->intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
     };
     finestra.aggiungi(Schermo::Borfte, new VistaBorfte(modulo.borfte()));
     finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));

@@ -1,19 +1,26 @@
 #include "ui/finestra.h"
 
+#include "ui/areascorrevole.h"
 #include "ui/vista.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QStackedWidget>
+#include <QStyle>
+#include <QVBoxLayout>
 
 namespace bor {
 
 Finestra::Finestra() : m_pila(new QStackedWidget) {
     setCentralWidget(m_pila);
-    resize(1280, 720);
+    // Never larger than what the screen has free, its own frame included.
+    const QSize cornice(2, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    resize(QSize(1280, 720).boundedTo(screen()->availableSize() - cornice));
 }
 
 void Finestra::aggiungi(Schermo schermo, Vista* vista) {
     m_viste[schermo] = vista;
+    new AreaScorrevole(static_cast<QVBoxLayout*>(vista->layout()));
     m_pila->addWidget(vista);
 }
 

@@ -17,7 +17,8 @@ class Finestra : public QMainWindow, public Navigatore {
 public:
     Finestra();
 
-    /// The window takes the view over.
+    /// The window takes the view over. Its last row is the command bar; what stands above it scrolls where
+    /// there is too little room.
     void aggiungi(Schermo schermo, Vista* vista);
     Vista* vista(Schermo schermo) const;
 

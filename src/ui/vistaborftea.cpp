@@ -164,6 +164,7 @@ QWidget* VistaBorftea::creaComandi() {
     linea->addStretch();
     auto* integrata = new QLabel;
     integrata->setObjectName(u"Label3"_s);
+    integrata->setWordWrap(true);
     integrata->setStyleSheet(u"color: #B00020; font-weight: 600;"_s);
     legami.etichetta(integrata, [this] { return m_form.integrata(); });
     legami.visibile(integrata, [this] { return !m_form.integrata().isEmpty(); });

@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QShortcut>
 #include <QTableWidget>
 #include <QTimer>
@@ -260,6 +261,37 @@ TEST_F(Schermi, UnaDomandaCheDistruggeHaNoSullInvio) {
     };
     EXPECT_FALSE(conInvio(Predefinita::No));
     EXPECT_TRUE(conInvio(Predefinita::Si));
+}
+
+TEST_F(Schermi, SuUnoSchermoPiccoloIComandiRestanoInVistaEIlRestoScorre) {
+    // The screen of the tests is 800 points wide; the longest command bar needs somewhat more.
+    EXPECT_LE(finestra.width(), 960);
+    EXPECT_LE(finestra.height(), finestra.screen()->availableSize().height());
+    modulo->documento().integrata = Integrata::Intracomunitaria;
+    for (const QSize misura : {QSize(1024, 700), QSize(960, 480)}) {
+        finestra.resize(misura);
+        for (const Schermo schermo : tuttiGliSchermi) {
+            Vista& vista = mostra(schermo);
+            finestra.mostra(schermo);
+            if (!vista.isVisible())
+                continue; // the electronic invoice of a company without its data
+            ASSERT_EQ(finestra.size(), misura) << qPrintable(vista.titolo());
+            const auto inVista = [](const QWidget* widget) {
+                return widget->visibleRegion().boundingRect().size() == widget->size();
+            };
+            foto(finestra, u"piccolo_%1_%2"_s.arg(misura.width()).arg(static_cast<int>(schermo)));
+            const QWidget* barra = vista.layout()->itemAt(vista.layout()->count() - 1)->widget();
+            for (const auto* bottone : barra->findChildren<QToolButton*>()) {
+                EXPECT_TRUE(!bottone->isVisible() || inVista(bottone)) << qPrintable(bottone->objectName());
+            }
+            for (auto* campo : vista.findChildren<QLineEdit*>()) {
+                if (!campo->isVisible() || !campo->isEnabled())
+                    continue;
+                campo->setFocus(Qt::TabFocusReason);
+                EXPECT_TRUE(inVista(campo)) << qPrintable(vista.titolo() + u": "_s + campo->objectName());
+            }
+        }
+    }
 }
 
 } // namespace

@@ -76,6 +76,7 @@ int main(int argc, char* argv[]) {
     const auto modulo = bor::Modulo::avvia(bor::rigaAvvio(1), bor::Percorsi(unita.path(), unitaC),
                                            {operatore, orologio, sistema, finestra, stampante});
     bor::aggiungiSchermi(finestra, *modulo);
+    finestra.resize(1280, 720); // of one size whatever the screen
     finestra.show();
     finestra.activateWindow();
     if (!QTest::qWaitForWindowActive(&finestra))

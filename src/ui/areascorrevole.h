@@ -1,0 +1,23 @@
+// The part of a screen that scrolls where the window is smaller than it.
+#pragma once
+
+#include <QScrollArea>
+
+class QVBoxLayout;
+
+namespace bor {
+
+class AreaScorrevole : public QScrollArea {
+public:
+    /// Takes over all that stands in `layout` above its last widget, the command bar, which stays in sight.
+    /// Keys and the wheel are the screen's, and the field that gets the focus comes into view.
+    explicit AreaScorrevole(QVBoxLayout* layout);
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    void mostra(const QWidget* campo);
+};
+
+} // namespace bor
