@@ -169,10 +169,10 @@ int cercabarcode(const Archivio& archivio, QStringView testo) {
     }
 }
 
-int cercadescrizione(const Archivio& archivio, QStringView testo) {
+int cercadescrizione(const Archivio& archivio, QStringView testo, int dopo) {
     const QString cercato = maiuscolo(testo.trimmed());
     int trovato = 0;
-    archivio.art.scorri(1, archivio.leggiTot(Conta::Art).numero, [&](int n, const Art& articolo) {
+    archivio.art.scorri(dopo + 1, archivio.leggiTot(Conta::Art).numero, [&](int n, const Art& articolo) {
         if (maiuscolo(articolo.descrizione.text()).left(cercato.size()) == cercato)
             trovato = n;
         return trovato == 0;

@@ -53,7 +53,8 @@ bool leggiarticolo(const Archivio& archivio, int recart, Art& articolo);
 /// `art` record of a barcode, which must be the whole one; 0 when the index does not have it.
 int cercabarcode(const Archivio& archivio, QStringView testo);
 
-/// First `art` record whose description begins with the text, deleted articles included; 0 for none.
-int cercadescrizione(const Archivio& archivio, QStringView testo);
+/// First `art` record behind `dopo` whose description begins with the text, deleted articles included; 0 for
+/// none.
+int cercadescrizione(const Archivio& archivio, QStringView testo, int dopo = 0);
 
 } // namespace bor

@@ -61,4 +61,9 @@ void avvisaRecuperi(const Contesto& contesto) {
     }
 }
 
+bool uscireSenzaRegistrare(const Contesto& contesto) {
+    return contesto.operatore.chiedi(u"Le modifiche non registrate andranno perse. Uscire comunque?"_s,
+                                     u"Attenzione"_s, Icona::Esclamazione, Predefinita::No);
+}
+
 } // namespace bor

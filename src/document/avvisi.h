@@ -18,4 +18,7 @@ void avvisaNonRegistrato(const Contesto& contesto, EsitoRaffica esito);
 /// Tells which registrations, left unfinished by a run that was stopped, have been completed meanwhile.
 void avvisaRecuperi(const Contesto& contesto);
 
+/// Asks whether to leave a screen although what was typed in it will be lost; No is the default.
+bool uscireSenzaRegistrare(const Contesto& contesto);
+
 } // namespace bor

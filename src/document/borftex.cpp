@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "document/avvisi.h"
 
 #include <algorithm>
 #include <utility>
@@ -27,16 +28,17 @@ Borftex::Borftex(Contesto& contesto, Documento& documento)
 void Borftex::attiva() {
     const Archivio& archivio = m_contesto.archivio;
     m_documento.cliente = archivio.cli.leggi(m_documento.recordcliente);
-    m_barcode = m_contesto.impostazioni.gnr.barcode != 0;
+    if (!m_barcodeScelto)
+        m_barcode = m_contesto.impostazioni.gnr.barcode != 0;
     m_righe.cambiaListino(m_documento.cliente.listino.text() == u"1" ? 2 : 1);
     m_articoli.dimentica();
     if (!m_barcode)
         m_articoli.apri();
     m_righe.prendi();
-    m_finestra.scorri(1);
+    scorri(1);
     m_lineafuoco = 0;
-    m_digitato.reset();
-    m_listaIva = false;
+    m_campofuoco = Campo::Artic;
+    m_modificato = false;
     m_listx.clear();
     vaiA(Campo::Artic, 0);
 }
@@ -58,6 +60,10 @@ QString Borftex::testo(Cella cella) const {
     if (cella.campo == Campo::Artic && cella.linea == m_lineafuoco && m_digitato)
         return *m_digitato;
     return m_righe.testo(riga(cella.linea), cella.campo);
+}
+
+QString Borftex::avviso(Cella cella) const {
+    return m_errata == cella ? u"Articolo non esistente"_s : QString();
 }
 
 QString Borftex::totale(Totale quale) const {
@@ -118,6 +124,8 @@ std::optional<Borftex::Cella> Borftex::prendiFuoco() {
 void Borftex::scorri(int prima) {
     m_finestra.scorri(prima);
     m_digitato.reset();
+    m_errata.reset();
+    m_ricerca.reset();
     m_listaIva = false;
 }
 
@@ -128,6 +136,7 @@ void Borftex::cambiaOpzione(Opzione quale, bool accesa) {
     case Opzione::Listino2:
         return m_righe.cambiaListino(2);
     case Opzione::Scorporo:
+        modificato();
         return m_righe.cambiaScorporo(accesa);
     case Opzione::Barcode:
         return cambiaBarcode(accesa);
@@ -136,6 +145,7 @@ void Borftex::cambiaOpzione(Opzione quale, bool accesa) {
 
 void Borftex::cambiaBarcode(bool acceso) {
     m_barcode = acceso;
+    m_barcodeScelto = true;
     m_articoli.chiudi();
     if (!acceso)
         m_articoli.apri();
@@ -152,23 +162,28 @@ void Borftex::pagina(int verso) {
     vaiA(Campo::Artic, m_lineafuoco);
 }
 
+void Borftex::indietro() {
+    if (!m_modificato || uscireSenzaRegistrare(m_contesto))
+        m_contesto.navigatore.mostra(Schermo::Borftea);
+}
+
 void Borftex::esegui(Comando comando) {
     switch (comando) {
     case Comando::Conferma:
         m_righe.riporta();
-        [[fallthrough]];
-    case Comando::Indietro:
         return m_contesto.navigatore.mostra(Schermo::Borftea);
+    case Comando::Indietro:
+        return indietro();
     case Comando::InserisciRiga:
-        m_digitato.reset();
+        modificato();
         m_righe.inserisci(rigaFuoco());
         return vaiA(Campo::Artic, m_lineafuoco);
     case Comando::EliminaRiga:
-        m_digitato.reset();
+        modificato();
         m_righe.elimina(rigaFuoco());
         return vaiA(Campo::Artic, m_lineafuoco);
     case Comando::Riordina:
-        m_digitato.reset();
+        modificato();
         m_righe.ordina();
         return vaiA(Campo::Artic, 0);
     case Comando::ApriLista:
@@ -179,6 +194,14 @@ void Borftex::esegui(Comando comando) {
         return pagina(-1);
     case Comando::PaginaGiu:
         return pagina(1);
+    case Comando::RigaSu:
+        return muovi(-1);
+    case Comando::RigaGiu:
+        return muovi(1);
+    case Comando::PrimaLibera:
+        if (const int libera = m_righe.primaLibera(); libera > 0)
+            vaiARiga(Campo::Artic, libera);
+        return;
     }
 }
 

@@ -30,9 +30,12 @@ public:
         EliminaRiga,
         Riordina,
         ApriLista,
-        CercaDescrizione, ///< F1 in a description
+        CercaDescrizione, ///< F1 in a description; again, the next article that fits
         PaginaSu,
-        PaginaGiu
+        PaginaGiu,
+        RigaSu, ///< the same box of the row above
+        RigaGiu,
+        PrimaLibera ///< the first free row
     };
     enum class Opzione {
         Listino1, ///< `prezz(0)`
@@ -55,6 +58,8 @@ public:
     const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
     const RigheMerce& righe() const { return m_righe; }
     QString testo(Cella cella) const;
+    /// Why a box is marked; empty for one that nothing is wrong with.
+    QString avviso(Cella cella) const;
     QString totale(Totale quale) const;              ///< the first three have a blank in front
     const QString& listx() const { return m_listx; } ///< status line: the article of the line last entered
     QStringList vociIva() const;                     ///< items of `Combo1`; item k is code k + 1
@@ -81,8 +86,11 @@ private:
     int riga(int linea) const { return m_finestra.riga(linea); }
     int rigaFuoco() const { return riga(m_lineafuoco); }
     void vaiA(Campo campo, int linea) { m_fuoco = Cella{campo, linea}; }
+    void vaiARiga(Campo campo, int riga);
     void prossimaLinea(int linea);
+    void muovi(int verso);
     void pagina(int verso);
+    void indietro();
     void apriLista();
     void cambiaBarcode(bool acceso);
 
@@ -90,7 +98,9 @@ private:
     void invioArticolo(int linea);
     void cercaDescrizione();
     void mettiArticolo(int recart, RigheMerce::Da da);
-    void articoloNonEsistente();
+    void articoloNonEsistente(Campo campo);
+    /// The operator typed or chose: leaving will ask, and F1 begins anew.
+    void modificato();
 
     Contesto& m_contesto;
     Documento& m_documento;
@@ -100,9 +110,19 @@ private:
     QString m_listx;
     std::optional<QString> m_digitato; ///< text being typed in the article box of the line with the focus
     std::optional<Cella> m_fuoco;
-    int m_lineafuoco = 0; ///< the line last entered
+    std::optional<Cella> m_errata; ///< the box whose article does not exist
+    struct Ricerca {
+        QString testo;
+        int trovato; ///< `art` record
+        TabellaRighe prima;
+    };
+    std::optional<Ricerca> m_ricerca; ///< of a description, while F1 goes on with it
+    int m_lineafuoco = 0;             ///< the line last entered
+    Campo m_campofuoco{};             ///< the box last entered
     bool m_listaIva = false;
     bool m_barcode = false;
+    bool m_barcodeScelto = false; ///< by the operator, for the rest of the run
+    bool m_modificato = false;    ///< something was typed since the lines were opened
 };
 
 } // namespace bor

@@ -7,15 +7,19 @@ using namespace Qt::StringLiterals;
 namespace bor {
 
 void Borftex::entra(Cella cella) {
-    if (cella.linea != m_lineafuoco)
+    if (cella.linea != m_lineafuoco) {
         m_digitato.reset();
+        m_ricerca.reset();
+    }
     m_lineafuoco = cella.linea;
+    m_campofuoco = cella.campo;
     if (const QString stato = m_righe.stato(rigaFuoco()); !stato.isEmpty())
         m_listx = stato;
     m_listaIva = cella.campo == Campo::Civ;
     if (cella.campo == Campo::Ds) {
         // Whoever writes a description of his own writes a free line: the price stays, the article goes.
-        m_righe.sciogli(rigaFuoco());
+        if (m_righe.sciogli(rigaFuoco()))
+            m_listx = u"Riga senza articolo: non muoverà il magazzino"_s;
         m_digitato.reset();
     } else if (cella.campo == Campo::Sc1) {
         m_righe.proponiSconti(rigaFuoco());
@@ -27,9 +31,13 @@ void Borftex::lascia(Cella cella) {
         m_digitato.reset();
     if (cella.campo == Campo::Civ)
         chiudiIva();
+    if (m_errata == cella)
+        m_errata.reset();
 }
 
 void Borftex::cambia(Cella cella, const QString& testo) {
+    modificato();
+    m_errata.reset();
     if (cella.campo == Campo::Artic)
         cambiaArticolo(cella.linea, testo);
     else
@@ -59,17 +67,37 @@ void Borftex::invio(Cella cella) {
 }
 
 void Borftex::prossimaLinea(int linea) {
-    constexpr int ultima = linee - 1;
-    if (linea < ultima) {
-        vaiA(Campo::Artic, linea + 1);
-    } else if (riga(ultima) <= m_finestra.ultima()) {
-        // The keys reach row 490; the last ten rows are for the scroll bar.
-        scorri(m_finestra.prima() + 1);
-        vaiA(Campo::Artic, ultima);
-    }
+    const int prossima = m_righe.ultimaDelTesto(riga(linea)) + 1;
+    // Enter brings row 490 into view; the last ten rows are for the scroll bar.
+    if (m_finestra.contiene(prossima - m_finestra.prima()) || prossima <= m_finestra.ultima() + 1)
+        vaiARiga(Campo::Artic, prossima);
+}
+
+void Borftex::muovi(int verso) {
+    const int vicina = rigaFuoco() + verso;
+    if (vicina >= 1 && vicina <= righeMerce)
+        vaiARiga(m_campofuoco, vicina);
+}
+
+void Borftex::vaiARiga(Campo campo, int riga) {
+    if (riga < m_finestra.prima())
+        scorri(riga);
+    else if (riga >= m_finestra.prima() + linee)
+        scorri(riga - linee + 1);
+    const Cella cella{campo, riga - m_finestra.prima()};
+    // The box may have the focus already, and show another row now.
+    entra(cella);
+    vaiA(cella.campo, cella.linea);
+}
+
+void Borftex::modificato() {
+    m_modificato = true;
+    m_digitato.reset();
+    m_ricerca.reset();
 }
 
 void Borftex::scegliIva(int posizione) {
+    modificato();
     m_righe.cambiaIva(rigaFuoco(), posizione + 1);
     m_listaIva = false;
     vaiA(Campo::Prezzo, m_lineafuoco);
@@ -78,12 +106,16 @@ void Borftex::scegliIva(int posizione) {
 void Borftex::cambiaArticolo(int linea, const QString& testo) {
     m_lineafuoco = linea;
     m_digitato = testo;
-    if (m_articoli.visibile() && !m_barcode)
-        m_articoli.cerca(testo);
+    if (m_articoli.visibile() && !m_barcode && m_articoli.cerca(testo) == 0 && !testo.trimmed().isEmpty())
+        m_errata = Cella{Campo::Artic, linea};
 }
 
 void Borftex::invioArticolo(int linea) {
     m_lineafuoco = linea;
+    const Riga& r = m_righe.riga(rigaFuoco());
+    // A code that nobody typed is no choice: the article in the row stays as it is.
+    if (!m_digitato && (r.recart != 0 || !r.codice.isEmpty()))
+        return vaiA(Campo::Quantita, linea);
     const QString cercato = testo({Campo::Artic, linea}).trimmed();
     if (cercato.isEmpty())
         return vaiA(Campo::Ds, linea);
@@ -92,31 +124,44 @@ void Borftex::invioArticolo(int linea) {
 }
 
 void Borftex::scegliArticolo(int posizione) {
+    m_ricerca.reset();
     if (const int recart = m_articoli.scegli(posizione); recart > 0)
         mettiArticolo(recart, RigheMerce::Da::Lista);
 }
 
 void Borftex::cercaDescrizione() {
-    if (!m_articoli.visibile())
+    if (!m_articoli.visibile() || (!m_ricerca && m_campofuoco != Campo::Ds))
         return;
     const Archivio& archivio = m_contesto.archivio;
-    const int trovato = cercadescrizione(archivio, m_righe.riga(rigaFuoco()).descrizione);
-    if (trovato == 0)
-        return articoloNonEsistente();
+    if (!m_ricerca)
+        m_ricerca = Ricerca{m_righe.riga(rigaFuoco()).descrizione, 0, m_righe.tutte()};
+    int trovato = cercadescrizione(archivio, m_ricerca->testo, m_ricerca->trovato);
+    if (trovato == 0 && m_ricerca->trovato > 0)
+        trovato = cercadescrizione(archivio, m_ricerca->testo); // behind the last one comes the first
+    if (trovato == 0) {
+        m_ricerca.reset();
+        return articoloNonEsistente(Campo::Ds);
+    }
+    m_ricerca->trovato = trovato;
+    // The additional text of the article found before goes with it.
+    m_righe.rimetti(m_ricerca->prima);
     if (const int recart = m_articoli.cerca(archivio.art.leggi(trovato).codice.text()); recart > 0)
         mettiArticolo(recart, RigheMerce::Da::Lista);
 }
 
 void Borftex::mettiArticolo(int recart, RigheMerce::Da da) {
+    m_modificato = true;
     if (!m_righe.metti(rigaFuoco(), recart, da)) {
-        articoloNonEsistente();
+        articoloNonEsistente(Campo::Artic);
         return vaiA(Campo::Artic, m_lineafuoco);
     }
     m_digitato.reset();
+    m_errata.reset();
     vaiA(Campo::Quantita, m_lineafuoco);
 }
 
-void Borftex::articoloNonEsistente() {
+void Borftex::articoloNonEsistente(Campo campo) {
+    m_errata = Cella{campo, m_lineafuoco};
     m_contesto.operatore.messaggio(u"Articolo non esistente"_s, u"Attenzione"_s, Icona::Stop);
 }
 

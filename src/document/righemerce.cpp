@@ -53,18 +53,21 @@ RigheMerce::RigheMerce(Contesto& contesto, Documento& documento)
     : m_contesto(contesto), m_documento(documento), m_righe(righeMerce) {}
 
 void RigheMerce::prendi() {
+    m_scorporo = m_documento.scorporo;
     m_righe = m_documento.ddd;
     m_righe.resize(righeMerce);
     // Loaded lines weigh what the article last read in this run weighs: exact weights come only from the
     // lines typed in this visit.
     for (Riga& r : m_righe)
         r.peso = r.recart >= 1 ? double{m_articolo.peso} : 0.0;
-    // Opening the lines shows their totals but leaves the weight in the head alone.
-    m_totali = ricalcola(m_righe, scorporo(), m_contesto.tabelle, m_contesto.valuta());
+    ricalcolaTutto();
 }
 
 void RigheMerce::riporta() {
     ricalcolaTutto();
+    if (m_contesto.impostazioni.gnr.pesoInTestata())
+        riportaPeso();
+    m_documento.scorporo = m_scorporo;
     riportaTotali(m_documento, m_totali.iva, m_totali.baserit, m_totali.importorit, m_contesto);
     m_documento.ddd = m_righe;
     for (Riga& r : m_documento.ddd) {
@@ -99,8 +102,32 @@ QString RigheMerce::testo(int n, Campo campo) const {
     return {};
 }
 
+QString RigheMerce::aliquota(int n) const {
+    const Riga& r = riga(n);
+    if (r.iva.nessuno() && r.prezzo == 0.0)
+        return {};
+    const CodiceIva codice = codiceContato(r);
+    if (!codice.tassato())
+        return QStringLiteral("es.");
+    return m_contesto.tabelle.aliquote[codice.riga()].aliquota.trimmed() + u'%';
+}
+
+QString RigheMerce::importo(int n) const {
+    const Valuta& valuta = m_contesto.valuta();
+    return valuta.importotesto(importoRiga(riga(n), valuta));
+}
+
+int RigheMerce::primaLibera() const {
+    const auto libera = [](const Riga& r) {
+        return r.recart == 0 && r.codice.isEmpty() && r.descrizione.isEmpty() && r.quantita == 0.0 &&
+               r.prezzo == 0.0;
+    };
+    const auto trovata = std::ranges::find_if(m_righe, libera);
+    return trovata == m_righe.end() ? 0 : static_cast<int>(trovata - m_righe.begin()) + 1;
+}
+
 void RigheMerce::cambiaScorporo(bool acceso) {
-    m_documento.scorporo = acceso;
+    m_scorporo = acceso;
     ricalcolaTutto();
 }
 
@@ -156,9 +183,9 @@ void RigheMerce::proponiSconti(int n) {
         ricalcolaTutto();
 }
 
-void RigheMerce::sciogli(int n) {
-    dove(n).recart = 0;
+bool RigheMerce::sciogli(int n) {
     dove(n).codice.clear();
+    return std::exchange(dove(n).recart, 0) != 0;
 }
 
 void RigheMerce::ordina() {
@@ -167,6 +194,11 @@ void RigheMerce::ordina() {
     for (const std::size_t i : ordinePerCodice(m_righe))
         ordinate.push_back(m_righe[i]);
     m_righe = std::move(ordinate);
+    ricalcolaTutto();
+}
+
+void RigheMerce::rimetti(const TabellaRighe& righe) {
+    m_righe = righe;
     ricalcolaTutto();
 }
 
@@ -188,9 +220,7 @@ void RigheMerce::elimina(int n) {
 }
 
 void RigheMerce::ricalcolaTutto() {
-    m_totali = ricalcola(m_righe, scorporo(), m_contesto.tabelle, m_contesto.valuta());
-    if (m_contesto.impostazioni.gnr.pesoInTestata())
-        riportaPeso();
+    m_totali = ricalcola(m_righe, m_scorporo, m_contesto.tabelle, m_contesto.valuta());
 }
 
 void RigheMerce::riportaPeso() {

@@ -25,12 +25,19 @@ public:
     /// Puts rows and totals into the document.
     void riporta();
 
+    const TabellaRighe& tutte() const { return m_righe; }
+    /// Puts back what `tutte` gave.
+    void rimetti(const TabellaRighe& righe);
     const Riga& riga(int n) const { return m_righe[static_cast<std::size_t>(n - 1)]; }
     QString testo(int n, Campo campo) const;
+    QString aliquota(int n) const; ///< "22%", or "es." for an exempt code; empty where nothing is taxed
+    QString importo(int n) const;  ///< quantity by price less the discounts; empty for 0
+    /// The first row that neither counts nor prints; 0 when all are in use.
+    int primaLibera() const;
     const TotaliRighe& totali() const { return m_totali; }
     int listino() const { return m_listino; } ///< 1 or 2
     void cambiaListino(int listino) { m_listino = listino; }
-    bool scorporo() const { return m_documento.scorporo; }
+    bool scorporo() const { return m_scorporo; }
     void cambiaScorporo(bool acceso);
 
     /// Any field but the article and the VAT code, which are chosen.
@@ -38,8 +45,8 @@ public:
     void cambiaIva(int n, CodiceIva codice);
     /// The customer's discounts, where the row has none.
     void proponiSconti(int n);
-    /// The row keeps its texts and its price, and loses its article.
-    void sciogli(int n);
+    /// The row keeps its texts and its price, and loses its article. True when it had one.
+    bool sciogli(int n);
 
     void inserisci(int n);
     void elimina(int n);
@@ -47,6 +54,9 @@ public:
 
     /// Puts an article into a row and its additional text below. False when there is no such article.
     bool metti(int n, int recart, Da da);
+    /// The row of the last additional text of the row's article that still stands below it; the row itself
+    /// for none.
+    int ultimaDelTesto(int n) const;
     /// What the status line says of the row's article; empty for a row without one.
     QString stato(int n);
 
@@ -64,6 +74,7 @@ private:
     TotaliRighe m_totali;
     Art m_articolo = vuoto<Art>(); ///< the article last read
     int m_listino = 1;
+    bool m_scorporo = false;
 };
 
 } // namespace bor

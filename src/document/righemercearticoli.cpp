@@ -15,6 +15,19 @@ QString pulito(QByteArrayView campo) {
     return puliscitesto(daCp1252(campo));
 }
 
+/// The lines of text that go with an article, without the empty ones.
+QStringList testoAggiuntivo(const Archivio& archivio, int recart) {
+    const Prx prx = archivio.prx.leggi(recart);
+    QStringList testi;
+    if (prx.marca != Prx::marcaValida)
+        return testi;
+    for (const auto& campo : prx.riga) {
+        if (const QString testo = pulito(campo.raw()); !testo.isEmpty())
+            testi.append(testo);
+    }
+    return testi;
+}
+
 } // namespace
 
 bool RigheMerce::metti(int n, int recart, Da da) {
@@ -45,14 +58,8 @@ double RigheMerce::prezzoListino(const Riga& r, Da da) const {
 }
 
 void RigheMerce::mettiTestoAggiuntivo(int n, int recart) {
-    const Prx prx = m_contesto.archivio.prx.leggi(recart);
-    if (prx.marca != Prx::marcaValida)
-        return;
     auto posto = static_cast<std::size_t>(n - 1);
-    for (const auto& campo : prx.riga) {
-        const QString testo = pulito(campo.raw());
-        if (testo.isEmpty())
-            continue;
+    for (const QString& testo : testoAggiuntivo(m_contesto.archivio, recart)) {
         if (++posto >= m_righe.size()) {
             m_contesto.operatore.messaggio(
                 u"Le righe del documento sono finite: il testo aggiuntivo dell'articolo non è completo"_s,
@@ -64,6 +71,20 @@ void RigheMerce::mettiTestoAggiuntivo(int n, int recart) {
         commento.descrizione = testo;
         m_righe[posto] = commento;
     }
+}
+
+int RigheMerce::ultimaDelTesto(int n) const {
+    if (riga(n).recart == 0)
+        return n;
+    const qsizetype testi = testoAggiuntivo(m_contesto.archivio, riga(n).recart).size();
+    const auto commento = [this](int m) {
+        const Riga& r = riga(m);
+        return r.recart == 0 && r.quantita == 0.0 && r.prezzo == 0.0 && !r.descrizione.isEmpty();
+    };
+    int ultima = n;
+    while (ultima - n < testi && ultima < righeMerce && commento(ultima + 1))
+        ++ultima;
+    return ultima;
 }
 
 QString RigheMerce::stato(int n) {

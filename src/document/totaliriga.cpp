@@ -28,12 +28,16 @@ void sommaRighe(const TabellaRighe& righe, const Valuta& valuta, TotaliRighe& t)
             t.pesototale += riga.peso * riga.quantita;
         }
         const double importo = importoRiga(riga, valuta);
-        const CodiceIva codice = riga.iva.valido() ? riga.iva : CodiceIva(1);
+        const CodiceIva codice = codiceContato(riga);
         (codice.tassato() ? t.iva.imponibili : t.iva.esenti)[codice.riga()] += importo;
     }
 }
 
 } // namespace
+
+CodiceIva codiceContato(const Riga& riga) {
+    return riga.iva.valido() ? riga.iva : CodiceIva(1);
+}
 
 double importoRiga(const Riga& riga, const Valuta& valuta) {
     double importo = riga.prezzo;

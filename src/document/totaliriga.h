@@ -29,6 +29,9 @@ struct TotaliRighe {
 /// Amount of one line: price by quantity, less the discounts one after the other, each step rounded.
 double importoRiga(const Riga& riga, const Valuta& valuta);
 
+/// The VAT code that a line counts under: the first one where it has none.
+CodiceIva codiceContato(const Riga& riga);
+
 /// Totals of the lines. Tax is worked out on the sum of each code, not line by line; with `scorporo` the
 /// prices include it. Never allocates.
 TotaliRighe ricalcola(const TabellaRighe& righe, bool scorporo, const Tabelle& tabelle, const Valuta& valuta);

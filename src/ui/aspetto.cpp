@@ -49,6 +49,7 @@ void applicaAspetto(QApplication& applicazione) {
         "QLineEdit:read-only { background: #E8ECF1; }"
         "QLineEdit:disabled { background: #E8ECF1; color: #8A94A0; }"
         "QLineEdit:focus { border: 1px solid #1F6FB2; background: #FFFBE0; }"
+        "QLineEdit[errato=\"true\"] { border: 1px solid #C62828; background: #FDE3E3; }"
         "QComboBox:focus, QTableView:focus, QListView:focus { border: 1px solid #1F6FB2; }"
         "QToolButton:focus { border: 2px solid #1F6FB2; border-radius: 3px; }"_s);
 }

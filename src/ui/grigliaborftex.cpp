@@ -43,6 +43,31 @@ const Colonna& colonna(Campo campo) {
     return disposizione[static_cast<std::size_t>(campo)];
 }
 
+/// The keys of the boxes that move through the rows or look for an article.
+std::optional<Borftex::Comando> comandoDi(QKeyCombination tasti) {
+    using Comando = Borftex::Comando;
+    // The arrows of some keyboards count as keys of their number pad.
+    const Qt::KeyboardModifiers modi = tasti.keyboardModifiers() & ~Qt::KeypadModifier;
+    if (modi == Qt::ControlModifier && tasti.key() == Qt::Key_End)
+        return Comando::PrimaLibera;
+    if (modi != Qt::NoModifier)
+        return std::nullopt;
+    switch (tasti.key()) {
+    case Qt::Key_F1:
+        return Comando::CercaDescrizione;
+    case Qt::Key_Up:
+        return Comando::RigaSu;
+    case Qt::Key_Down:
+        return Comando::RigaGiu;
+    case Qt::Key_PageUp:
+        return Comando::PaginaSu;
+    case Qt::Key_PageDown:
+        return Comando::PaginaGiu;
+    default:
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 GrigliaBorftex::GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& invio, QWidget* parent)
@@ -52,31 +77,57 @@ GrigliaBorftex::GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& inv
     griglia->setContentsMargins(0, 0, 0, 0);
     griglia->setHorizontalSpacing(3);
     griglia->setVerticalSpacing(3);
-    const auto testata = [&](const QString& testo, int c, int larghezza = 1) {
-        const bool numero = disposizione[static_cast<std::size_t>(c)].numero && larghezza == 1;
-        griglia->addWidget(new QLabel(testo), 0, c, 1, larghezza,
-                           numero ? Qt::AlignRight : Qt::Alignment(Qt::AlignLeft));
-    };
-    for (const auto& [c, testo] : {std::pair{0, u"Articolo"_s},
-                                   {1, u"Descrizione"_s},
-                                   {2, u"UM"_s},
-                                   {3, u"Quantità"_s},
-                                   {6, u"Prezzo"_s},
-                                   {7, u"Iva"_s}})
-        testata(testo, c);
-    testata(u"Sconti"_s, 4, 2);
-    for (int linea = 0; linea < Borftex::linee; ++linea) {
-        for (int c = 0; c < colonne; ++c)
-            griglia->addWidget(creaCampo({static_cast<Campo>(c), linea}), linea + 1, c);
-    }
-    griglia->setColumnStretch(static_cast<int>(Campo::Ds), 1);
+    creaTestate(griglia);
+    for (int linea = 0; linea < Borftex::linee; ++linea)
+        creaLinea(griglia, linea);
+    griglia->setColumnStretch(primoCampo + static_cast<int>(Campo::Ds), 1);
     constexpr int molto = 100;
     for (int linea = 0; linea < Borftex::linee; ++linea)
         griglia->setRowStretch(linea + 1, molto);
     griglia->setRowStretch(Borftex::linee + 1, 1);
     m_cursore->setFocusPolicy(Qt::StrongFocus);
-    griglia->addWidget(m_cursore, 1, colonne, Borftex::linee, 1);
+    griglia->addWidget(m_cursore, 1, colonnaImporto + 1, Borftex::linee, 1);
     creaListaIva();
+}
+
+void GrigliaBorftex::creaTestate(QGridLayout* griglia) {
+    constexpr int doppia = 2;
+    const auto testata = [&](const QString& testo, int colonna, bool numero, int larghezza = 1) {
+        griglia->addWidget(new QLabel(testo), 0, colonna, 1, larghezza,
+                           numero ? Qt::AlignRight : Qt::Alignment(Qt::AlignLeft));
+    };
+    const auto diCampo = [&](const QString& testo, Campo campo) {
+        testata(testo, primoCampo + static_cast<int>(campo), colonna(campo).numero);
+    };
+    diCampo(u"Articolo"_s, Campo::Artic);
+    diCampo(u"Descrizione"_s, Campo::Ds);
+    diCampo(u"UM"_s, Campo::Um);
+    diCampo(u"Quantità"_s, Campo::Quantita);
+    testata(u"Sconti"_s, primoCampo + static_cast<int>(Campo::Sc1), false, doppia);
+    diCampo(u"Prezzo"_s, Campo::Prezzo);
+    diCampo(u"Iva"_s, Campo::Civ);
+    testata(u"Importo"_s, colonnaImporto, true);
+}
+
+void GrigliaBorftex::creaLinea(QGridLayout* griglia, int linea) {
+    const auto mostra = [&](QStringView nome, QStringView didascalia, int colonna, int caratteri,
+                            const Legami::Leggi& leggi) {
+        auto* etichetta = new QLabel;
+        etichetta->setObjectName(u"%1(%2)"_s.arg(nome).arg(linea));
+        etichetta->setAccessibleName(u"%1, riga %2"_s.arg(didascalia).arg(linea + 1));
+        etichetta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        etichetta->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * caratteri);
+        m_legami.etichetta(etichetta, leggi);
+        griglia->addWidget(etichetta, linea + 1, colonna);
+    };
+    mostra(u"numero", u"Numero della riga", 0, 3,
+           [this, linea] { return QString::number(m_form.finestra().riga(linea)); });
+    for (int c = 0; c < campi; ++c)
+        griglia->addWidget(creaCampo({static_cast<Campo>(c), linea}), linea + 1, primoCampo + c);
+    mostra(u"aliquota", u"Aliquota iva", colonnaAliquota, 4,
+           [this, linea] { return m_form.righe().aliquota(m_form.finestra().riga(linea)); });
+    mostra(u"importo", u"Importo", colonnaImporto, 9,
+           [this, linea] { return m_form.righe().importo(m_form.finestra().riga(linea)); });
 }
 
 QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
@@ -90,7 +141,7 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     }
     // The rows share the height that the window has to give.
     nuovo->setSizePolicy(nuovo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    nuovo->setMaximumHeight(fontMetrics().height() * 2);
+    nuovo->setMaximumHeight(fontMetrics().height() * 5 / 2);
     m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)] = nuovo;
 
     const auto leggi = [this, cella] { return m_form.testo(cella); };
@@ -100,6 +151,7 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     } else {
         m_legami.testo(nuovo, leggi, [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
     }
+    m_legami.segnala(nuovo, [this, cella] { return m_form.avviso(cella); });
     m_legami.entrato(nuovo, [this, cella] { m_form.entra(cella); });
     m_legami.lasciato(nuovo, [this, cella] { m_form.lascia(cella); });
     nuovo->installEventFilter(this);
@@ -166,18 +218,12 @@ bool GrigliaBorftex::eventFilter(QObject* oggetto, QEvent* evento) {
         return false;
     const auto* tasto = static_cast<QKeyEvent*>(evento);
     const QString nome = oggetto->objectName();
-    if (nome.startsWith(u"ds(") && tasto->key() == Qt::Key_F1) {
-        m_legami.esegui([this] { m_form.esegui(Borftex::Comando::CercaDescrizione); });
-        return true;
-    }
     if (nome.startsWith(u"civ(") && m_form.listaIva() && tastoIva(tasto->key(), tasto->text()))
         return true;
-    if (tasto->key() != Qt::Key_PageUp && tasto->key() != Qt::Key_PageDown)
+    const auto comando = comandoDi(tasto->keyCombination());
+    if (!comando)
         return false;
-    m_legami.esegui([&] {
-        m_form.esegui(tasto->key() == Qt::Key_PageUp ? Borftex::Comando::PaginaSu
-                                                     : Borftex::Comando::PaginaGiu);
-    });
+    m_legami.esegui([&] { m_form.esegui(*comando); });
     return true;
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 
+class QGridLayout;
 class QListWidget;
 class QLineEdit;
 class QScrollBar;
@@ -30,8 +31,14 @@ protected:
     void wheelEvent(QWheelEvent* evento) override;
 
 private:
-    static constexpr int colonne = 8;
+    static constexpr int campi = 8;
+    /// Columns of the layout: the row's number, the boxes, the row's rate and amount.
+    static constexpr int primoCampo = 1;
+    static constexpr int colonnaAliquota = primoCampo + campi;
+    static constexpr int colonnaImporto = colonnaAliquota + 1;
 
+    void creaTestate(QGridLayout* griglia);
+    void creaLinea(QGridLayout* griglia, int linea);
     QLineEdit* creaCampo(Borftex::Cella cella);
     void creaListaIva();
     void aggiornaListaIva();
@@ -41,7 +48,7 @@ private:
     Borftex& m_form;
     Legami& m_legami;
     PercorsoInvio& m_invio;
-    std::array<std::array<QLineEdit*, colonne>, Borftex::linee> m_campi{};
+    std::array<std::array<QLineEdit*, campi>, Borftex::linee> m_campi{};
     QScrollBar* m_cursore;
     QListWidget* m_listaIva;
 };

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <utility>
 
@@ -55,6 +56,20 @@ void Legami::testo(QLineEdit* campo, Leggi leggi, Scrivi scrivi) {
         m_inModifica = nullptr;
     });
     lasciato(campo, [] {});
+}
+
+void Legami::segnala(QLineEdit* campo, Leggi avviso) {
+    altro([campo, avviso] {
+        const QString testo = avviso();
+        if (testo == campo->toolTip())
+            return;
+        campo->setToolTip(testo);
+        campo->setAccessibleDescription(testo);
+        campo->setProperty("errato", !testo.isEmpty());
+        // Only then does the style sheet look at the property again.
+        campo->style()->unpolish(campo);
+        campo->style()->polish(campo);
+    });
 }
 
 void Legami::spunta(QAbstractButton* bottone, std::function<bool()> leggi, std::function<void(bool)> scrivi) {

@@ -31,6 +31,8 @@ public:
     /// Without `scrivi` the field only shows. A field is not rewritten by the very edit that is made in it: a
     /// half-typed number stays as it is until the operator leaves the field.
     void testo(QLineEdit* campo, Leggi leggi, Scrivi scrivi = {});
+    /// Marks the field while `avviso` says what is wrong with it; empty for nothing.
+    void segnala(QLineEdit* campo, Leggi avviso);
     void spunta(QAbstractButton* bottone, std::function<bool()> leggi, std::function<void(bool)> scrivi);
     /// Positions count from 0; -1 is no selection. `scrivi` hears only what the operator chooses, and the
     /// wheel chooses nothing while the list is closed.

@@ -72,12 +72,14 @@ VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
     auto* sinistra = new QVBoxLayout;
     sinistra->addWidget(m_griglia, 1);
     sinistra->addWidget(creaTotali());
-    corpo->addLayout(sinistra, 5);
-    corpo->addWidget(creaLista(), 2);
+    corpo->addLayout(sinistra, 3);
+    corpo->addWidget(creaLista(), 1);
     layout->addWidget(creaOpzioni());
     layout->addLayout(corpo, 1);
-    altriTasti = {{u"F1"_s, u"In una descrizione: cerca l'articolo che la contiene"_s},
-                  {u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s}};
+    altriTasti = {{u"F1"_s, u"In una descrizione: cerca l'articolo che comincia così; ancora: il seguente"_s},
+                  {u"Su, Giù"_s, u"Lo stesso campo della riga sopra, di quella sotto"_s},
+                  {u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s},
+                  {u"Ctrl+Fine"_s, u"La prima riga libera"_s}};
     auto* stato = new QLabel;
     stato->setObjectName(u"listx"_s);
     stato->setAccessibleName(u"Articolo della riga"_s);

@@ -121,6 +121,7 @@ TEST_F(Righe, ListinoScorporoERegimeDelCliente) {
     cliente(15);
     contesto.tabelle.aliquote[15] = {u"4"_s, {}, {}, {}};
     form.attiva();
+    form.cambiaOpzione(Opzione::Scorporo, true);
     form.cambiaOpzione(Opzione::Listino1, true);
     articolo(0, u"VITE"_s);
     EXPECT_EQ(riga(0).iva, 15);
@@ -256,10 +257,55 @@ TEST_F(Righe, PesoDelleRigheRilettoEQuelloDellUltimoArticolo) {
     EXPECT_EQ(documento.testata.trasporto.peso, u"7"_s) << "looking at the lines changes nothing";
     articolo(1, u"VITE"_s);
     scrivi(Campo::Quantita, 1, u"4501"_s);
-    EXPECT_EQ(documento.testata.trasporto.peso, u"1.125,25"_s);
+    form.esegui(Comando::Indietro);
+    EXPECT_EQ(documento.testata.trasporto.peso, u"7"_s) << "leaving takes the weight back";
     form.attiva();
     form.esegui(Comando::Conferma);
     EXPECT_EQ(documento.testata.trasporto.peso, u"1"_s);
+    form.attiva();
+    articolo(1, u"VITE"_s);
+    scrivi(Campo::Quantita, 1, u"4501"_s);
+    form.esegui(Comando::Conferma);
+    EXPECT_EQ(documento.testata.trasporto.peso, u"1.126,25"_s);
+}
+
+TEST_F(Righe, LoScorporoArrivaConLaConferma_IlLettoreRestaPerTutteLeVisite) {
+    form.attiva();
+    form.cambiaOpzione(Opzione::Scorporo, true);
+    form.cambiaOpzione(Opzione::Barcode, true);
+    articolo(0, u"VITE"_s);
+    form.esegui(Comando::Indietro);
+    EXPECT_FALSE(documento.scorporo);
+    form.attiva();
+    EXPECT_FALSE(form.opzione(Opzione::Scorporo));
+    EXPECT_TRUE(form.opzione(Opzione::Barcode));
+    form.cambiaOpzione(Opzione::Scorporo, true);
+    form.esegui(Comando::Conferma);
+    EXPECT_TRUE(documento.scorporo);
+    contesto.impostazioni.gnr.barcode = 1;
+    form.cambiaOpzione(Opzione::Barcode, false);
+    form.attiva();
+    EXPECT_TRUE(form.opzione(Opzione::Scorporo));
+    EXPECT_FALSE(form.opzione(Opzione::Barcode));
+}
+
+TEST_F(Righe, InvioDopoLUltimoTestoAggiuntivo) {
+    Prx prx = vuoto<Prx>();
+    prx.riga[0].set(u"zincata");
+    prx.riga[4].set(u"a norma");
+    prx.marca = Prx::marcaValida;
+    contesto.archivio.prx.scrivi(1, prx);
+    form.attiva();
+    articolo(0, u"VITE"_s);
+    form.invio({Campo::Prezzo, 0});
+    EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Artic, 3}));
+    scrivi(Campo::Prezzo, 1, u"5"_s); // no comment any more: the road leads there
+    form.invio({Campo::Prezzo, 0});
+    EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Artic, 1}));
+    articolo(10, u"VITE"_s);
+    form.invio({Campo::Prezzo, 10});
+    EXPECT_EQ(form.finestra().prima(), 3) << "the rows scroll by as many as are passed";
+    EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Artic, 11}));
 }
 
 } // namespace

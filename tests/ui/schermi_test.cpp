@@ -169,7 +169,7 @@ TEST_F(Schermi, UnComandoVedeLaDataComeSeIlCampoFosseLasciato) {
 /// Keys of commands as README writes them: "F10", "Ctrl+F7", and each of "Ctrl+1 to 3".
 std::set<QString> tastiScritti(const QString& testo) {
     static const QRegularExpression serie(u"Ctrl\\+(\\d) to (\\d)"_s);
-    static const QRegularExpression tasto(u"(Ctrl\\+)?\\bF\\d+|Ctrl\\+[A-Z0-9](?! to)"_s);
+    static const QRegularExpression tasto(u"(Ctrl\\+)?\\bF\\d+|Ctrl\\+(?:[A-Z0-9]\\b(?! to)|End)"_s);
     std::set<QString> tasti;
     for (const auto& trovata : serie.globalMatch(testo)) {
         for (int i = trovata.captured(1).toInt(); i <= trovata.captured(2).toInt(); ++i)
@@ -196,7 +196,7 @@ TEST_F(Schermi, IlReadmeDiceITastiCheCiSono) {
         for (const auto* scorciatoia : vista.findChildren<QShortcut*>())
             ci.merge(tastiScritti(scorciatoia->key().toString()));
         for (const TastoSchermo& altro : vista.tasti())
-            ci.merge(tastiScritti(altro.tasto));
+            ci.merge(tastiScritti(QString(altro.tasto).replace(u"Fine"_s, u"End"_s)));
         std::set<QString> detti = comuni;
         const QString riga = righe.takeFirst();
         detti.merge(tastiScritti(riga));

@@ -68,6 +68,12 @@ TEST_F(VistaRigheTest, DieciRigheConISoliTasti) {
     EXPECT_EQ(testoDi(*vista, u"prezzo(2)"_s), u"40"_s);
     EXPECT_EQ(testoDi(*vista, u"civ(2)"_s), u"01"_s);
     EXPECT_EQ(testoDi(*vista, u"ds(3)"_s), u"Consegna al piano"_s);
+    QStringList riga;
+    for (const QString& colonna : {u"numero"_s, u"aliquota"_s, u"importo"_s}) {
+        for (const int linea : {1, 3})
+            riga.append(testoDi(*vista, u"%1(%2)"_s.arg(colonna).arg(linea)));
+    }
+    EXPECT_EQ(riga, (QStringList{u"2"_s, u"4"_s, u"10%"_s, {}, u"162,00"_s, {}}));
     // 118.75 + 162.00 + 95.00 + 6.20 * 21
     EXPECT_EQ(testoDi(*vista, u"tota(0)"_s), u" 505,95"_s);
     EXPECT_EQ(testoDi(*vista, u"tota(1)"_s), u" 597,82"_s);
@@ -136,6 +142,107 @@ TEST_F(VistaRigheTest, ListaScorrimentoEComandi) {
     tasto(*vista, Qt::Key_F7);
     EXPECT_EQ(testoDi(*vista, u"ds(1)"_s), u"riga 1"_s);
     EXPECT_EQ(documento.ddd[0].codice, QString()) << "leaving keeps the document as it was";
+}
+
+TEST_F(VistaRigheTest, UnCodiceCheNessunoHaDigitatoNonSceglie) {
+    mostra(*vista);
+    for (const QString& testo : {u"vite"_s, u"100"_s, QString(), QString(), u"2"_s})
+        scriviEInvio(testo);
+    for (const bool lettore : {false, true}) {
+        if (lettore)
+            clic(*vista, u"barcode"_s);
+        controllo(*vista, u"artic(0)"_s)->setFocus();
+        tasto(*vista, Qt::Key_Return);
+        EXPECT_EQ(fuoco(*vista), u"quantita(0)"_s);
+        EXPECT_EQ(testoDi(*vista, u"prezzo(0)"_s), u"2"_s) << "the typed price stays";
+    }
+    EXPECT_TRUE(prova->operatore.messaggi.isEmpty());
+}
+
+TEST_F(VistaRigheTest, FrecceEControlFineMuovonoFraLeRighe) {
+    for (int i = 0; i < 14; ++i)
+        documento.ddd[static_cast<std::size_t>(i)] = {1, {}, u"VITE"_s, u"riga %1"_s.arg(i + 1), {}, 0, 0, 1,
+                                                      1, 1,  0};
+    mostra(*vista);
+    controllo(*vista, u"quantita(0)"_s)->setFocus();
+    tasto(*vista, Qt::Key_Up);
+    EXPECT_EQ(fuoco(*vista), u"quantita(0)"_s) << "no row above the first";
+    for (int i = 0; i < 12; ++i)
+        tasto(*vista, Qt::Key_Down);
+    EXPECT_EQ(fuoco(*vista), u"quantita(11)"_s);
+    EXPECT_EQ(testoDi(*vista, u"numero(11)"_s), u"13"_s);
+    scrivi(*vista, u"7"_s);
+    EXPECT_EQ(form->righe().riga(13).quantita, 7);
+    tasto(*vista, Qt::Key_Up);
+    EXPECT_EQ(fuoco(*vista), u"quantita(10)"_s);
+    EXPECT_FALSE(testoDi(*vista, u"listx"_s).startsWith(u"Riga senza"));
+    tasto(*vista, Qt::Key_Tab, Qt::ShiftModifier);
+    tasto(*vista, Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(fuoco(*vista), u"ds(10)"_s);
+    EXPECT_EQ(testoDi(*vista, u"listx"_s), u"Riga senza articolo: non muoverà il magazzino"_s);
+    tasto(*vista, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(fuoco(*vista), u"artic(11)"_s);
+    EXPECT_EQ(testoDi(*vista, u"numero(11)"_s), u"15"_s);
+    EXPECT_EQ(testoDi(*vista, u"ds(10)"_s), u"riga 14"_s);
+}
+
+TEST_F(VistaRigheTest, UnArticoloCheNonCESiVedeSubito) {
+    mostra(*vista);
+    auto* codice = controllo<QLineEdit>(*vista, u"artic(0)"_s);
+    scrivi(*vista, u"p"_s);
+    EXPECT_FALSE(codice->property("errato").toBool());
+    scrivi(*vista, u"x"_s);
+    EXPECT_TRUE(codice->property("errato").toBool());
+    tasto(*vista, Qt::Key_Return);
+    EXPECT_EQ(prova->operatore.messaggi.size(), 1);
+    EXPECT_EQ(codice->text(), u"px"_s);
+    EXPECT_EQ(codice->accessibleDescription(), u"Articolo non esistente"_s);
+    foto(*vista, u"articolo_non_esistente"_s);
+    tasto(*vista, Qt::Key_Backspace);
+    EXPECT_FALSE(codice->property("errato").toBool());
+}
+
+TEST_F(VistaRigheTest, F1AncoraPassaAlProssimoArticolo) {
+    Prx prx = vuoto<Prx>();
+    prx.riga[0].set(u"rettificato");
+    prx.marca = Prx::marcaValida;
+    prova->archivio.prx.scrivi(3, prx);
+    azienda.articolo(articoloDi(u"SPINA"_s, u"Perno lungo"_s, 3, 1));
+    mostra(*vista);
+    tasto(*vista, Qt::Key_Return);
+    scrivi(*vista, u"perno"_s);
+    QStringList trovati;
+    for (int volta = 0; volta < 3; ++volta) {
+        tasto(*vista, Qt::Key_F1);
+        trovati << testoDi(*vista, u"artic(0)"_s) << testoDi(*vista, u"ds(1)"_s);
+        EXPECT_EQ(fuoco(*vista), u"quantita(0)"_s);
+    }
+    EXPECT_EQ(trovati,
+              (QStringList{u"PERNO"_s, u"rettificato"_s, u"SPINA"_s, {}, u"PERNO"_s, u"rettificato"_s}));
+    scrivi(*vista, u"4"_s);
+    tasto(*vista, Qt::Key_F1);
+    EXPECT_EQ(testoDi(*vista, u"quantita(0)"_s), u"4"_s) << "work in the row ends the search";
+}
+
+TEST_F(VistaRigheTest, EscChiedeSoloSeSiEDigitatoQualcosa) {
+    mostra(*vista);
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_TRUE(prova->operatore.domande.isEmpty());
+    EXPECT_EQ(prova->navigatore.mostrati.size(), 1);
+    vista->attiva();
+    digita(u"vite"_s, u"1"_s, {}, {});
+    prova->operatore.risposte = {false, true};
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_EQ(prova->navigatore.mostrati.size(), 1) << "No stays";
+    clic(*vista, u"comando(0)"_s);
+    EXPECT_EQ(prova->navigatore.mostrati.size(), 2);
+    ASSERT_EQ(prova->operatore.domande.size(), 2);
+    EXPECT_EQ(prova->operatore.domande[0].testo,
+              u"Le modifiche non registrate andranno perse. Uscire comunque?"_s);
+    EXPECT_EQ(prova->operatore.domande[0].predefinita, Predefinita::No);
+    vista->attiva();
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_EQ(prova->operatore.domande.size(), 2) << "the lines were opened anew";
 }
 
 } // namespace
