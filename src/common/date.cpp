@@ -57,6 +57,14 @@ QString completaData(QStringView testo) {
                                          : testo.toString();
 }
 
+bool dataInesistente(QStringView testo) {
+    static const QRegularExpression forma(
+        QStringLiteral(R"(\A(\d{1,2}[/.-]\d{1,2}[/.-](\d{2}|\d{4})|\d{6}|\d{8})\z)"),
+        QRegularExpression::DontCaptureOption);
+    const QString t = testo.trimmed().toString();
+    return forma.match(t).hasMatch() && !dataValida(completaData(t));
+}
+
 QString dataDaAnnoMeseGiorno(QStringView campo) {
     if (puliscitesto(campo).isEmpty())
         return {};

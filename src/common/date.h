@@ -22,6 +22,10 @@ QString testoData(QDate data);
 /// even when there is no such day. Any other text comes back as it is.
 QString completaData(QStringView testo);
 
+/// True for a text that has the form of a date, one that is completed on leaving included, and names a day
+/// that does not exist.
+bool dataInesistente(QStringView testo);
+
 /// `yyyymmdd` cut and joined as "dd/mm/yyyy"; empty when the field holds no digits.
 QString dataDaAnnoMeseGiorno(QStringView campo);
 

@@ -16,6 +16,7 @@ struct Sessione {
     bool listadaaggiornare = false; ///< the register fills itself again when it is shown next
     bool modificamovimento = false; ///< the movement editor replaces the document's movement
     int ultimosalvato = 0;          ///< `fte` record of the document saved last in this run; 0 for none
+    bool regimicambiati = false; ///< the VAT regimes of the fee lines are not those they were confirmed with
     ModoSelezione modoselezione = ModoSelezione::Nessuno;
     QString datadialogo; ///< the date that `bordata` starts from
     QString datariserva; ///< the one it starts from when that is no date

@@ -63,7 +63,7 @@ void avvisaRecuperi(const Contesto& contesto) {
 
 bool uscireSenzaRegistrare(const Contesto& contesto) {
     return contesto.operatore.chiedi(u"Le modifiche non registrate andranno perse. Uscire comunque?"_s,
-                                     u"Attenzione"_s, Icona::Esclamazione, Predefinita::No);
+                                     u"Attenzione"_s, Icona::Domanda, Predefinita::No);
 }
 
 } // namespace bor

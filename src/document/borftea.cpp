@@ -35,6 +35,7 @@ void Borftea::attiva() {
 }
 
 void Borftea::apri() {
+    m_contesto.sessione.regimicambiati = false;
     if (nuovo()) {
         // What was typed in the head form, the screen before this one, stays.
         Testata testata = std::move(m_documento.testata);

@@ -92,6 +92,8 @@ public:
     /// False when the panel is refused; the one in view then stays.
     bool mostraProspetto(Prospetto prospetto);
 
+    /// A fee bill's lines still carry the tax of other regimes.
+    bool regimiCambiati() const { return m_documento.parcella() && m_contesto.sessione.regimicambiati; }
     QString integrata() const; ///< `Label3`; empty when it is hidden
     bool pdfVisibile() const { return m_pdfVisibile; }
 

@@ -1,5 +1,6 @@
 // The command bar of the document form.
 #include "document/apripdf.h"
+#include "document/avvisi.h"
 #include "document/borftea.h"
 #include "document/eliminadoc.h"
 #include "document/modifiche.h"
@@ -73,9 +74,7 @@ void Borftea::lascia() {
 }
 
 void Borftea::esci() {
-    if (!modificato() ||
-        m_contesto.operatore.chiedi(u"Le modifiche non registrate andranno perse. Uscire comunque?"_s,
-                                    u"Attenzione"_s, Icona::Domanda, Predefinita::No))
+    if (!modificato() || uscireSenzaRegistrare(m_contesto))
         lascia();
 }
 

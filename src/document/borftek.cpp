@@ -1,6 +1,7 @@
 #include "document/borftek.h"
 
 #include "common/numeri.h"
+#include "document/avvisi.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
 
@@ -67,6 +68,7 @@ void Borftek::attiva() {
     ++m_edizione;
     m_finestra.scorri(1);
     m_lineafuoco = 0;
+    m_modificato = false;
     vaiAllInizio();
 }
 
@@ -81,7 +83,13 @@ QString Borftek::testo(Cella cella) const {
     return cella.campo == Campo::Data ? copia.data : copia.descrizione;
 }
 
+QString Borftek::avviso(Cella cella) const {
+    const bool inesistente = cella.campo == Campo::Data && dataInesistente(m_righe[indice(cella.linea)].data);
+    return inesistente ? u"Questa data non esiste"_s : QString();
+}
+
 void Borftek::cambia(Cella cella, const QString& testo) {
+    m_modificato = true;
     m_lineafuoco = cella.linea;
     Rigap& riga = m_righe[indice(cella.linea)];
     if (double* x = importo(riga, cella.campo))
@@ -120,6 +128,7 @@ void Borftek::scegliPrestazione(int indice) {
     if (testo.isEmpty())
         return;
     std::size_t posto = static_cast<std::size_t>(m_finestra.riga(m_lineafuoco));
+    m_modificato = true;
     m_righe[posto - 1].data.clear();
     while (!testo.isEmpty()) {
         m_righe[posto - 1].descrizione = staccaLinea(testo);
@@ -133,12 +142,14 @@ void Borftek::scegliPrestazione(int indice) {
 }
 
 void Borftek::inserisciRiga() {
+    m_modificato = true;
     m_righe.pop_back();
     m_righe.insert(m_righe.begin() + (m_finestra.riga(m_lineafuoco) - 1), Rigap{});
     vaiAllInizio();
 }
 
 void Borftek::eliminaRiga() {
+    m_modificato = true;
     m_righe.erase(m_righe.begin() + (m_finestra.riga(m_lineafuoco) - 1));
     m_righe.emplace_back();
 }
@@ -149,11 +160,13 @@ void Borftek::conferma() {
     riportaTotali(m_documento, t.iva, t.baseritenuta, t.ritenuta, m_contesto);
     salvarighe();
     m_contesto.sessione.righelette = false;
+    m_contesto.sessione.regimicambiati = false;
     m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
 void Borftek::lascia() {
-    m_contesto.navigatore.mostra(Schermo::Borftea);
+    if (!m_modificato || uscireSenzaRegistrare(m_contesto))
+        m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
 QString Borftek::numfat() const {

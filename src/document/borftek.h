@@ -28,6 +28,8 @@ public:
     Bordata bordata() const { return m_contesto.bordata(); }
 
     QString testo(Cella cella) const; ///< an amount of 0 is empty
+    /// Why a box is marked; empty for one that nothing is wrong with.
+    QString avviso(Cella cella) const;
     void cambia(Cella cella, const QString& testo);
     void entra(Cella cella) { m_lineafuoco = cella.linea; }
     /// The rows scroll on where the last line is left.
@@ -49,7 +51,7 @@ public:
     void eliminaRiga();
     /// Hands the bill over to the document and returns to it.
     void conferma();
-    /// Returns to the document and hands nothing over.
+    /// Returns to the document and hands nothing over; asks first where something was typed.
     void lascia();
 
     /// Number of the document as far as it is one.
@@ -69,6 +71,7 @@ private:
     std::optional<Cella> m_fuoco;
     int m_lineafuoco = 0; ///< the line last entered
     int m_edizione = 0;
+    bool m_modificato = false; ///< something was typed since the lines were opened
 };
 
 } // namespace bor

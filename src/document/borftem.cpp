@@ -58,6 +58,12 @@ void Borftem::attiva() {
     sessione.testataletta = true;
 }
 
+void Borftem::cambiato(const void* dato) {
+    const Pratica& pratica = m_documento.testata.pratica;
+    if (dato == &pratica.ivaono || dato == &pratica.ivaspe)
+        m_contesto.sessione.regimicambiati = true;
+}
+
 RiquadroTestata Borftem::riquadro() const {
     // The document form offers the lines of every stored document, and with them its transport or practice
     // data; a new one has none before it is saved.

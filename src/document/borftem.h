@@ -59,7 +59,11 @@ public:
     }
     template <class Valore, class T, class Parte, class... Altri>
     void cambia(const Valore& valore, T Parte::*primo, Altri... altri) {
-        datoIn(m_documento, primo, altri...) = valore;
+        auto& dove = datoIn(m_documento, primo, altri...);
+        if (dove == valore)
+            return;
+        dove = valore;
+        cambiato(&dove);
     }
 
     QStringList pagamenti() const;
@@ -70,6 +74,7 @@ public:
     QStringList regimi() const;
 
 private:
+    void cambiato(const void* dato);
     void mostraCliente();
     void prendi(int record);
     bool puoProseguire() const { return m_documento.cliente.eliminato == 0 && m_recordcorrente > 0; }

@@ -83,6 +83,12 @@ public:
     void esegui(Comando comando);
 
 private:
+    struct Ricerca {
+        QString testo;
+        int trovato; ///< `art` record
+        TabellaRighe prima;
+    };
+
     int riga(int linea) const { return m_finestra.riga(linea); }
     int rigaFuoco() const { return riga(m_lineafuoco); }
     void vaiA(Campo campo, int linea) { m_fuoco = Cella{campo, linea}; }
@@ -110,12 +116,7 @@ private:
     QString m_listx;
     std::optional<QString> m_digitato; ///< text being typed in the article box of the line with the focus
     std::optional<Cella> m_fuoco;
-    std::optional<Cella> m_errata; ///< the box whose article does not exist
-    struct Ricerca {
-        QString testo;
-        int trovato; ///< `art` record
-        TabellaRighe prima;
-    };
+    std::optional<Cella> m_errata;    ///< the box whose article does not exist
     std::optional<Ricerca> m_ricerca; ///< of a description, while F1 goes on with it
     int m_lineafuoco = 0;             ///< the line last entered
     Campo m_campofuoco{};             ///< the box last entered

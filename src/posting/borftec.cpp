@@ -2,6 +2,8 @@
 
 #include "common/numeri.h"
 #include "document/avvisi.h"
+#include "document/totali.h"
+#include "document/totaliparcella.h"
 #include "document/trovamovimento.h"
 #include "posting/saldi.h"
 
@@ -38,6 +40,12 @@ QString& casella(RigaMovimento& riga, Borftec::Campo campo) {
     return riga.avere;
 }
 
+/// 0 where two sums agree to the cent.
+double scarto(double x, double y) {
+    constexpr double mezzoCentesimo = 0.005;
+    return std::fabs(x - y) < mezzoCentesimo ? 0.0 : x - y;
+}
+
 } // namespace
 
 Borftec::Borftec(Contesto& contesto, const Documento& documento)
@@ -48,6 +56,7 @@ void Borftec::attiva() {
     m_contoScelto = -1;
     m_lineafuoco = 0;
     m_fuoco = Cella{};
+    m_modificato = false;
     ++m_edizione;
     const Archivio& archivio = m_contesto.archivio;
     archivio.con.scorri(1, archivio.leggiTot(Conta::Con).numero, [this](int, const Con& conto) {
@@ -69,10 +78,13 @@ QString Borftec::testo(Cella cella) const {
 
 void Borftec::cambia(Cella cella, const QString& testo) {
     m_lineafuoco = cella.linea;
+    m_modificato = true;
     const bool importo = cella.campo >= Campo::Dare;
     casella(riga(cella.linea), cella.campo) = importo ? QString(testo).replace(u',', u'.') : testo;
     if (importo)
         return;
+    if (testo.size() == caratteri[static_cast<std::size_t>(cella.campo)])
+        invio(cella);
     const ContoTesti& conto = riga(cella.linea).conto;
     const QString inizio = QStringList{conto.mastro, conto.conto, conto.sottoconto}.join(u' ').trimmed();
     const auto trovato =
@@ -89,6 +101,11 @@ QString Borftec::descrizioneConto(int linea) const {
         return valore(pezzo(voce, 1, 2) + pezzo(voce, 4, 2) + pezzo(voce, 7, 4)) == codice;
     });
     return trovato == m_conti.end() ? QString() : pezzo(*trovato, inizioNome);
+}
+
+void Borftec::cambia(const QString& valore, QString Movimento::*testo) {
+    m_modificato = true;
+    m_movimento.*testo = valore;
 }
 
 void Borftec::invio(Cella cella) {
@@ -111,6 +128,7 @@ void Borftec::prendiConto(int posizione) {
     if (posizione < 0 || posizione >= m_conti.size() || valore(m_conti[posizione].left(2)) <= 0)
         return;
     m_contoScelto = posizione;
+    m_modificato = true;
     const QString& voce = m_conti[posizione];
     riga(m_lineafuoco).conto = {pezzo(voce, 1, 2), pezzo(voce, 4, 2), pezzo(voce, 7, 4)};
     m_fuoco = Cella{Campo::Dare, m_lineafuoco};
@@ -120,6 +138,7 @@ void Borftec::togliRiga() {
     if (m_lineafuoco < 0 || m_lineafuoco >= righe - 1)
         return;
     auto& r = m_movimento.righe;
+    m_modificato = true;
     std::move(r.begin() + m_lineafuoco + 1, r.end(), r.begin() + m_lineafuoco);
     r.back() = {};
 }
@@ -128,11 +147,17 @@ void Borftec::inserisciRiga() {
     if (m_lineafuoco < 0 || m_lineafuoco >= righe - 1)
         return;
     auto& r = m_movimento.righe;
+    m_modificato = true;
     std::move_backward(r.begin() + m_lineafuoco + 1, r.end() - 1, r.end());
     r[static_cast<std::size_t>(m_lineafuoco) + 1] = {};
 }
 
 void Borftec::lascia() {
+    if (m_modificato && !uscireSenzaRegistrare(m_contesto))
+        return;
+    if (!m_contesto.sessione.modificamovimento)
+        m_contesto.operatore.messaggio(u"Il documento resta senza movimento contabile"_s, u"Attenzione"_s,
+                                       Icona::Esclamazione);
     m_contesto.navigatore.mostra(Schermo::Borfte);
 }
 
@@ -151,9 +176,22 @@ double Borftec::totaleAvere() const {
 }
 
 double Borftec::sbilancio() const {
-    constexpr double mezzoCentesimo = 0.005;
-    const double differenza = totaleDare() - totaleAvere();
-    return std::fabs(differenza) < mezzoCentesimo ? 0.0 : differenza;
+    return scarto(totaleDare(), totaleAvere());
+}
+
+double Borftec::totaleDocumento() const {
+    if (m_documento.parcella())
+        return totaliParcella(m_documento.dddp, m_documento.testata.pratica, m_contesto.tabelle,
+                              m_contesto.valuta())
+            .totaledocumento;
+    return totali(m_documento).totaledoc;
+}
+
+double Borftec::differenza() const {
+    // The seller's own invoice is posted apart: this movement then carries the tax alone.
+    const double atteso =
+        m_documento.integrata == Integrata::No ? totaleDocumento() : totali(m_documento).somma2;
+    return scarto(m_documento.notaCredito() ? totaleAvere() : totaleDare(), atteso);
 }
 
 void Borftec::salva() {

@@ -8,6 +8,7 @@
 #include "document/documento.h"
 #include "posting/movimento.h"
 
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -19,6 +20,8 @@ public:
 
     /// The boxes of a line, in the order of the screen.
     enum class Campo { Mastro, Conto, Sottoconto, Dare, Avere };
+    /// Characters of a group of the account; 0 for an amount.
+    static constexpr std::array<int, 5> caratteri = {2, 2, 4, 0, 0};
     /// A line of the screen is a row of the movement.
     using Cella = CellaDi<Campo>;
 
@@ -31,7 +34,8 @@ public:
     Bordata bordata() const { return m_contesto.bordata(); }
 
     QString testo(Cella cella) const;
-    /// A change of an account also moves the list to the first account that begins so.
+    /// A change of an account also moves the list to the first account that begins so, and a full group sends
+    /// the operator on.
     void cambia(Cella cella, const QString& testo);
     void entra(Cella cella) { m_lineafuoco = cella.linea; }
     QString descrizioneConto(int linea) const; ///< `ds`
@@ -42,7 +46,7 @@ public:
 
     /// A head text: `Text1(0)`, `Text2` or `Text1(1)`.
     const QString& dato(QString Movimento::*testo) const { return m_movimento.*testo; }
-    void cambia(const QString& valore, QString Movimento::*testo) { m_movimento.*testo = valore; }
+    void cambia(const QString& valore, QString Movimento::*testo);
 
     /// Accounts as "MM CC SSSS descrizione".
     const QStringList& conti() const { return m_conti; }
@@ -59,13 +63,18 @@ public:
     /// Writes the movement and returns to the register; stays on a date or account that is not valid, or on a
     /// failed write.
     void salva();
-    /// Returns to the register without a movement.
+    /// Returns to the register without a movement. Asks first where something was typed, and tells that a new
+    /// document stays without one.
     void lascia();
 
     double totaleDare() const;
     double totaleAvere() const;
     /// Debit less credit; 0 when they agree to the cent.
     double sbilancio() const;
+    double totaleDocumento() const;
+    /// What the movement carries on the customer's side less what the document asks for; 0 when they agree to
+    /// the cent.
+    double differenza() const;
     QString importo(double x) const { return m_contesto.valuta().importotesto(x); }
 
 private:
@@ -85,7 +94,8 @@ private:
     QStringList m_conti;
     int m_contoScelto = -1;
     int m_edizione = 0;
-    int m_lineafuoco = 0; ///< the line last entered
+    int m_lineafuoco = 0;      ///< the line last entered
+    bool m_modificato = false; ///< something was typed since the movement came on screen
     std::optional<Cella> m_fuoco;
 };
 

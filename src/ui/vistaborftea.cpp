@@ -162,10 +162,17 @@ QWidget* VistaBorftea::creaComandi() {
     linea->addSpacing(16);
     comando(linea, 4, Comando::Elimina, u"Elimina"_s, u"elimina"_s, u"Ctrl+F9"_s);
     linea->addStretch();
+    const QString rosso = u"color: #B00020; font-weight: 600;"_s;
+    auto* regimi = new QLabel(u"Regimi cambiati: confermare le righe"_s);
+    regimi->setObjectName(u"regimicambiati"_s);
+    regimi->setWordWrap(true);
+    regimi->setStyleSheet(rosso);
+    legami.visibile(regimi, [this] { return m_form.regimiCambiati(); });
+    linea->addWidget(regimi);
     auto* integrata = new QLabel;
     integrata->setObjectName(u"Label3"_s);
     integrata->setWordWrap(true);
-    integrata->setStyleSheet(u"color: #B00020; font-weight: 600;"_s);
+    integrata->setStyleSheet(rosso);
     legami.etichetta(integrata, [this] { return m_form.integrata(); });
     legami.visibile(integrata, [this] { return !m_form.integrata().isEmpty(); });
     linea->addWidget(integrata);

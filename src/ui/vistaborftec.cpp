@@ -23,15 +23,14 @@ struct Colonna {
     Campo campo;
     QStringView nome;
     QStringView descrizione;
-    int caratteri;
 };
 
 constexpr std::array<Colonna, 5> colonne = {{
-    {Campo::Mastro, u"cn1", u"Mastro", 2},
-    {Campo::Conto, u"cn2", u"Conto", 2},
-    {Campo::Sottoconto, u"cn3", u"Sottoconto", 4},
-    {Campo::Dare, u"dare", u"Dare", 0},
-    {Campo::Avere, u"avere", u"Avere", 0},
+    {Campo::Mastro, u"cn1", u"Mastro"},
+    {Campo::Conto, u"cn2", u"Conto"},
+    {Campo::Sottoconto, u"cn3", u"Sottoconto"},
+    {Campo::Dare, u"dare", u"Dare"},
+    {Campo::Avere, u"avere", u"Avere"},
 }};
 
 /// The account's name stands between its groups and the amounts.
@@ -96,7 +95,8 @@ QWidget* VistaBorftec::creaRighe() {
 }
 
 void VistaBorftec::creaLinea(QGridLayout* griglia, int linea) {
-    for (const auto& [campo, radice, descrizione, caratteri] : colonne) {
+    for (const auto& [campo, radice, descrizione] : colonne) {
+        const int caratteri = Borftec::caratteri[static_cast<std::size_t>(campo)];
         const Borftec::Cella cella{campo, linea};
         const QString nome = u"%1(%2)"_s.arg(radice).arg(linea);
         const QString letto = u"%1, riga %2"_s.arg(descrizione).arg(linea + 1);
@@ -145,16 +145,20 @@ QWidget* VistaBorftec::creaTotali() {
         legami.testo(casella, [this, leggi] { return m_form.importo(leggi()); });
         riga->addWidget(didascalia(testo, casella));
         riga->addWidget(casella);
-        riga->addSpacing(16);
+        riga->addSpacing(8);
         return casella;
+    };
+    const auto mostraScarto = [&](int indice, const QString& testo, const std::function<double()>& leggi) {
+        auto* casella = mostra(indice, testo, leggi);
+        legami.altro([casella, leggi] {
+            casella->setStyleSheet(leggi() == 0.0 ? QString() : u"color: #C62828; font-weight: bold;"_s);
+        });
     };
     mostra(0, u"Totale dare"_s, [this] { return m_form.totaleDare(); });
     mostra(1, u"Totale avere"_s, [this] { return m_form.totaleAvere(); });
-    auto* sbilancio = mostra(2, u"Sbilancio"_s, [this] { return m_form.sbilancio(); });
-    legami.altro([this, sbilancio] {
-        sbilancio->setStyleSheet(m_form.sbilancio() == 0.0 ? QString()
-                                                           : u"color: #C62828; font-weight: bold;"_s);
-    });
+    mostraScarto(2, u"Sbilancio"_s, [this] { return m_form.sbilancio(); });
+    mostra(3, u"Totale documento"_s, [this] { return m_form.totaleDocumento(); });
+    mostraScarto(4, u"Differenza"_s, [this] { return m_form.differenza(); });
     riga->addStretch();
     return riquadro;
 }

@@ -99,6 +99,7 @@ void VistaBorftek::lega(Borftek::Cella cella, QLineEdit* casella) {
     legami.testo(
         casella, [this, cella] { return m_form.testo(cella); },
         [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
+    legami.segnala(casella, [this, cella] { return m_form.avviso(cella); });
     legami.entrato(casella, [this, cella] { m_form.entra(cella); });
     invio.passo(casella, [this, cella] { legami.esegui([&] { m_form.invio(cella); }); });
 }

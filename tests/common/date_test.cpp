@@ -30,6 +30,13 @@ TEST(Date, LeFormeBreviSiCompletano) {
     EXPECT_EQ(dataDaGiornoMeseAnno(giornoMeseAnno(inesistente)), inesistente);
 }
 
+TEST(Date, UnGiornoCheNonEsisteSiRiconosceInOgniForma) {
+    for (const QStringView t : {u"31/04/2016", u" 31042016 ", u"310416", u"1/13/15", u"29-02-2015"})
+        EXPECT_TRUE(dataInesistente(t)) << qPrintable(t.toString());
+    for (const QStringView t : {u"", u"30/04/2016", u"300416", u"3104", u"31/04", u"maggio", u"2016"})
+        EXPECT_FALSE(dataInesistente(t)) << qPrintable(t.toString());
+}
+
 TEST(Date, LeDueFormeDelFileNonSiConfondono) {
     EXPECT_EQ(dataDaAnnoMeseGiorno(u"20151231"), u"31/12/2015"_s);
     EXPECT_EQ(dataDaGiornoMeseAnno(u"31122015"), u"31/12/2015"_s);

@@ -72,6 +72,11 @@ TEST_F(MovimentoTest, FatturaConRitenutaENotaDiCredito) {
     EXPECT_EQ(m.descrizione, u"Ft. 12/A del 15/03/2015 a Rossi Srl prot.  $D"_s) << "each mark once";
     EXPECT_EQ(m.data, u"16/03/2015"_s);
     EXPECT_TRUE(prova.operatore.domande.isEmpty());
+    form.prepara(m);
+    EXPECT_EQ(form.totaleDocumento(), 122);
+    EXPECT_EQ(form.differenza(), 0);
+    form.cambia({Borftec::Campo::Dare, 1}, u"19,50"_s);
+    EXPECT_EQ(form.differenza(), -0.5);
 
     documento.coppia.fte.tipo = 1;
     documento.coppia.fte.esigdiff.set(u"1");
@@ -80,16 +85,21 @@ TEST_F(MovimentoTest, FatturaConRitenutaENotaDiCredito) {
     EXPECT_EQ(righe(m),
               QStringList({u"10010001  102"_s, u"11220033  20"_s, u"40010001 100 "_s, u"44550066 22 "_s}));
     EXPECT_EQ(m.descrizione, u"N.C. 12/A/2015"_s);
+    form.prepara(m);
+    EXPECT_EQ(form.differenza(), 0);
 
     documento.integrata = Integrata::ReverseCharge;
     documento.prospetti.ritenute[2].raimp.clear();
     EXPECT_EQ(righe(setfat(documento, prova.contesto)), QStringList({u"10010001  22"_s, u"44550066 22 "_s}));
+    form.prepara(setfat(documento, prova.contesto));
+    EXPECT_EQ(form.differenza(), 0) << "the tax alone is posted";
 }
 
 TEST_F(MovimentoTest, OgniParcellaQuadra) {
     prova.tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, u"4"_s};
     prova.tabelle.aliquote[2] = {u"10"_s, {}, u"2"_s, {}};
     std::mt19937 caso(15);
+    documento.coppia.fte.parcella = 2;
     std::uniform_int_distribution<int> centesimi(0, 500000);
     for (int giro = 0; giro < 300; ++giro) {
         documento.dddp.assign(righeParcella, {});
@@ -100,6 +110,7 @@ TEST_F(MovimentoTest, OgniParcellaQuadra) {
         documento.testata.pratica.ivaspe = giro % 3;
         form.prepara(setpar(documento, prova.contesto));
         ASSERT_EQ(form.sbilancio(), 0) << giro;
+        ASSERT_EQ(form.differenza(), 0) << giro;
         ASSERT_GT(form.totaleDare(), 0);
     }
 }

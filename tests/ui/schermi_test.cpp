@@ -166,6 +166,29 @@ TEST_F(Schermi, UnComandoVedeLaDataComeSeIlCampoFosseLasciato) {
     }
 }
 
+TEST_F(Schermi, RegimiCambiatiFinoAllaConfermaDelleRighe) {
+    modulo->documento().recordfattura = 1;
+    modulo->documento().coppia.fte.parcella = 2;
+    Vista& testata = mostra(Schermo::Borftem);
+    Vista& documento = *finestra.vista(Schermo::Borftea);
+    const auto* avviso = controllo<QLabel>(documento, u"regimicambiati"_s);
+    tasto(testata, Qt::Key_F10);
+    EXPECT_FALSE(avviso->isVisible());
+    mostra(Schermo::Borftem);
+    controllo(testata, u"ivaono"_s)->setFocus();
+    tasto(testata, Qt::Key_Down);
+    tasto(testata, Qt::Key_F10);
+    EXPECT_TRUE(avviso->isVisible());
+    foto(documento, u"regimi_cambiati"_s);
+    tasto(documento, Qt::Key_F3);
+    tasto(finestra, Qt::Key_Escape);
+    EXPECT_TRUE(avviso->isVisible()) << "nothing was confirmed";
+    tasto(documento, Qt::Key_F3);
+    tasto(finestra, Qt::Key_F10);
+    EXPECT_TRUE(documento.isVisible());
+    EXPECT_FALSE(avviso->isVisible());
+}
+
 /// Keys of commands as README writes them: "F10", "Ctrl+F7", and each of "Ctrl+1 to 3".
 std::set<QString> tastiScritti(const QString& testo) {
     static const QRegularExpression serie(u"Ctrl\\+(\\d) to (\\d)"_s);

@@ -1,3 +1,4 @@
+#include "document/righeiva.h"
 #include "posting/borftec.h"
 #include "support/azienda.h"
 #include "ui/gesti.h"
@@ -55,6 +56,48 @@ TEST(VistaMovimento, IlMovimentoSiCompletaDallaTastiera) {
     EXPECT_EQ(prova.archivio.con.leggi(3).progressivoavere, 22);
     EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borfte});
     EXPECT_EQ(form.dato(&Movimento::data), u"17/03/2015"_s);
+}
+
+TEST(VistaMovimento, GruppiPieniDifferenzaDalDocumentoEUscita) {
+    const AziendaDiProva azienda;
+    ContestoDiProva prova(azienda);
+    Documento documento;
+    mettiImportoIva(documento.coppia, VoceIva::Imponibile, 1, 100);
+    mettiImportoIva(documento.coppia, VoceIva::Imposta, 1, 22);
+    Borftec form(prova.contesto, documento);
+    Movimento movimento;
+    movimento.righe[0] = {{u"10"_s, u"01"_s, u"0001"_s}, u"122"_s, {}};
+    form.prepara(movimento);
+    VistaBorftec vista(form);
+    mostra(vista);
+    EXPECT_LE(vista.minimumSizeHint().width(), 1024);
+    EXPECT_EQ(testoDi(vista, u"Label1(3)"_s), u"122,00"_s);
+    EXPECT_EQ(testoDi(vista, u"Label1(4)"_s), QString());
+    tasto(vista, Qt::Key_Escape);
+    EXPECT_TRUE(prova.operatore.domande.isEmpty()) << "nothing was typed";
+    ASSERT_EQ(prova.operatore.messaggi.size(), 1);
+    EXPECT_EQ(prova.operatore.messaggi[0].testo, u"Il documento resta senza movimento contabile"_s);
+    EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borfte});
+
+    vista.attiva();
+    controllo(vista, u"cn1(2)"_s)->setFocus();
+    scrivi(vista, u"20050001"_s);
+    EXPECT_EQ(fuoco(vista), u"dare(2)"_s) << "a full group leads to the next one";
+    EXPECT_EQ(testoDi(vista, u"cn2(2)"_s) + testoDi(vista, u"cn3(2)"_s), u"050001"_s);
+    controllo(vista, u"dare(0)"_s)->setFocus(Qt::TabFocusReason);
+    scrivi(vista, u"120"_s);
+    EXPECT_EQ(testoDi(vista, u"Label1(4)"_s), u"-2,00"_s);
+    EXPECT_TRUE(controllo(vista, u"Label1(4)"_s)->styleSheet().contains(u"#C62828"_s));
+    foto(vista, u"movimento_differenza"_s);
+    prova.operatore.risposte = {false, true};
+    tasto(vista, Qt::Key_Escape);
+    EXPECT_EQ(prova.navigatore.mostrati.size(), 1);
+    EXPECT_EQ(prova.operatore.messaggi.size(), 1);
+    prova.sessione.modificamovimento = true;
+    clic(vista, u"bottone(0)"_s);
+    EXPECT_EQ(prova.operatore.domande.size(), 2);
+    EXPECT_EQ(prova.navigatore.mostrati.size(), 2);
+    EXPECT_EQ(prova.operatore.messaggi.size(), 1) << "the document keeps the movement that it has";
 }
 
 } // namespace

@@ -49,5 +49,36 @@ TEST(VistaParcella, UnaParcellaSiScriveDallaTastiera) {
     EXPECT_EQ(documento.dddp[1].spese, 80);
 }
 
+TEST(VistaParcella, UnaDataCheNonEsisteSiVedeEdEscChiedeSeSiEDigitato) {
+    const AziendaDiProva azienda;
+    ContestoDiProva prova(azienda);
+    Documento documento;
+    Borftek form(prova.contesto, documento);
+    VistaBorftek vista(form);
+    mostra(vista);
+    tasto(vista, Qt::Key_Escape);
+    EXPECT_TRUE(prova.operatore.domande.isEmpty());
+    EXPECT_EQ(prova.navigatore.mostrati, QList{Schermo::Borftea});
+    prova.sessione.righelette = false;
+    vista.attiva();
+    auto* data = controllo<QLineEdit>(vista, u"artic(0)"_s);
+    scrivi(vista, u"3104"_s);
+    EXPECT_FALSE(data->property("errato").toBool());
+    scrivi(vista, u"2016"_s);
+    EXPECT_TRUE(data->property("errato").toBool());
+    tasto(vista, Qt::Key_Return);
+    EXPECT_TRUE(data->property("errato").toBool()) << "also with its bars";
+    foto(vista, u"parcella_data"_s);
+    data->setFocus(Qt::TabFocusReason);
+    scrivi(vista, u"maggio"_s);
+    EXPECT_FALSE(data->property("errato").toBool()) << "any short text may stand there";
+    prova.operatore.risposte = {false, true};
+    tasto(vista, Qt::Key_Escape);
+    EXPECT_EQ(prova.navigatore.mostrati.size(), 1);
+    tasto(vista, Qt::Key_Escape);
+    EXPECT_EQ(prova.navigatore.mostrati.size(), 2);
+    EXPECT_EQ(prova.operatore.domande.value(0).predefinita, Predefinita::No);
+}
+
 } // namespace
 } // namespace bor
