@@ -100,7 +100,7 @@ void leggiMerce(Lettura& file, Documento& documento) {
             *testo = file.tagliato();
         riga.sconto1 = file.intero(-massimoIntero, massimoIntero, 0);
         riga.sconto2 = file.intero(-massimoIntero, massimoIntero, 0);
-        riga.iva = file.intero(0, CodiceIva::ultimo, 0);
+        riga.iva = file.intero(-massimoIntero, massimoIntero, 0);
         riga.quantita = file.importo();
         riga.prezzo = file.importo();
     }

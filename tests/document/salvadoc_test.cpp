@@ -280,13 +280,13 @@ TEST_F(SalvaTest, FileDalNomeVecchioOMancante) {
     const Riga& riga = p.documento.ddd[0];
     EXPECT_EQ(riga.quantita, 2.5);
     EXPECT_EQ(riga.prezzo, 1234.5);
-    EXPECT_EQ(riga.iva, 0) << "a code outside the tables";
+    EXPECT_EQ(riga.iva, 99) << "a code outside the tables stays";
     EXPECT_EQ(p.documento.ddd[1].recart, 7);
     EXPECT_EQ(p.documento.testata.trasporto.causale, -1);
     EXPECT_EQ(p.documento.testata.trasporto.aspetto, 2);
     EXPECT_EQ(p.documento.testata.trasporto.spedizione, 1);
     p.salva();
-    EXPECT_TRUE(QFile::exists(azienda.percorso(u"f1"_s)));
+    EXPECT_TRUE(azienda.leggi(u"f1"_s).contains("\r\n 99 \r\n"));
 }
 
 } // namespace
