@@ -18,7 +18,8 @@ using Cartelle = std::set<std::string>;
 const std::map<std::string, Cartelle> frecceStrumenti = {
     {"borcrea", {"common", "archive", "document", "posting"}},
     {"borverifica", {"common", "archive"}},
-    {"borxmlcheck", {"einvoice", "common"}},
+    {"borefattura", {"common", "archive", "document", "xmlcheck", "fatturapa", "borxmlcheck"}},
+    {"borxmlcheck", {"common", "xmlcheck"}},
     {"borxpdf", {"common"}},
     {"lanciatore", {"common", "archive", "ui"}},
     {"tour", {"common", "ui", "app", "borcrea"}},
@@ -28,13 +29,18 @@ const std::map<std::string, Cartelle> frecceStrumenti = {
 const std::map<std::string, Cartelle> frecce = {
     {"common", {}},
     {"archive", {"common"}},
+    {"xmlcheck", {"common"}},
     {"document", {"common", "archive"}},
     {"register", {"common", "archive", "document"}},
     {"posting", {"common", "archive", "document"}},
     {"output", {"common", "archive", "document"}},
-    {"einvoice", {"common", "archive", "document"}},
-    {"ui", {"common", "archive", "document", "register", "posting", "output", "einvoice"}},
-    {"app", {"common", "archive", "document", "register", "posting", "output", "einvoice", "ui"}},
+    {"einvoice", {"common", "archive", "document", "xmlcheck"}},
+    {"fatturapa", {"common", "archive", "document", "xmlcheck"}},
+    {"ui",
+     {"common", "archive", "document", "register", "posting", "output", "xmlcheck", "einvoice", "fatturapa"}},
+    {"app",
+     {"common", "archive", "document", "register", "posting", "output", "xmlcheck", "einvoice", "fatturapa",
+      "ui"}},
 };
 
 struct Inclusione {

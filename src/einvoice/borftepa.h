@@ -6,9 +6,9 @@
 #include "archive/fpa.h"
 #include "document/documento.h"
 #include "einvoice/campifpa.h"
-#include "einvoice/controlloxml.h"
 #include "einvoice/listefpa.h"
 #include "einvoice/riepilogofpa.h"
+#include "xmlcheck/controlloxml.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 // while the operator corrects.
 #pragma once
 
-#include "einvoice/controlloxml.h"
+#include "xmlcheck/controlloxml.h"
 
 #include <QDialog>
 

@@ -1,41 +1,64 @@
-// Checks electronic invoices before they are sent: prints what the receiving system would refuse in each
-// file. Ends with 0 when there is nothing to say, 1 when there is, 2 when a file cannot be read.
+// Checks electronic invoices of either version before they are sent: prints what the receiving system would
+// refuse in each file, or one file as a readable page. Ends with the number of files with findings.
+#include "borxmlcheck/resoconto.h"
 #include "common/versione.h"
-#include "einvoice/controlloxml.h"
+#include "xmlcheck/vistafattura.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDate>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Esito { Buono = 0, ConRilievi = 1, Illeggibile = 2 };
-
 void scrivi(std::FILE* dove, const QString& testo) {
     std::fputs(qUtf8Printable(testo), dove);
 }
 
-Esito controlla(const QString& percorso) {
+/// The files as given; for a folder all its XML files, by name.
+QStringList fileDi(const QStringList& percorsi) {
+    QStringList file;
+    for (const QString& percorso : percorsi) {
+        if (!QFileInfo(percorso).isDir()) {
+            file.append(percorso);
+            continue;
+        }
+        QStringList dentro;
+        QDirIterator cartella(percorso, {u"*.xml"_s, u"*.XML"_s}, QDir::Files);
+        while (cartella.hasNext())
+            dentro.append(cartella.next());
+        dentro.sort();
+        file += dentro;
+    }
+    return file;
+}
+
+bor::resoconto::RilieviFile controlla(const QString& percorso) {
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly))
+        return {percorso,
+                {{.motivo = u"Il file non si può leggere (%1)."_s.arg(file.errorString()),
+                  .rimedio = u"Controllare il nome e i permessi del file."_s}}};
+    // One byte more than is allowed tells that there are too many.
+    constexpr qint64 daLeggere = 5'000'001;
+    return {percorso,
+            bor::controllaXml(file.read(daLeggere), QFileInfo(percorso).fileName(), QDate::currentDate())};
+}
+
+int mostra(const QString& percorso) {
     QFile file(percorso);
     if (!file.open(QIODevice::ReadOnly)) {
         scrivi(stderr, u"%1: il file non si può leggere (%2).\n"_s.arg(percorso, file.errorString()));
-        return Illeggibile;
+        return bor::resoconto::esitoErrore;
     }
-    const auto rilievi = bor::controllaXml(file.readAll(), QFileInfo(percorso).fileName());
-    if (rilievi.empty()) {
-        scrivi(stdout, u"%1: nessun rilievo.\n"_s.arg(percorso));
-        return Buono;
-    }
-    scrivi(stdout, u"%1: %2 rilievi.\n\n"_s.arg(percorso).arg(rilievi.size()));
-    for (const bor::Rilievo& rilievo : rilievi)
-        scrivi(stdout, bor::testoRilievo(rilievo) + u'\n');
-    return ConRilievi;
+    scrivi(stdout, bor::vistaFattura(file.readAll()));
+    return 0;
 }
 
 } // namespace
@@ -45,26 +68,35 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser riga;
     riga.setApplicationDescription(
-        u"Dice che cosa il sistema di interscambio rifiuterebbe in una fattura elettronica PA, prima dell'invio."_s);
+        u"Dice che cosa il sistema di interscambio rifiuterebbe in una fattura elettronica, del 2014 o di "
+        u"oggi, "
+        u"prima dell'invio. Il codice di uscita è il numero dei file con rilievi (al massimo 254)."_s);
     const QCommandLineOption aiuto({u"h"_s, u"help"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s);
-    riga.addOptions({aiuto, {u"version"_s, u"Mostra la versione."_s}});
-    riga.addPositionalArgument(u"file"_s, u"I file XML da controllare."_s, u"file..."_s);
+    const QCommandLineOption json(u"json"_s, u"Scrive i rilievi in JSON."_s);
+    const QCommandLineOption pagina(u"mostra"_s, u"Scrive la fattura come pagina HTML da leggere."_s,
+                                    u"file"_s);
+    riga.addOptions({aiuto, json, pagina, {u"version"_s, u"Mostra la versione."_s}});
+    riga.addPositionalArgument(u"file"_s, u"I file XML da controllare, o cartelle di file XML."_s,
+                               u"file..."_s);
     if (!riga.parse(QCoreApplication::arguments())) {
         scrivi(stderr, riga.errorText() + u'\n');
-        return Illeggibile;
+        return bor::resoconto::esitoErrore;
     }
     if (riga.isSet(u"version"_s))
         riga.showVersion();
     if (riga.isSet(aiuto)) {
         scrivi(stdout, riga.helpText());
-        return Buono;
+        return 0;
     }
+    if (riga.isSet(pagina))
+        return mostra(riga.value(pagina));
     if (riga.positionalArguments().isEmpty()) {
         scrivi(stderr, riga.helpText());
-        return Illeggibile;
+        return bor::resoconto::esitoErrore;
     }
-    Esito peggiore = Buono;
-    for (const QString& percorso : riga.positionalArguments())
-        peggiore = std::max(peggiore, controlla(percorso));
-    return peggiore;
+    bor::resoconto::Resoconto resoconto(riga.isSet(json));
+    for (const QString& percorso : fileDi(riga.positionalArguments()))
+        scrivi(stdout, resoconto.aggiungi(controlla(percorso)));
+    scrivi(stdout, resoconto.chiudi());
+    return resoconto.esito();
 }

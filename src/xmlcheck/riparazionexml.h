@@ -2,7 +2,9 @@
 // meant, with a mark in front by which the finding is put to the right element afterwards.
 #pragma once
 
-#include "einvoice/controlloxml.h"
+#include "xmlcheck/rilievo.h"
+
+#include <QByteArray>
 
 #include <array>
 
@@ -12,6 +14,9 @@ namespace bor {
 enum class Segno : char16_t { Codifica = 0xFDD0, ECommerciale, Minore, Controllo };
 
 inline constexpr std::array segni = {Segno::Codifica, Segno::ECommerciale, Segno::Minore, Segno::Controllo};
+
+/// A file with more marks than this is beyond repair: the text ends there.
+inline constexpr qsizetype segniMassimi = 10'000;
 
 /// The text of the file with its marks. Encoded as it declares, or byte by byte as the Italian code page
 /// where the bytes are no UTF-8.

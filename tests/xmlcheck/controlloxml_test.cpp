@@ -1,6 +1,6 @@
 // What the check of electronic invoices says of a good file, of files with one fault each, and of garbage.
 #include "common/codicifiscali.h"
-#include "einvoice/controlloxml.h"
+#include "xmlcheck/controlloxml.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace {
 const QString nomeBuono = u"IT01234567897_00012.xml"_s;
 
 QByteArray fatturaBuona() {
-    QFile file(QStringLiteral(BOR_SOURCE_DIR "/tests/einvoice/fattura_buona.xml"));
+    QFile file(QStringLiteral(BOR_SOURCE_DIR "/tests/xmlcheck/fattura_buona.xml"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -65,7 +65,7 @@ const Guasto guasti[] = {
      u"CessionarioCommittente/Sede/Nazione"_s, u"vuoto"_s},
     {"ProvinciaMinuscola", "<Provincia>MI<", "<Provincia>mi<", u"CedentePrestatore/Sede/Provincia"_s,
      u"Kit"_s},
-    {"RegimeIgnoto", "RF01", "RF20", u"RegimeFiscale"_s, u"RF19"_s},
+    {"RegimeIgnoto", "RF01", "RF20", u"RegimeFiscale"_s, u"RF18"_s},
     {"CodiceFiscaleErrato", "RSSMRA80A01H501U", "RSSMRA80A01H501X", u"DatiAnagrafici/CodiceFiscale"_s,
      u"controllo"_s},
     {"PartitaIvaErrata", "<IdCodice>01234567897</IdCodice><!--cedente-->", "<IdCodice>01234567890</IdCodice>",

@@ -1,4 +1,4 @@
-#include "einvoice/riparazionexml.h"
+#include "xmlcheck/riparazionexml.h"
 
 #include "common/testo.h"
 
@@ -40,12 +40,14 @@ QString decodifica(const QByteArray& contenuto) {
     QString testo;
     testo.reserve(contenuto.size());
     const QByteArrayView byte(contenuto);
-    for (qsizetype i = 0; i < byte.size();) {
+    qsizetype errati = 0;
+    for (qsizetype i = 0; i < byte.size() && errati <= segniMassimi;) {
         if (const qsizetype lunghezza = lunghezzaUtf8(byte, i); lunghezza > 0) {
             testo += QUtf8StringView(byte.sliced(i, lunghezza)).toString();
             i += lunghezza;
         } else {
             testo += carattereDi(Segno::Codifica) + daCp1252(byte.sliced(i, 1));
+            ++errati;
             ++i;
         }
     }
@@ -62,7 +64,7 @@ public:
     explicit Riparatore(QStringView testo) : m_testo(testo) { m_uscita.reserve(testo.size()); }
 
     QString ripara() {
-        while (m_posizione < m_testo.size()) {
+        while (m_posizione < m_testo.size() && m_sostituiti <= segniMassimi) {
             if (!copiaTratto(u"<!--", u"-->") && !copiaTratto(u"<![CDATA[", u"]]>") &&
                 !copiaTratto(u"<?", u"?>"))
                 copiaCarattere();
@@ -100,15 +102,30 @@ private:
     }
 
     void sostituisci(Segno segno, QStringView testo) {
+        ++m_sostituiti;
         if (!m_dentroTag)
             m_uscita += carattereDi(segno);
         m_uscita += testo;
     }
 
+    /// "&amp;", "&#38;" and the like, by hand: a file may hold a million of them.
     bool iniziaRiferimento() const {
-        static const QRegularExpression riferimento(
-            u"^&(amp|lt|gt|quot|apos|#[0-9]{1,7}|#x[0-9A-Fa-f]{1,6});"_s);
-        return riferimento.match(pezzo(resto(), 1, 12)).hasMatch();
+        const QStringView nome = pezzoFino(u';');
+        if (!nome.startsWith(u'#'))
+            return nome == u"amp" || nome == u"lt" || nome == u"gt" || nome == u"quot" || nome == u"apos";
+        const bool esadecimale = nome.size() > 1 && nome[1] == u'x';
+        const QStringView cifre = nome.sliced(esadecimale ? 2 : 1);
+        bool numero = false;
+        (void)cifre.toUInt(&numero, esadecimale ? 16 : 10);
+        return numero && cifre.size() <= 7 && cifre[0] != u'+';
+    }
+
+    /// What stands between this character and the next `fine`, which must be near.
+    QStringView pezzoFino(QChar fine) const {
+        constexpr qsizetype massimo = 12;
+        const QStringView vicino = resto().sliced(1).left(massimo);
+        const qsizetype dove = vicino.indexOf(fine);
+        return dove < 0 ? QStringView() : vicino.first(dove);
     }
 
     bool iniziaTag() const {
@@ -123,6 +140,7 @@ private:
 
     QStringView m_testo;
     qsizetype m_posizione = 0;
+    qsizetype m_sostituiti = 0;
     bool m_dentroTag = false;
     QString m_uscita;
 };

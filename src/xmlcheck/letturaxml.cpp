@@ -1,6 +1,6 @@
-#include "einvoice/letturaxml.h"
+#include "xmlcheck/letturaxml.h"
 
-#include "einvoice/riparazionexml.h"
+#include "xmlcheck/riparazionexml.h"
 
 #include <QHash>
 #include <libxml/parser.h>
@@ -19,6 +19,12 @@ namespace {
 /// A file that is no invoice at all gives thousands of errors; the first ones tell it all.
 constexpr std::size_t erroriMassimi = 30;
 
+/// The receiving system takes files of five million bytes at most.
+constexpr qsizetype byteMassimi = 5'000'000;
+
+/// The longest invoice, of 9999 lines with 20 elements each, has fewer.
+constexpr int elementiMassimi = 250'000;
+
 struct ErroreSintassi {
     int codice = 0;
     int riga = 0;
@@ -28,6 +34,9 @@ struct ErroreSintassi {
 };
 
 using ErroriSintassi = std::vector<ErroreSintassi>;
+
+const QString rigenera = u"Generare di nuovo il file, o chiederlo di nuovo a chi lo ha emesso."_s;
+const QString codiceForma = u"00200"_s;
 
 QString testoDi(const void* caratteri) {
     return QString::fromUtf8(static_cast<const char*>(caratteri));
@@ -62,7 +71,7 @@ QString percorsoDi(const xmlNode* nodo) {
 }
 
 Rilievo rilievoDi(const ErroreSintassi& errore) {
-    Rilievo r{.elemento = percorsoDi(errore.nodo), .riga = errore.riga};
+    Rilievo r{.elemento = percorsoDi(errore.nodo), .riga = errore.riga, .codice = codiceForma};
     switch (errore.codice) {
     case XML_ERR_TAG_NAME_MISMATCH:
         r.valore = u"</%1>"_s.arg(errore.chiuso);
@@ -74,13 +83,13 @@ Rilievo rilievoDi(const ErroreSintassi& errore) {
     case XML_ERR_DOCUMENT_EMPTY:
     case XML_ERR_DOCUMENT_END:
         r.motivo = u"Il file è vuoto o interrotto."_s;
-        r.rimedio = u"Generare di nuovo il file dalla maschera \"Fattura elettronica PA\"."_s;
+        r.rimedio = rigenera;
         break;
     default:
         r.motivo = u"Da qui in poi il file non è un XML ben formato."_s;
         r.rimedio =
             u"Cercare in questa riga i segni \"<\" e \">\" e toglierli dai testi, poi generare di nuovo il "
-            "file dalla maschera \"Fattura elettronica PA\"."_s;
+            "file."_s;
     }
     return r;
 }
@@ -110,7 +119,8 @@ void raccogliSegni(Nodo& nodo, std::vector<Rilievo>& rilievi) {
     for (Rilievo& r : trovati) {
         r.elemento = nodo.percorso;
         r.riga = nodo.riga;
-        r.valore = nodo.testo;
+        r.valore = nodo.testo.trimmed();
+        r.codice = codiceForma;
         rilievi.push_back(r);
     }
 }
@@ -135,12 +145,22 @@ void copiaFigli(const xmlNode* sorgente, Nodo& nodo, std::vector<Rilievo>& rilie
     }
 }
 
+QString spazioDi(const xmlNs* spazio) {
+    return spazio ? testoDi(spazio->href) : QString();
+}
+
 Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>& rilievi) {
-    Nodo nodo{.nome = testoDi(sorgente->name), .percorso = percorso, .testo = {}, .riga = sorgente->line};
+    Nodo nodo{.nome = testoDi(sorgente->name),
+              .spazio = spazioDi(sorgente->ns),
+              .percorso = percorso,
+              .testo = {},
+              .riga = static_cast<int>(xmlGetLineNo(sorgente))};
     for (const xmlNode* n = sorgente->children; n; n = n->next)
         if (n->type == XML_TEXT_NODE || n->type == XML_CDATA_SECTION_NODE)
             nodo.testo += testoDi(n->content);
-    nodo.testo = nodo.testo.trimmed();
+    for (const xmlAttr* a = sorgente->properties; a; a = a->next)
+        nodo.attributi.push_back(
+            {testoDi(a->name), spazioDi(a->ns), a->children ? testoDi(a->children->content) : QString()});
     raccogliSegni(nodo, rilievi);
     copiaFigli(sorgente, nodo, rilievi);
     return nodo;
@@ -169,6 +189,27 @@ std::unique_ptr<xmlDoc, Contesti> analizza(const QByteArray& utf8, ErroriSintass
                           XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_BIG_LINES));
 }
 
+/// Why a text is not even parsed; nothing when it is.
+std::optional<Rilievo> troppo(const QString& testo) {
+    if (testo.contains(u"<!DOCTYPE"_s))
+        return Rilievo{.valore = u"<!DOCTYPE"_s,
+                       .motivo = u"Il file contiene una dichiarazione DOCTYPE, che non è ammessa."_s,
+                       .rimedio = rigenera,
+                       .codice = codiceForma};
+    const auto segnati = std::ranges::count_if(testo, [](QChar c) {
+        return std::ranges::find(segni, static_cast<Segno>(c.unicode())) != segni.end();
+    });
+    if (segnati > segniMassimi)
+        return Rilievo{.motivo = u"Il file ha troppi caratteri errati e non è stato letto."_s,
+                       .rimedio = rigenera,
+                       .codice = codiceForma};
+    if (testo.count(u'<') > 2 * elementiMassimi)
+        return Rilievo{.motivo = u"Il file ha troppi elementi per essere una fattura e non è stato letto."_s,
+                       .rimedio = rigenera,
+                       .codice = codiceForma};
+    return std::nullopt;
+}
+
 } // namespace
 
 const Nodo* Nodo::figlio(QStringView nomeFiglio) const {
@@ -179,17 +220,22 @@ const Nodo* Nodo::figlio(QStringView nomeFiglio) const {
 
 QString Nodo::valore(QStringView nomeFiglio) const {
     const Nodo* n = figlio(nomeFiglio);
-    return n ? n->testo : QString();
+    return n ? n->testo.trimmed() : QString();
 }
 
 LetturaXml leggiXml(const QByteArray& contenuto) {
     LetturaXml lettura;
-    const QString testo = riparaXml(contenuto);
-    if (testo.contains(u"<!DOCTYPE"_s)) {
+    if (contenuto.size() > byteMassimi) {
         lettura.rilievi.push_back(
-            {.valore = u"<!DOCTYPE"_s,
-             .motivo = u"Il file contiene una dichiarazione DOCTYPE, che non è ammessa."_s,
-             .rimedio = u"Generare di nuovo il file dalla maschera \"Fattura elettronica PA\"."_s});
+            {.valore = u"%1 byte"_s.arg(contenuto.size()),
+             .motivo = u"Il file supera i 5.000.000 di byte ammessi e non è stato letto."_s,
+             .rimedio = u"Dividere il documento in più documenti, o togliere gli allegati."_s,
+             .codice = u"00003"_s});
+        return lettura;
+    }
+    const QString testo = riparaXml(contenuto);
+    if (auto motivo = troppo(testo)) {
+        lettura.rilievi.push_back(*std::move(motivo));
         return lettura;
     }
     ErroriSintassi errori;
@@ -198,7 +244,6 @@ LetturaXml leggiXml(const QByteArray& contenuto) {
     const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr;
     if (!radice)
         return lettura;
-    lettura.spazioNomi = radice->ns ? testoDi(radice->ns->href) : QString();
     lettura.radice = copiaNodo(radice, QString(), lettura.rilievi);
     return lettura;
 }

@@ -1,0 +1,166 @@
+#include "xmlcheck/controllifattura.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+constexpr QStringView spazioFirma = u"http://www.w3.org/2000/09/xmldsig#";
+constexpr QStringView spazioIstanza = u"http://www.w3.org/2001/XMLSchema-instance";
+const QString codiceForma = u"00200"_s;
+
+QString sotto(const QString& percorso, const QString& nome) {
+    return percorso.isEmpty() ? nome : percorso + u'/' + nome;
+}
+
+void controllaValore(Controllo& c, const Nodo& nodo, const Elemento& elemento) {
+    if (!nodo.figli.empty())
+        c.errore(codiceForma, nodo.percorso, nodo,
+                 u"L'elemento contiene altri elementi al posto di un valore."_s, u"Correggere"_s);
+    else if (haForma(elemento.riga, nodo.testo))
+        return;
+    else if (nodo.testo.isEmpty())
+        c.errore(codiceForma, nodo.percorso, nodo,
+                 u"L'elemento è vuoto: %1."_s.arg(formaAttesa(elemento.riga)), u"Compilare"_s);
+    else if (haForma(elemento.riga, nodo.testo.trimmed()))
+        c.errore(codiceForma, nodo.percorso, nodo, u"Il valore ha spazi davanti o in coda."_s,
+                 u"Toglierli"_s);
+    else
+        c.errore(codiceForma, nodo.percorso, nodo, u"Qui %1."_s.arg(formaAttesa(elemento.riga)),
+                 u"Correggere"_s);
+}
+
+/// Below the root no element has attributes of its own.
+void controllaAttributi(Controllo& c, const Nodo& nodo) {
+    for (const Attributo& a : nodo.attributi)
+        if (a.spazio != spazioIstanza)
+            c.errore(codiceForma, nodo.percorso, nodo, u"L'attributo %1 qui non è previsto."_s.arg(a.nome),
+                     u"Toglierlo"_s);
+}
+
+void controllaSpazio(Controllo& c, const Nodo& nodo) {
+    if (!nodo.spazio.isEmpty())
+        c.errore(codiceForma, nodo.percorso, nodo,
+                 u"L'elemento appartiene a un altro spazio dei nomi (%1)."_s.arg(nodo.spazio),
+                 u"Correggere"_s);
+}
+
+void controllaElemento(Controllo& c, const Nodo& nodo, const Elemento& elemento);
+
+/// Walks the children beside the layout; gives how often each of the layout's elements stood there.
+std::vector<int> controllaSequenza(Controllo& c, const Nodo& nodo, const Elemento& elemento) {
+    const std::vector<Elemento>& previsti = elemento.figli;
+    std::vector<int> volte(previsti.size());
+    std::size_t raggiunto = 0;
+    for (const Nodo& figlio : nodo.figli) {
+        const auto trovato = std::ranges::find(previsti, figlio.nome, &Elemento::nome);
+        if (trovato == previsti.end()) {
+            c.errore(codiceForma, figlio.percorso, figlio, u"L'elemento qui non è previsto."_s,
+                     u"Togliere dal file, o correggere"_s);
+            continue;
+        }
+        const auto indice = static_cast<std::size_t>(trovato - previsti.begin());
+        if (indice < raggiunto)
+            c.errore(codiceForma, figlio.percorso, figlio,
+                     u"L'elemento è fuori ordine: va prima di %1."_s.arg(previsti[raggiunto].nome),
+                     u"Spostare nel file, o correggere"_s);
+        raggiunto = std::max(raggiunto, indice);
+        const bool ripetibile = trovato->riga.volte == Volte::UnaOPiu || trovato->riga.volte == Volte::Libere;
+        if (++volte[indice] == 2 && !ripetibile)
+            c.errore(codiceForma, figlio.percorso, figlio, u"L'elemento c'è più di una volta."_s,
+                     u"Lasciarne uno solo"_s);
+        controllaElemento(c, figlio, *trovato);
+    }
+    return volte;
+}
+
+void mancante(Controllo& c, const Nodo& nodo, const QString& nome) {
+    const Nodo vuoto{.nome = nome, .spazio = {}, .percorso = {}, .testo = {}, .riga = nodo.riga};
+    c.errore(codiceForma, sotto(nodo.percorso, nome), vuoto, u"L'elemento manca ed è obbligatorio."_s,
+             u"Compilare"_s);
+}
+
+/// One of the two ways, and whole.
+void controllaAlternative(Controllo& c, const Nodo& nodo, const Elemento& elemento,
+                          const std::vector<int>& volte) {
+    int previste[2] = {};
+    int presenti[2] = {};
+    for (std::size_t i = 0; i < volte.size(); ++i) {
+        const Volte quante = elemento.figli[i].riga.volte;
+        if (quante != Volte::Prima && quante != Volte::Seconda)
+            continue;
+        const int via = quante == Volte::Prima ? 0 : 1;
+        ++previste[via];
+        presenti[via] += volte[i] > 0 ? 1 : 0;
+    }
+    if (previste[0] == 0)
+        return;
+    const bool prima = presenti[0] == previste[0] && presenti[1] == 0;
+    const bool seconda = presenti[1] == previste[1] && presenti[0] == 0;
+    if (!prima && !seconda)
+        c.errore(codiceForma, nodo.percorso, nodo,
+                 u"Ci vuole o la denominazione o nome e cognome, e non tutti e tre."_s,
+                 u"Correggere l'intestazione"_s);
+}
+
+void controllaElemento(Controllo& c, const Nodo& nodo, const Elemento& elemento) {
+    if (elemento.riga.forma == Forma::Libero) {
+        if (nodo.spazio != spazioFirma)
+            controllaSpazio(c, nodo);
+        return;
+    }
+    if (elemento.riga.livello > 0) {
+        controllaSpazio(c, nodo);
+        controllaAttributi(c, nodo);
+    }
+    if (elemento.figli.empty())
+        return controllaValore(c, nodo, elemento);
+    if (!nodo.testo.trimmed().isEmpty())
+        c.errore(codiceForma, nodo.percorso, nodo,
+                 u"Fra gli elementi c'è del testo che non appartiene a nessuno."_s, u"Toglierlo"_s);
+    const std::vector<int> volte = controllaSequenza(c, nodo, elemento);
+    for (std::size_t i = 0; i < volte.size(); ++i) {
+        const Volte quante = elemento.figli[i].riga.volte;
+        if (volte[i] == 0 && (quante == Volte::Una || quante == Volte::UnaOPiu))
+            mancante(c, nodo, elemento.figli[i].nome);
+    }
+    controllaAlternative(c, nodo, elemento, volte);
+}
+
+/// The attributes of the root: the version, today also the name of the program that wrote the file.
+void controllaRadice(Controllo& c, const Nodo& radice) {
+    static const RigaTracciato sistema{0, u"", Volte::AlPiuUna, Forma::Ascii, 1, 10};
+    static const RigaTracciato versione10{0, u"", Volte::Una, Forma::Scelta, 0, 0, nullptr, u"1.0"};
+    static const RigaTracciato versione123{0, u"", Volte::Una, Forma::Scelta, 0, 0, nullptr, u"FPA12 FPR12"};
+    const bool oggi = c.versione == Versione::V123;
+    const RigaTracciato& versione = oggi ? versione123 : versione10;
+    bool conVersione = false;
+    for (const Attributo& a : radice.attributi) {
+        if (a.spazio == spazioIstanza)
+            continue;
+        const bool eVersione = a.nome == u"versione" && a.spazio.isEmpty();
+        const bool eSistema = oggi && a.nome == u"SistemaEmittente" && a.spazio.isEmpty();
+        conVersione = conVersione || eVersione;
+        if (!eVersione && !eSistema)
+            c.errore(codiceForma, {}, radice, u"L'attributo %1 qui non è previsto."_s.arg(a.nome),
+                     u"Toglierlo"_s);
+        else if (const RigaTracciato& riga = eVersione ? versione : sistema; !haForma(riga, a.valore))
+            c.errore(codiceForma, {}, radice,
+                     u"L'attributo %1 vale \"%2\": %3."_s.arg(a.nome, a.valore, formaAttesa(riga)),
+                     u"Correggere"_s);
+    }
+    if (!conVersione)
+        c.errore(codiceForma, {}, radice, u"Manca l'attributo versione."_s, u"Correggere"_s);
+}
+
+} // namespace
+
+void controllaTracciato(Controllo& c, const Nodo& radice) {
+    controllaRadice(c, radice);
+    controllaElemento(c, radice, tracciato(c.versione));
+}
+
+} // namespace bor

@@ -1,0 +1,179 @@
+#include "xmlcheck/vistafattura.h"
+
+#include "common/date.h"
+#include "common/numeri.h"
+#include "xmlcheck/controllifattura.h"
+#include "xmlcheck/paginahtml.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+QString tipoInParole(const QString& codice) {
+    static const QHash<QString, QString> nomi = {{u"TD01"_s, u"Fattura"_s},
+                                                 {u"TD02"_s, u"Acconto su fattura"_s},
+                                                 {u"TD03"_s, u"Acconto su parcella"_s},
+                                                 {u"TD04"_s, u"Nota di credito"_s},
+                                                 {u"TD05"_s, u"Nota di debito"_s},
+                                                 {u"TD06"_s, u"Parcella"_s},
+                                                 {u"TD24"_s, u"Fattura differita"_s},
+                                                 {u"TD25"_s, u"Fattura differita (triangolare)"_s},
+                                                 {u"TD26"_s, u"Cessione di beni ammortizzabili"_s},
+                                                 {u"TD27"_s, u"Autoconsumo o cessione gratuita"_s}};
+    return nomi.value(codice, u"Documento %1"_s.arg(codice));
+}
+
+QString unisci(const QStringList& parti, const QString& fra) {
+    QStringList piene;
+    for (const QString& parte : parti)
+        if (!parte.isEmpty())
+            piene.append(parte);
+    return piene.join(fra);
+}
+
+QString nomeDi(const Nodo& anagrafica) {
+    return unisci({anagrafica.valore(u"Denominazione"), anagrafica.valore(u"Titolo"),
+                   anagrafica.valore(u"Nome"), anagrafica.valore(u"Cognome")},
+                  u" "_s);
+}
+
+QString indirizzoDi(const Nodo& sede) {
+    const QString provincia = sede.valore(u"Provincia");
+    return unisci({unisci({sede.valore(u"Indirizzo"), sede.valore(u"NumeroCivico")}, u" "_s),
+                   unisci({sede.valore(u"CAP"), sede.valore(u"Comune"),
+                           provincia.isEmpty() ? QString() : u'(' + provincia + u')'},
+                          u" "_s),
+                   sede.valore(u"Nazione")},
+                  u" - "_s);
+}
+
+void mostraSoggetto(PaginaHtml& pagina, const QString& titolo, const Nodo* soggetto) {
+    if (!soggetto)
+        return;
+    pagina.sezione(titolo);
+    if (const Nodo* dati = soggetto->figlio(u"DatiAnagrafici")) {
+        if (const Nodo* anagrafica = dati->figlio(u"Anagrafica"))
+            pagina.paragrafo(nomeDi(*anagrafica));
+        if (const Nodo* id = dati->figlio(u"IdFiscaleIVA"))
+            pagina.voce(u"Partita IVA"_s, id->valore(u"IdPaese") + u' ' + id->valore(u"IdCodice"));
+        pagina.voce(u"Codice fiscale"_s, dati->valore(u"CodiceFiscale"));
+        pagina.voce(u"Regime fiscale"_s, dati->valore(u"RegimeFiscale"));
+    }
+    if (const Nodo* sede = soggetto->figlio(u"Sede"))
+        pagina.voce(u"Sede"_s, indirizzoDi(*sede));
+    if (const Nodo* contatti = soggetto->figlio(u"Contatti"))
+        pagina.voce(u"Contatti"_s,
+                    unisci({contatti->valore(u"Telefono"), contatti->valore(u"Email")}, u" - "_s));
+}
+
+void mostraTestata(PaginaHtml& pagina, const Nodo& testata) {
+    if (const Nodo* trasmissione = testata.figlio(u"DatiTrasmissione")) {
+        pagina.sezione(u"Trasmissione"_s);
+        pagina.voce(u"Progressivo"_s, trasmissione->valore(u"ProgressivoInvio"));
+        pagina.voce(u"Formato"_s, trasmissione->valore(u"FormatoTrasmissione"));
+        pagina.voce(u"Codice destinatario"_s, trasmissione->valore(u"CodiceDestinatario"));
+        pagina.voce(u"PEC"_s, trasmissione->valore(u"PECDestinatario"));
+    }
+    mostraSoggetto(pagina, u"Chi vende"_s, testata.figlio(u"CedentePrestatore"));
+    mostraSoggetto(pagina, u"Chi compra"_s, testata.figlio(u"CessionarioCommittente"));
+}
+
+} // namespace
+
+QString numeroItaliano(const QString& testo) {
+    static const QRegularExpression forma(u"\\A-?[0-9]{1,15}(\\.[0-9]{1,8})?\\z"_s);
+    if (!forma.match(testo).hasMatch())
+        return testo;
+    const qsizetype punto = testo.indexOf(u'.');
+    return testoItaliano(valore(testo), punto < 0 ? 0 : static_cast<int>(testo.size() - punto - 1));
+}
+
+QString dataItaliana(const QString& testo) {
+    const QDate data = QDate::fromString(testo, Qt::ISODate);
+    return data.isValid() ? testoData(data) : testo;
+}
+
+void PaginaHtml::tabella(const QStringList& colonne, const QList<QStringList>& righe) {
+    if (righe.isEmpty())
+        return;
+    m_corpo += u"<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">\n<tr>";
+    for (const QString& nome : colonne)
+        m_corpo += u"<th>"_s + (nome.startsWith(u'>') ? nome.mid(1) : nome).toHtmlEscaped() + u"</th>"_s;
+    m_corpo += u"</tr>\n";
+    for (const QStringList& riga : righe) {
+        m_corpo += u"<tr>";
+        for (qsizetype i = 0; i < riga.size(); ++i) {
+            const bool aDestra = colonne.value(i).startsWith(u'>');
+            m_corpo +=
+                (aDestra ? u"<td align=\"right\">"_s : u"<td>"_s) + riga[i].toHtmlEscaped() + u"</td>"_s;
+        }
+        m_corpo += u"</tr>\n";
+    }
+    m_corpo += u"</table>\n";
+}
+
+QString PaginaHtml::html(const QString& nomePagina) const {
+    return u"<!DOCTYPE html>\n<html lang=\"it\"><head><meta charset=\"utf-8\"><title>"_s +
+           nomePagina.toHtmlEscaped() + u"</title></head>\n<body>\n"_s + m_corpo + u"</body></html>\n"_s;
+}
+
+void mostraDocumento(PaginaHtml& pagina, const Nodo& corpo) {
+    const Nodo* generali = corpo.figlio(u"DatiGenerali");
+    const Nodo* documento = generali ? generali->figlio(u"DatiGeneraliDocumento") : nullptr;
+    if (!documento)
+        return;
+    pagina.titolo(u"%1 n. %2 del %3"_s.arg(tipoInParole(documento->valore(u"TipoDocumento")),
+                                           documento->valore(u"Numero"),
+                                           dataItaliana(documento->valore(u"Data"))));
+    pagina.voce(u"Totale documento"_s, unisci({documento->valore(u"Divisa"),
+                                               numeroItaliano(documento->valore(u"ImportoTotaleDocumento"))},
+                                              u" "_s));
+    for (const Nodo& n : documento->figli) {
+        if (n.nome == u"Causale")
+            pagina.voce(u"Causale"_s, n.testo.trimmed());
+        else if (n.nome == u"DatiBollo")
+            pagina.voce(u"Bollo"_s, numeroItaliano(n.valore(u"ImportoBollo")));
+        else if (n.nome == u"DatiRitenuta")
+            pagina.voce(u"Ritenuta"_s, u"%1 (%2%, %3, causale %4)"_s.arg(
+                                           numeroItaliano(n.valore(u"ImportoRitenuta")),
+                                           numeroItaliano(n.valore(u"AliquotaRitenuta")),
+                                           n.valore(u"TipoRitenuta"), n.valore(u"CausalePagamento")));
+        else if (n.nome == u"DatiCassaPrevidenziale")
+            pagina.voce(u"Cassa"_s, u"%1 %2%: %3 su %4"_s.arg(
+                                        n.valore(u"TipoCassa"), numeroItaliano(n.valore(u"AlCassa")),
+                                        numeroItaliano(n.valore(u"ImportoContributoCassa")),
+                                        numeroItaliano(n.valore(u"ImponibileCassa"))));
+    }
+}
+
+QString vistaFattura(const QByteArray& contenuto) {
+    const LetturaXml lettura = leggiXml(contenuto);
+    PaginaHtml pagina;
+    const QString nome = u"Fattura elettronica"_s;
+    if (!lettura.radice || lettura.radice->nome != u"FatturaElettronica") {
+        pagina.titolo(nome);
+        pagina.paragrafo(u"Il file non è una fattura elettronica."_s);
+        for (const Rilievo& r : lettura.rilievi)
+            pagina.paragrafo(r.motivo);
+        return pagina.html(nome);
+    }
+    const Nodo* testata = lettura.radice->figlio(u"FatturaElettronicaHeader");
+    bool primo = true;
+    for (const Nodo& corpo : lettura.radice->figli) {
+        if (corpo.nome != u"FatturaElettronicaBody")
+            continue;
+        mostraDocumento(pagina, corpo);
+        if (primo && testata)
+            mostraTestata(pagina, *testata);
+        primo = false;
+        mostraRighe(pagina, corpo);
+    }
+    return pagina.html(nome);
+}
+
+} // namespace bor

@@ -1,0 +1,44 @@
+// The readable page of an invoice: what a person looks for is on it, and nothing of the file is markup there.
+#include "xmlcheck/vistafattura.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+namespace {
+
+QByteArray fatturaBuona() {
+    QFile file(QStringLiteral(BOR_SOURCE_DIR "/tests/xmlcheck/fattura_buona.xml"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST(VistaFattura, DiceChiVendeChiCompraRigheERate) {
+    const QString pagina = vistaFattura(fatturaBuona());
+    for (const QString& testo :
+         {u"Fattura n. 12/PA del 31/03/2015"_s, u"Comune di Prova"_s, u"IT 01234567897"_s,
+          u"Viti e bulloni"_s, u"<td align=\"right\">90,00</td>"_s, u"N4"_s, u"19,80"_s,
+          u"IT60X0542811101000000123456"_s, u"101,80"_s})
+        EXPECT_TRUE(pagina.contains(testo)) << testo.toStdString();
+}
+
+TEST(VistaFattura, ITestiDelFileNonSonoMaiMarcatura) {
+    QByteArray ostile = fatturaBuona();
+    ostile.replace("Viti e", "&lt;script&gt;alert(1)&lt;/script&gt; &quot; onload=&quot;x");
+    const QString pagina = vistaFattura(ostile);
+    EXPECT_FALSE(pagina.contains(u"<script"_s));
+    EXPECT_TRUE(pagina.contains(u"&lt;script&gt;"_s));
+    EXPECT_FALSE(pagina.contains(u"\" onload"_s));
+}
+
+TEST(VistaFattura, DiUnAltroFileDiceCheNonEUnaFattura) {
+    for (const QByteArray& altro :
+         {QByteArray(), QByteArray("<a/>"), QByteArray("%PDF-1.4"), QByteArray(5'000'001, 'x')})
+        EXPECT_TRUE(vistaFattura(altro).contains(u"non è una fattura"_s));
+}
+
+} // namespace bor
