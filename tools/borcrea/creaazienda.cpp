@@ -151,6 +151,7 @@ void Cantiere::costruisci() {
     prendiTesto(u"borlano.trb"_s, m_archivio.borlano(u"trb"), false);
     for (const QStringView layout : {u"lyf", u"lyp", u"lkf", u"lkp", u"lxf", u"lxp", u"pdf"})
         prendiTesto(u"borlano."_s + layout.toString(), m_archivio.borlano(layout), false);
+    prendiTesto(u"borlano.fel"_s, m_archivio.borlano(u"fel"), false);
     QFile::copy(m_richiesta.sorgente + u'/' + fileLogo, m_archivio.reale(radiceSuite.toString() + fileLogo));
     prendiTesto(u"borlano.eur"_s, radiceSuite.toString() + u"borlano.eur"_s, false);
     prendiTesto(u"borlano.tbl"_s, radiceSuite.toString() + u"borlano.tbl"_s, false);

@@ -1,0 +1,56 @@
+#include "fatturapa/scrivifattura.h"
+
+#include "common/numeri.h"
+#include "fatturapa/elementixml.h"
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+constexpr QStringView spazioFattura = u"http://ivaservizi.agenziaentrate.gov.it/docs/xsd/fatture/v1.2";
+
+void scriviAllegato(ElementiXml& xml, const AllegatoFel& allegato) {
+    xml.blocco(u"Allegati", [&] {
+        xml.testo(u"NomeAttachment", allegato.nome);
+        xml.testo(u"FormatoAttachment", u"PDF"_s);
+        xml.testo(u"Attachment", QString::fromLatin1(allegato.contenuto.toBase64()));
+    });
+}
+
+} // namespace
+
+QString testoDecimali(double x, int minimi, int massimi) {
+    QString testo = testoFisso(x, massimi);
+    const qsizetype intere = testo.indexOf(u'.') + 1;
+    while (testo.size() > intere + minimi && testo.endsWith(u'0'))
+        testo.chop(1);
+    return testo;
+}
+
+QByteArray scriviFattura(const FatturaElettronica& f) {
+    QByteArray bytes;
+    bytes.reserve(64 * 1024);
+    QXmlStreamWriter scrittore(&bytes);
+    scrittore.setAutoFormatting(true);
+    scrittore.setAutoFormattingIndent(2);
+    scrittore.writeStartDocument();
+    scrittore.writeNamespace(spazioFattura.toString(), u"p"_s);
+    scrittore.writeStartElement(spazioFattura.toString(), u"FatturaElettronica"_s);
+    scrittore.writeAttribute(u"versione"_s, f.trasmissione.pubblica ? u"FPA12"_s : u"FPR12"_s);
+    ElementiXml xml(scrittore);
+    scriviTestata(xml, f);
+    xml.blocco(u"FatturaElettronicaBody", [&] {
+        scriviDatiGenerali(xml, f);
+        scriviBeniServizi(xml, f);
+        scriviPagamento(xml, f.pagamento);
+        if (f.allegato)
+            scriviAllegato(xml, *f.allegato);
+    });
+    scrittore.writeEndElement();
+    scrittore.writeEndDocument();
+    return bytes;
+}
+
+} // namespace bor
