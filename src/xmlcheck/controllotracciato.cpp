@@ -50,13 +50,24 @@ void controllaSpazio(Controllo& c, const Nodo& nodo) {
 
 void controllaElemento(Controllo& c, const Nodo& nodo, const Elemento& elemento);
 
+/// Most elements stand in their order: those from `posto` on are looked at first.
+auto cercaDa(const std::vector<Elemento>& previsti, std::size_t posto, const QString& nome) {
+    const auto meta = previsti.begin() + static_cast<std::ptrdiff_t>(posto);
+    const auto dopo = std::find_if(meta, previsti.end(), [&](const Elemento& e) { return e.nome == nome; });
+    if (dopo != previsti.end())
+        return dopo;
+    const auto prima =
+        std::find_if(previsti.begin(), meta, [&](const Elemento& e) { return e.nome == nome; });
+    return prima == meta ? previsti.end() : prima;
+}
+
 /// Walks the children beside the layout; gives how often each of the layout's elements stood there.
 std::vector<int> controllaSequenza(Controllo& c, const Nodo& nodo, const Elemento& elemento) {
     const std::vector<Elemento>& previsti = elemento.figli;
     std::vector<int> volte(previsti.size());
     std::size_t raggiunto = 0;
     for (const Nodo& figlio : nodo.figli) {
-        const auto trovato = std::ranges::find(previsti, figlio.nome, &Elemento::nome);
+        const auto trovato = cercaDa(previsti, raggiunto, figlio.nome);
         if (trovato == previsti.end()) {
             c.errore(codiceForma, figlio.percorso, figlio, u"L'elemento qui non è previsto."_s,
                      u"Togliere dal file, o correggere"_s);

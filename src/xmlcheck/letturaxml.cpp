@@ -125,11 +125,12 @@ void raccogliSegni(Nodo& nodo, std::vector<Rilievo>& rilievi) {
     }
 }
 
-Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>& rilievi);
+/// `segnati`: takes what the marks of repaired text say; null for a text without marks.
+Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>* rilievi);
 
 /// Numbers the sisters of one name in two passes: looking at all of them for each takes minutes on a hostile
 /// file.
-void copiaFigli(const xmlNode* sorgente, Nodo& nodo, std::vector<Rilievo>& rilievi) {
+void copiaFigli(const xmlNode* sorgente, Nodo& nodo, std::vector<Rilievo>* segnati) {
     QHash<QString, int> quanti;
     for (const xmlNode* n = sorgente->children; n; n = n->next)
         if (n->type == XML_ELEMENT_NODE)
@@ -141,7 +142,7 @@ void copiaFigli(const xmlNode* sorgente, Nodo& nodo, std::vector<Rilievo>& rilie
         const QString nome = testoDi(n->name);
         const QString passo = quanti[nome] > 1 ? conNumero(nome, ++visti[nome]) : nome;
         nodo.figli.push_back(
-            copiaNodo(n, nodo.percorso.isEmpty() ? passo : nodo.percorso + u'/' + passo, rilievi));
+            copiaNodo(n, nodo.percorso.isEmpty() ? passo : nodo.percorso + u'/' + passo, segnati));
     }
 }
 
@@ -149,7 +150,7 @@ QString spazioDi(const xmlNs* spazio) {
     return spazio ? testoDi(spazio->href) : QString();
 }
 
-Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>& rilievi) {
+Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>* segnati) {
     Nodo nodo{.nome = testoDi(sorgente->name),
               .spazio = spazioDi(sorgente->ns),
               .percorso = percorso,
@@ -161,8 +162,9 @@ Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Ril
     for (const xmlAttr* a = sorgente->properties; a; a = a->next)
         nodo.attributi.push_back(
             {testoDi(a->name), spazioDi(a->ns), a->children ? testoDi(a->children->content) : QString()});
-    raccogliSegni(nodo, rilievi);
-    copiaFigli(sorgente, nodo, rilievi);
+    if (segnati)
+        raccogliSegni(nodo, *segnati);
+    copiaFigli(sorgente, nodo, segnati);
     return nodo;
 }
 
@@ -210,6 +212,16 @@ std::optional<Rilievo> troppo(const QString& testo) {
     return std::nullopt;
 }
 
+/// A file with nothing to repair, which is nearly every file, is parsed as it stands; nothing for any other.
+std::optional<Nodo> leggiIntero(const QByteArray& contenuto) {
+    if (!diUtf8(contenuto) || contenuto.contains("<!DOCTYPE") || contenuto.count('<') > 2 * elementiMassimi)
+        return std::nullopt;
+    ErroriSintassi errori;
+    const auto documento = analizza(contenuto, errori);
+    const xmlNode* radice = documento && errori.empty() ? xmlDocGetRootElement(documento.get()) : nullptr;
+    return radice ? std::optional<Nodo>(copiaNodo(radice, QString(), nullptr)) : std::nullopt;
+}
+
 } // namespace
 
 const Nodo* Nodo::figlio(QStringView nomeFiglio) const {
@@ -233,6 +245,10 @@ LetturaXml leggiXml(const QByteArray& contenuto) {
              .codice = u"00003"_s});
         return lettura;
     }
+    if (auto radice = leggiIntero(contenuto)) {
+        lettura.radice = std::move(radice);
+        return lettura;
+    }
     const QString testo = riparaXml(contenuto);
     if (auto motivo = troppo(testo)) {
         lettura.rilievi.push_back(*std::move(motivo));
@@ -244,7 +260,7 @@ LetturaXml leggiXml(const QByteArray& contenuto) {
     const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr;
     if (!radice)
         return lettura;
-    lettura.radice = copiaNodo(radice, QString(), lettura.rilievi);
+    lettura.radice = copiaNodo(radice, QString(), &lettura.rilievi);
     return lettura;
 }
 

@@ -147,6 +147,10 @@ private:
 
 } // namespace
 
+bool diUtf8(const QByteArray& contenuto) {
+    return contenuto.isValidUtf8() && !dichiaraByteSingolo(contenuto);
+}
+
 QString riparaXml(const QByteArray& contenuto) {
     const QString decodificato = decodifica(contenuto);
     QString testo = Riparatore(decodificato).ripara();

@@ -22,6 +22,9 @@ inline constexpr qsizetype segniMassimi = 10'000;
 /// where the bytes are no UTF-8.
 QString riparaXml(const QByteArray& contenuto);
 
+/// The bytes are UTF-8 and declare nothing else.
+bool diUtf8(const QByteArray& contenuto);
+
 /// Finding for one kind of mark, without its element.
 Rilievo rilievoDelSegno(Segno segno);
 
