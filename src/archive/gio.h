@@ -61,8 +61,10 @@ struct Mag {
     Intero clientemag;    ///< `cli` record
     Reale quantita;       ///< negative on a credit note
     Reale valore;         ///< net unit price
-    Intero segnomag;
-    Intero cancellato; ///< 1: deleted
+    Intero segnomag;      ///< `uscita`; any other adds to the stock
+    Intero cancellato;    ///< 1: deleted
+
+    static constexpr int uscita = 1;
 };
 static_assert(sizeof(Mag) == 94 && disposizioneDiFile<Mag>);
 BOR_POSTO(Mag, stampmag, 62);

@@ -32,7 +32,7 @@ Mag rigaMagazzino(const Documento& documento, const Riga& riga, double prezzo) {
     mag.clientemag = static_cast<std::int16_t>(documento.recordcliente);
     mag.quantita = documento.notaCredito() ? -riga.quantita : riga.quantita;
     mag.valore = prezzo;
-    mag.segnomag = 1;
+    mag.segnomag = Mag::uscita;
     return mag;
 }
 

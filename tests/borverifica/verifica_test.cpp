@@ -1,6 +1,7 @@
 // The check of an archive: silent on a sound company, and one defect at a time.
 #include "archive/fpa.h"
 #include "borverifica/verifica.h"
+#include "posting/borftec.h"
 #include "posting/saldi.h"
 #include "posting/scarico.h"
 #include "support/azienda.h"
@@ -40,6 +41,11 @@ protected:
         a.srb.scrivi(1, srb);
         fattura(u"1"_s, 42078.25, 1);
         fattura(u"2"_s, 42079.25, 2);
+        modifica([](Archivio& ar) {
+            Tot tot = ar.leggiTot(Conta::Fte);
+            tot.progressivo = 5;
+            ar.scriviTot(Conta::Fte, tot);
+        });
         ContestoDiProva prova(azienda);
         metti(prova, scarico());
     }
@@ -158,7 +164,8 @@ TEST_F(VerificaTest, DocumentiSenzaClienteRigheOSecondaMeta) {
               "AVVISO  fattura n. 2 (record 2): il file delle righe f3 non c'è: le righe non sono ancora "
               "registrate, o sono andate perse\n"
               "AVVISO  fattura n. 2 (record 2): la seconda metà in borlano.f2e non è mai stata scritta "
-              "(marca 0)");
+              "(marca 0)\n"
+              "AVVISO  f2: è un file delle righe che nessun documento usa");
 }
 
 TEST_F(VerificaTest, FileDelleRigheVecchiCondivisiEAssenti) {
@@ -166,6 +173,7 @@ TEST_F(VerificaTest, FileDelleRigheVecchiCondivisiEAssenti) {
         c.fte.numero.set(u"1/A");
         c.fte.nfile = 0.0F;
     });
+    QFile::remove(azienda.percorso(u"f1"_s));
     EXPECT_EQ(trovate(), "INFO    fattura n. 1/A (record 1): non ha un file delle righe");
     azienda.scrivi(u"FTR1.A15"_s, "1\r\n");
     EXPECT_EQ(trovate(), "");
@@ -224,6 +232,7 @@ TEST_F(VerificaTest, QuelloCheLEliminazioneLasciaNeiContiEDettoAParte) {
         a.gio.scrivi(1, altro);
     });
     modificaFte(2, [](CoppiaFte& c) { c.fte.annullata = 1; });
+    QFile::remove(azienda.percorso(u"f2"_s));
     EXPECT_EQ(trovate(),
               "AVVISO  movimento 1: conti che non esistono: 99999999\n"
               "INFO    conto 01010001 Clienti: lasciato nei progressivi da movimenti eliminati: dare "
@@ -254,6 +263,84 @@ TEST_F(VerificaTest, VendutoDegliArticoli) {
     });
     EXPECT_EQ(trovate(), "INFO    articolo VITE: venduto -1 per -99,98, le righe di magazzino dei "
                          "documenti dicono -3 per -99,98");
+}
+
+TEST_F(VerificaTest, ConUnCaricoGiacenzaEVendutoSonoCerti) {
+    modifica([](Archivio& a) {
+        Mag carico = vuoto<Mag>();
+        carico.articolo = 1;
+        carico.quantita = 100.0;
+        a.aggiungi(a.mag, Conta::Mag, carico);
+        Art vite = a.art.leggi(1);
+        vite.giacenza += 100;
+        a.art.scrivi(1, vite);
+    });
+    EXPECT_EQ(trovate(), "");
+    modifica([](Archivio& a) {
+        Art vite = a.art.leggi(1);
+        vite.giacenza -= 2;
+        vite.venduto += 2;
+        a.art.scrivi(1, vite);
+    });
+    EXPECT_EQ(trovate(), "ERRORE  articolo VITE: venduto 5 per 100,00, le righe di magazzino dei documenti "
+                         "dicono 3 per 100,00\n"
+                         "ERRORE  articolo VITE: giacenza 95, le righe di magazzino dicono 97");
+    modifica([](Archivio& a) {
+        Mag carico = a.mag.leggi(2);
+        carico.cancellato = 1;
+        a.mag.scrivi(2, carico);
+    });
+    EXPECT_EQ(rilievi().filter(u"INFO"_s).size(), 2) << "another module may have loaded and sold";
+    EXPECT_EQ(rilievi().size(), 2);
+}
+
+TEST_F(VerificaTest, QuelloCheLEditorDeiMovimentiPermetteNonEUnErrore) {
+    ContestoDiProva prova(azienda);
+    Documento documento;
+    documento.coppia.fte.stamp = 42078.25;
+    documento.recordfattura = 1;
+    prova.sessione.modificamovimento = true;
+    Borftec editor(prova.contesto, documento);
+    Movimento movimento;
+    movimento.data = u"15/03/2015"_s;
+    movimento.righe[0] = {.conto = {u"01"_s, u"01"_s, u"0001"_s}, .dare = u"-5"_s};
+    movimento.righe[1] = {.conto = {u"07"_s, u"01"_s, u"0001"_s}, .dare = u"10"_s, .avere = u"5"_s};
+    editor.prepara(movimento);
+    editor.salva();
+    ASSERT_TRUE(prova.operatore.messaggi.isEmpty());
+    EXPECT_EQ(rilievi().filter(u"un importo negativo, o dare e avere nella stessa riga"_s).size(), 2);
+    EXPECT_EQ(rilievi().filter(u"ERRORE"_s).size(), 0);
+}
+
+TEST_F(VerificaTest, RestiDiUnaScritturaInterrotta) {
+    azienda.scrivi(u"borlano.rip"_s, QByteArray(300, '\0'));
+    azienda.scrivi(u"borlano.$$$"_s, "copy of a reorder");
+    EXPECT_EQ(trovate(), "");
+    azienda.scrivi(u"borlano.rip"_s, "BORRIP01");
+    azienda.scrivi(u"f3.AbCdEf"_s, "1\r\n");
+    azienda.scrivi(u"p2"_s, "1\r\n");
+    modifica([](Archivio& a) {
+        Tot tot = a.leggiTot(Conta::Fte);
+        tot.progressivo = 1;
+        a.scriviTot(Conta::Fte, tot);
+    });
+    EXPECT_EQ(trovate(),
+              "ERRORE  borlano.tot: l'ultimo file delle righe dato è il 1, ma un documento ha il 2: "
+              "un documento nuovo può prendere le righe di un altro\n"
+              "AVVISO  p2: è un file delle righe che nessun documento usa\n"
+              "ERRORE  borlano.rip: una registrazione è rimasta a metà: archivio e contatori la "
+              "aspettano\n"
+              "AVVISO  f3.AbCdEf: è rimasto da una scrittura interrotta");
+}
+
+TEST_F(VerificaTest, UnDocumentoEliminatoCheLasciaMovimentoERigheOCheDivideIlRiferimento) {
+    modificaFte(1, [](CoppiaFte& c) { c.fte.annullata = 1; });
+    QFile::remove(azienda.percorso(u"f1"_s));
+    EXPECT_EQ(trovate(), "AVVISO  movimento 1 del 15/03/2015, \"\": il suo documento è stato eliminato\n"
+                         "AVVISO  riga di magazzino 1 (FT 1): il suo documento non c'è o è stato eliminato");
+    modificaFte(2, [](CoppiaFte& c) { c.fte.stamp = 42078.25; });
+    EXPECT_TRUE(rilievi().contains(u"ERRORE  fattura n. 2 (record 2): ha lo stesso riferimento a movimenti e "
+                                   u"magazzino di altri documenti: fattura n. 1 (record 1)"_s));
 }
 
 TEST_F(VerificaTest, Indici) {
@@ -318,10 +405,13 @@ TEST_F(VerificaTest, FileOstiliNonLoFermano) {
     }
 }
 
-int esito(const QString& unita) {
+int esito(const QString& unita, const QStringList& altri = {}, QByteArray* uscita = nullptr) {
     QProcess programma;
-    programma.start(QStringLiteral(BORVERIFICA), {u"--unita"_s, unita, u"--azienda"_s, u"7"_s});
+    programma.start(QStringLiteral(BORVERIFICA),
+                    QStringList{u"--unita"_s, unita, u"--azienda"_s, u"7"_s} + altri);
     programma.waitForFinished();
+    if (uscita)
+        *uscita = programma.readAllStandardOutput();
     return programma.exitStatus() == QProcess::NormalExit ? programma.exitCode() : -1;
 }
 
@@ -330,6 +420,12 @@ TEST_F(VerificaTest, IlProgrammaDiceLEsitoAChiLoChiama) {
     EXPECT_EQ(esito(unita), 0);
     modificaFte(1, [](CoppiaFte& c) { c.fte.cliente = 9; });
     EXPECT_EQ(esito(unita), 1);
+    QByteArray uscita;
+    EXPECT_EQ(esito(unita, {u"--json"_s}, &uscita), 1);
+    EXPECT_EQ(QString::fromUtf8(uscita),
+              u"{\"dove\":\"fattura n. 1 (record 1)\",\"gravita\":\"errore\",\"motivo\":\"il cliente 9 non "
+              u"c'è\",\"rimedio\":\"Aprite il documento, scegliete il cliente nella testata e "
+              u"registratelo.\"}\n");
     {
         Disco disco;
         RecordFile<Fte> riordino(disco);

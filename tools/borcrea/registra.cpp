@@ -11,11 +11,15 @@
 #include <QDateTime>
 #include <QFile>
 
+#include <algorithm>
+
 namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QDate giornoPredefinito(2015, 1, 1);
 
 /// In the older files amounts have a decimal comma.
 QByteArray allAntica(const QByteArray& file) {
@@ -42,6 +46,31 @@ bool invecchia(Archivio& archivio, const Documento& d, bool conFile) {
            archivio.disco().elimina(percorso);
 }
 
+/// The opening stock of the articles as loads of the first day of the books, so that the rows of the
+/// warehouse explain every stock.
+bool caricaGiacenze(Archivio& archivio, const std::vector<DocumentoPronto>& documenti) {
+    QDate giorno = giornoPredefinito;
+    for (const DocumentoPronto& pronto : documenti)
+        giorno = std::min(giorno, dataValida(pronto.documento.estremi.datareg).value_or(giorno));
+    bool riuscito = true;
+    Tot contatore = archivio.leggiTot(Conta::Mag);
+    archivio.art.scorri(1, archivio.leggiTot(Conta::Art).numero, [&](int n, const Art& art) {
+        if (art.giacenza == 0.0)
+            return true;
+        Mag mag = vuoto<Mag>();
+        mag.data.set(QDate(giorno.year(), 1, 1).toString(u"yyyyMMdd"_s));
+        mag.descrizione.set(u"Giacenza iniziale");
+        mag.riferimento.blank();
+        mag.articolo = static_cast<std::int16_t>(n);
+        mag.quantita = art.giacenza;
+        contatore.numero += 1;
+        riuscito = archivio.mag.scrivi(contatore.numero, mag);
+        return riuscito;
+    });
+    contatore.modificato = 1;
+    return riuscito && archivio.scriviTot(Conta::Mag, contatore);
+}
+
 } // namespace
 
 bool Registratore::registra(const Documento& d) {
@@ -61,7 +90,7 @@ bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
     Documento& d = pronto.documento;
     Archivio& archivio = m_contesto.archivio;
     m_ultimo = u"documento n. %1 del %2"_s.arg(d.estremi.numero, d.estremi.data);
-    const QDate data = dataValida(d.estremi.datareg).value_or(QDate(2015, 1, 1));
+    const QDate data = dataValida(d.estremi.datareg).value_or(giornoPredefinito);
     m_orologio.momento = QDateTime(data, QTime(8, 0)).addSecs(n);
     const Intero parcella = d.coppia.fte.parcella;
     d.coppia = riempiRecord(d, timbro(m_orologio.momento, n));
@@ -86,6 +115,8 @@ bool Registratore::scrivi(DocumentoPronto& pronto, int n) {
 bool Registratore::scrivi(std::vector<DocumentoPronto>& documenti) {
     Tot tot = vuoto<Tot>();
     Tot fpa = vuoto<Tot>();
+    if (!caricaGiacenze(m_contesto.archivio, documenti))
+        return false;
     for (std::size_t i = 0; i < documenti.size(); ++i) {
         DocumentoPronto& pronto = documenti[i];
         const int n = static_cast<int>(i) + 1;

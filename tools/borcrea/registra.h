@@ -23,8 +23,8 @@ public:
     Registratore(Contesto& contesto, OrologioCantiere& orologio, const QStringList& rifiuti)
         : m_contesto(contesto), m_orologio(orologio), m_rifiuti(rifiuti) {}
 
-    /// Stores the documents as the next records. False when a file could not be written or a movement was
-    /// refused.
+    /// Loads the opening stock and stores the documents as the next records. False when a file could not be
+    /// written or a movement was refused.
     bool scrivi(std::vector<DocumentoPronto>& documenti);
     /// The document that the work came to, for a message.
     const QString& ultimo() const { return m_ultimo; }

@@ -18,19 +18,23 @@ public:
         const qint64 interi = file.lunghezza() / qint64{sizeof(R)};
         const qint64 resto = file.lunghezza() % qint64{sizeof(R)};
         if (numero < 0)
-            m_trovate.append({Gravita::Errore, nome, u"il contatore è negativo (%1)"_s.arg(numero)});
+            m_trovate.append({Gravita::Errore, nome, u"il contatore è negativo (%1)"_s.arg(numero),
+                              Rimedio::RipristinaCopia});
         else if (interi < numero)
             m_trovate.append(
                 {seCorto, nome,
-                 u"il contatore dice %1 record, il file ne contiene %2"_s.arg(numero).arg(interi)});
+                 u"il contatore dice %1 record, il file ne contiene %2"_s.arg(numero).arg(interi),
+                 Rimedio::RipristinaCopia});
         else if (interi > numero)
             m_trovate.append({Gravita::Informazione, nome,
                               u"%1 record oltre il contatore (%2): resti di un riordino o di un salvataggio "
                               u"interrotto, che nessuno legge"_s.arg(interi - numero)
-                                  .arg(numero)});
+                                  .arg(numero),
+                              Rimedio::Nessuno});
         if (resto != 0)
-            m_trovate.append(
-                {Gravita::Avviso, nome, u"il file termina con %1 byte di un record incompleto"_s.arg(resto)});
+            m_trovate.append({Gravita::Avviso, nome,
+                              u"il file termina con %1 byte di un record incompleto"_s.arg(resto),
+                              Rimedio::Nessuno});
     }
 
     const Discordanze& trovate() const { return m_trovate; }

@@ -17,6 +17,9 @@ struct Saldo {
     double dare = 0;
     double avere = 0;
 
+    /// A movement keeps one amount and one side a line: a negative amount, and a line with both boxes filled,
+    /// go to the account on sides that it does not tell. The sum of the two is right all the same.
+    bool daEditor() const { return !nullo() && std::fabs(dare + avere) < tolleranza; }
     bool nullo() const { return std::fabs(dare) < tolleranza && std::fabs(avere) < tolleranza; }
     QString testo() const {
         return u"dare %1, avere %2"_s.arg(testoItaliano(dare, 2), testoItaliano(avere, 2));
@@ -96,11 +99,13 @@ Discordanze verificaConti(const Archivio& archivio) {
         if (gio.cancellato == 1)
             return true;
         if (!mancanti.isEmpty())
-            trovate.append({Gravita::Avviso, dove, u"conti che non esistono: "_s + mancanti.join(u", "_s)});
+            trovate.append({Gravita::Avviso, dove, u"conti che non esistono: "_s + mancanti.join(u", "_s),
+                            Rimedio::ControllaMovimento});
         const double differenza = sbilancio(gio);
         if (!(std::fabs(differenza) < tolleranza))
             trovate.append({Gravita::Avviso, dove,
-                            u"dare e avere non pareggiano: sbilancio "_s + testoItaliano(differenza, 2)});
+                            u"dare e avere non pareggiano: sbilancio "_s + testoItaliano(differenza, 2),
+                            Rimedio::ControllaMovimento});
         return true;
     });
     archivio.con.scorri(1, piano.conti(), [&](int n, const Con& conto) {
@@ -108,13 +113,21 @@ Discordanze verificaConti(const Archivio& archivio) {
             u"conto %1 %2"_s.arg(puliscitesto(conto.codice.text()), puliscitesto(conto.descrizione.text()));
         const auto& [vivi, eliminati] = piano.saldo(n);
         const Saldo diverso = Saldo{conto.progressivodare, conto.progressivoavere} - vivi - eliminati;
-        if (!diverso.nullo())
+        if (diverso.daEditor())
+            trovate.append({Gravita::Avviso, dove,
+                            u"un movimento ha un importo negativo, o dare e avere nella stessa riga: nei "
+                            u"progressivi sta dall'altra parte per "_s +
+                                diverso.testo(),
+                            Rimedio::ControllaMovimento});
+        else if (!diverso.nullo())
             trovate.append(
                 {Gravita::Errore, dove,
-                 u"i progressivi differiscono da quanto spiegano i movimenti: "_s + diverso.testo()});
+                 u"i progressivi differiscono da quanto spiegano i movimenti: "_s + diverso.testo(),
+                 Rimedio::RifaiProgressivi});
         if (!eliminati.nullo())
             trovate.append({Gravita::Informazione, dove,
-                            u"lasciato nei progressivi da movimenti eliminati: "_s + eliminati.testo()});
+                            u"lasciato nei progressivi da movimenti eliminati: "_s + eliminati.testo(),
+                            Rimedio::RiordinaMovimenti});
         return true;
     });
     return trovate;

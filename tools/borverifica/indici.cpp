@@ -20,14 +20,14 @@ public:
     bool voce(int n, const QString& chiave, int record) {
         const QString alta = maiuscolo(chiave);
         if (n > 1 && alta < m_precedente)
-            m_trovate.append(
-                {Gravita::Errore, posizione(m_estensione, n),
-                 u"\"%1\" è fuori ordine: chi lo cerca non lo trova"_s.arg(puliscitesto(chiave))});
+            m_trovate.append({Gravita::Errore, posizione(m_estensione, n),
+                              u"\"%1\" è fuori ordine: chi lo cerca non lo trova"_s.arg(puliscitesto(chiave)),
+                              Rimedio::RicostruisciIndici});
         m_precedente = alta;
         const bool esiste = record >= 1 && record < std::ssize(m_visti);
         if (!esiste)
             m_trovate.append({Gravita::Errore, posizione(m_estensione, n),
-                              u"punta al record %1, che non c'è"_s.arg(record)});
+                              u"punta al record %1, che non c'è"_s.arg(record), Rimedio::RicostruisciIndici});
         else
             m_visti[static_cast<std::size_t>(record)] = true;
         return esiste;
@@ -52,7 +52,7 @@ void verificaSrc(const Archivio& archivio, Discordanze& trovate) {
         if (cli.eliminato != 1 && !controllo.visto(n))
             trovate.append({Gravita::Avviso,
                             u"cliente %1 (record %2)"_s.arg(puliscitesto(cli.sede.ragione1.text())).arg(n),
-                            u"manca nell'indice borlano.src"_s});
+                            u"manca nell'indice borlano.src"_s, Rimedio::RicostruisciIndici});
         return true;
     });
 }
@@ -70,7 +70,8 @@ void verificaSrb(const Archivio& archivio, Discordanze& trovate) {
         if (controllo.voce(n, chiave, voce.recordart) &&
             maiuscolo(puliscitesto(chiave)) != barcode[static_cast<std::size_t>(voce.recordart)])
             trovate.append({Gravita::Avviso, posizione(u"srb", n),
-                            u"l'articolo %1 ha un altro codice a barre"_s.arg(voce.recordart)});
+                            u"l'articolo %1 ha un altro codice a barre"_s.arg(voce.recordart),
+                            Rimedio::RicostruisciIndici});
         return true;
     });
 }

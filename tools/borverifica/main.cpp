@@ -18,7 +18,27 @@ namespace {
 
 enum Esito { InOrdine = 0, ConDiscordanze = 1, Illeggibile = 2 };
 
-Esito verificaAzienda(const QString& unita, int codice) {
+enum class Forma { Testo, Json };
+
+void stampa(const bor::verifica::Discordanze& trovate, int codice, Forma forma) {
+    QTextStream uscita(stdout);
+    for (const bor::verifica::Discordanza& d : trovate) {
+        if (forma == Forma::Json)
+            uscita << QString::fromUtf8(d.json()) << '\n';
+        else
+            uscita << d.testo() << u"\n        "_s << testo(d.rimedio) << '\n';
+    }
+    const auto quante = [&trovate](bor::verifica::Gravita gravita) {
+        return std::ranges::count(trovate, gravita, &bor::verifica::Discordanza::gravita);
+    };
+    if (forma == Forma::Testo)
+        uscita << u"Azienda %1: %2 errori, %3 avvisi, %4 informazioni.\n"_s.arg(codice)
+                      .arg(quante(bor::verifica::Gravita::Errore))
+                      .arg(quante(bor::verifica::Gravita::Avviso))
+                      .arg(quante(bor::verifica::Gravita::Informazione));
+}
+
+Esito verificaAzienda(const QString& unita, int codice, Forma forma) {
     const bor::Percorsi percorsi(QDir(unita).absolutePath(), QString());
     bor::Disco disco;
     bor::Archivio archivio(percorsi, disco, codice);
@@ -36,18 +56,11 @@ Esito verificaAzienda(const QString& unita, int codice) {
         return Illeggibile;
     }
     const bor::verifica::Discordanze trovate = bor::verifica::verificaArchivio(archivio);
-    QTextStream uscita(stdout);
-    for (const bor::verifica::Discordanza& discordanza : trovate)
-        uscita << discordanza.testo() << '\n';
-    const auto quante = [&](bor::verifica::Gravita gravita) {
-        return std::ranges::count(trovate, gravita, &bor::verifica::Discordanza::gravita);
-    };
-    const auto errori = quante(bor::verifica::Gravita::Errore);
-    const auto avvisi = quante(bor::verifica::Gravita::Avviso);
-    uscita
-        << u"Azienda %1: %2 errori, %3 avvisi, %4 informazioni.\n"_s.arg(codice).arg(errori).arg(avvisi).arg(
-               quante(bor::verifica::Gravita::Informazione));
-    return errori + avvisi == 0 ? InOrdine : ConDiscordanze;
+    stampa(trovate, codice, forma);
+    const bool inOrdine = std::ranges::all_of(trovate, [](const bor::verifica::Discordanza& d) {
+        return d.gravita == bor::verifica::Gravita::Informazione;
+    });
+    return inOrdine ? InOrdine : ConDiscordanze;
 }
 
 } // namespace
@@ -62,6 +75,7 @@ int main(int argc, char** argv) {
     parser.addOptions({{u"unita"_s, u"Cartella che fa da radice dell'unità."_s, u"cartella"_s, u"."_s},
                        {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
                        {u"version"_s, u"Mostra la versione."_s},
+                       {u"json"_s, u"Per altri programmi: un oggetto JSON per riga, uno per rilievo."_s},
                        {{u"h"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s}});
     if (!parser.parse(QCoreApplication::arguments())) {
         QTextStream(stderr) << parser.errorText() << '\n';
@@ -79,5 +93,6 @@ int main(int argc, char** argv) {
         QTextStream(stderr) << u"--azienda: serve un numero da 0 a 999.\n"_s;
         return Illeggibile;
     }
-    return verificaAzienda(parser.value(u"unita"_s), codice);
+    return verificaAzienda(parser.value(u"unita"_s), codice,
+                           parser.isSet(u"json"_s) ? Forma::Json : Forma::Testo);
 }

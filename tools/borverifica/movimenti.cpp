@@ -12,7 +12,7 @@ namespace {
 
 struct PerStamp {
     QStringList documenti; ///< live ones
-    bool documentoEliminato = false;
+    QStringList documentiEliminati;
     QStringList movimenti; ///< record numbers of live ones
 };
 
@@ -28,12 +28,12 @@ void leggiDocumenti(const Archivio& archivio, Legami& legami, Discordanze& trova
         if (!collegato(fte.stamp)) {
             if (fte.stamp != 0.0)
                 trovate.append({Gravita::Errore, nomeDocumento(fte, n),
-                                u"il riferimento a movimenti e magazzino è guasto"_s});
+                                u"il riferimento a movimenti e magazzino è guasto"_s, Rimedio::Assistenza});
             return true;
         }
         PerStamp& suo = legami[fte.stamp];
         if (fte.annullata == 1)
-            suo.documentoEliminato = true;
+            suo.documentiEliminati.append(nomeDocumento(fte, n));
         else
             suo.documenti.append(nomeDocumento(fte, n));
         return true;
@@ -53,8 +53,9 @@ bool leggiMovimenti(const Archivio& archivio, Legami& legami, Discordanze& trova
         suo.movimenti.append(QString::number(n));
         if (suo.documenti.isEmpty())
             trovate.append({Gravita::Avviso, nomeMovimento(gio, n),
-                            suo.documentoEliminato ? u"il suo documento è stato eliminato"_s
-                                                   : u"il suo documento non c'è"_s});
+                            suo.documentiEliminati.isEmpty() ? u"il suo documento non c'è"_s
+                                                             : u"il suo documento è stato eliminato"_s,
+                            Rimedio::ControllaMovimento});
         return true;
     });
     return almenoUno;
@@ -71,22 +72,26 @@ Discordanze verificaMovimenti(const Archivio& archivio) {
         const auto suo = legami.find(fte.stamp);
         if (fte.annullata == 1 || suo == legami.end() || suo->second.documenti.isEmpty())
             return true;
-        const auto& [documenti, eliminato, movimenti] = suo->second;
+        const auto& [documenti, eliminati, movimenti] = suo->second;
         const QString nome = nomeDocumento(fte, n);
-        if (documenti.size() > 1 && documenti.first() == nome)
+        // What is done to a deleted one takes the movement and the rows of the live one with it.
+        const QStringList altri = documenti.mid(1) + eliminati;
+        if (!altri.isEmpty() && documenti.first() == nome)
             trovate.append({Gravita::Errore, nome,
                             u"ha lo stesso riferimento a movimenti e magazzino di altri documenti: %1"_s.arg(
-                                elencoBreve(documenti.mid(1)))});
+                                elencoBreve(altri)),
+                            Rimedio::Assistenza});
         if (movimenti.size() > 1)
-            trovate.append(
-                {Gravita::Avviso, nome, u"ha più movimenti contabili: "_s + elencoBreve(movimenti)});
+            trovate.append({Gravita::Avviso, nome, u"ha più movimenti contabili: "_s + elencoBreve(movimenti),
+                            Rimedio::ControllaMovimento});
         if (movimenti.isEmpty() && conMovimenti)
-            trovate.append({Gravita::Avviso, nome, u"non ha un movimento contabile"_s});
+            trovate.append(
+                {Gravita::Avviso, nome, u"non ha un movimento contabile"_s, Rimedio::RifaiMovimento});
         return true;
     });
     if (!conMovimenti && !legami.empty())
-        trovate.append(
-            {Gravita::Informazione, u"borlano.gio"_s, u"nessun documento ha un movimento contabile"_s});
+        trovate.append({Gravita::Informazione, u"borlano.gio"_s,
+                        u"nessun documento ha un movimento contabile"_s, Rimedio::Nessuno});
     return trovate;
 }
 

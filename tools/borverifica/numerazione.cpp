@@ -50,10 +50,11 @@ void buchi(const QString& dove, const Serie& serie, Discordanze& trovate) {
             mancanti.append(tratto(*prima + 1, *std::next(prima) - 1));
     }
     if (!mancanti.isEmpty())
-        trovate.append({Gravita::Avviso, dove, u"numeri mancanti: "_s + elencoBreve(mancanti)});
+        trovate.append({Gravita::Avviso, dove, u"numeri mancanti: "_s + elencoBreve(mancanti),
+                        Rimedio::ControllaNumeri});
     if (!eliminati.isEmpty())
-        trovate.append(
-            {Gravita::Informazione, dove, u"numeri di documenti eliminati: "_s + elencoBreve(eliminati)});
+        trovate.append({Gravita::Informazione, dove,
+                        u"numeri di documenti eliminati: "_s + elencoBreve(eliminati), Rimedio::Nessuno});
 }
 
 void doppi(const QString& dove, const Serie& serie, Discordanze& trovate) {
@@ -61,7 +62,8 @@ void doppi(const QString& dove, const Serie& serie, Discordanze& trovate) {
         if (documenti.size() > 1)
             trovate.append({Gravita::Errore, dove,
                             u"numero %1 usato %2 volte: %3"_s.arg(numero, QString::number(documenti.size()),
-                                                                  elencoBreve(documenti))});
+                                                                  elencoBreve(documenti)),
+                            Rimedio::CambiaNumero});
     }
 }
 
@@ -80,7 +82,7 @@ std::map<ChiaveSerie, Serie> leggiSerie(const Archivio& archivio, Discordanze& t
         const bool vivo = fte.annullata != 1;
         if (const QString motivo = fuoriNumerazione(data, numero); !motivo.isEmpty()) {
             if (vivo)
-                trovate.append({Gravita::Avviso, nomeDocumento(fte, n), motivo});
+                trovate.append({Gravita::Avviso, nomeDocumento(fte, n), motivo, Rimedio::Correggi});
             return true;
         }
         const int registro = fte.registro >= 0 && fte.registro <= 9 ? int{fte.registro} : 0;

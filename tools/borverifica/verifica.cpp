@@ -1,6 +1,8 @@
 #include "borverifica/verifica.h"
 
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cmath>
 
@@ -8,17 +10,26 @@ using namespace Qt::StringLiterals;
 
 namespace bor::verifica {
 
+QString parola(Gravita gravita) {
+    return gravita == Gravita::Errore ? u"ERRORE"_s : gravita == Gravita::Avviso ? u"AVVISO"_s : u"INFO"_s;
+}
+
 QString Discordanza::testo() const {
-    const QString parola = gravita == Gravita::Errore   ? u"ERRORE"_s
-                           : gravita == Gravita::Avviso ? u"AVVISO"_s
-                                                        : u"INFO"_s;
-    return parola.leftJustified(8) + dove + u": "_s + motivo;
+    return parola(gravita).leftJustified(8) + dove + u": "_s + motivo;
+}
+
+QByteArray Discordanza::json() const {
+    const QJsonObject oggetto{{u"gravita"_s, parola(gravita).toLower()},
+                              {u"dove"_s, dove},
+                              {u"motivo"_s, motivo},
+                              {u"rimedio"_s, verifica::testo(rimedio)}};
+    return QJsonDocument(oggetto).toJson(QJsonDocument::Compact);
 }
 
 Discordanze verificaArchivio(const Archivio& archivio) {
     return verificaContatori(archivio) + verificaDocumenti(archivio) + verificaMovimenti(archivio) +
            verificaConti(archivio) + verificaMagazzino(archivio) + verificaIndici(archivio) +
-           verificaNumerazione(archivio);
+           verificaNumerazione(archivio) + verificaResti(archivio);
 }
 
 QStringList nonLeggibili(const Archivio& archivio) {

@@ -4,6 +4,7 @@
 
 #include "archive/archivio.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -15,13 +16,45 @@ enum class Gravita {
     Informazione, ///< explains a figure, nothing to be done
 };
 
+/// What is to be done about it.
+enum class Rimedio {
+    Nessuno,
+    Correggi,
+    Registra,
+    ScegliCliente,
+    CambiaNumero,
+    ControllaNumeri,
+    RegistraRighe,
+    SeparaRighe,
+    MettiDaParte,
+    RifaiFattura,
+    RifaiMovimento,
+    ControllaMovimento,
+    RiordinaMovimenti,
+    RifaiProgressivi,
+    ControllaRigaMagazzino,
+    ControllaArticolo,
+    RicostruisciIndici,
+    AvviaProgramma,
+    CorreggiContatore,
+    RipristinaCopia,
+    Assistenza
+};
+
+/// One sentence for whoever looks after the archive.
+QString testo(Rimedio rimedio);
+
 struct Discordanza {
     Gravita gravita = Gravita::Errore;
     QString dove; ///< what it is about, e.g. "fattura n. 12 (record 7)"
     QString motivo;
+    Rimedio rimedio = Rimedio::Nessuno;
 
     /// "ERRORE  fattura n. 12 (record 7): …".
     QString testo() const;
+    /// One object in UTF-8 without a line end: `gravita` ("errore", "avviso", "info"), `dove`, `motivo`,
+    /// `rimedio`.
+    QByteArray json() const;
 };
 
 using Discordanze = QList<Discordanza>;
@@ -30,6 +63,7 @@ using Discordanze = QList<Discordanza>;
 Discordanze verificaContatori(const Archivio& archivio);
 
 /// Documents: their customer, their detail-lines file, their second half, and the electronic invoice data.
+/// Lines files that no live document has, and the counter of their numbers.
 Discordanze verificaDocumenti(const Archivio& archivio);
 
 /// Live documents and live journal movements, by the stamp that ties them.
@@ -40,9 +74,13 @@ Discordanze verificaMovimenti(const Archivio& archivio);
 /// live movements.
 Discordanze verificaConti(const Archivio& archivio);
 
-/// Warehouse rows: their document and article; what the articles say was sold, as information, since other
-/// modules of the suite sell too.
+/// Warehouse rows: their document and article; stock and quantity sold of the articles. These are errors
+/// where the rows begin with a load, a row of no document that adds to the stock; without one, other modules
+/// of the suite may have moved the article, and a difference is information.
 Discordanze verificaMagazzino(const Archivio& archivio);
+
+/// What an interrupted program left: a recovery log that is not empty, files half written.
+Discordanze verificaResti(const Archivio& archivio);
 
 /// Indexes of customer names and barcodes: their order, and entries that point nowhere.
 Discordanze verificaIndici(const Archivio& archivio);
