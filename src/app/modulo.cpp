@@ -19,11 +19,10 @@ std::unique_ptr<Modulo> Modulo::avvia(const QString& rigaComando, Percorsi perco
 }
 
 Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
-    : m_percorsi(std::move(percorsi)),
-      m_archivio(m_percorsi, m_disco, codiceazienda), m_contesto{m_sessione,      m_archivio,
-                                                                 m_impostazioni,  m_tabelle,
-                                                                 porte.operatore, porte.orologio,
-                                                                 porte.sistema,   porte.navigatore},
+    : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda),
+      m_rapporto(m_percorsi), m_contesto{m_sessione,      m_archivio,       m_impostazioni, m_tabelle,
+                                         porte.operatore, porte.orologio,   porte.sistema,  porte.navigatore,
+                                         m_rapporto.nome()},
       m_borfte(m_contesto, m_documento, [this] { return !m_sospese.vuoto(); }),
       m_borftem(m_contesto, m_documento), m_borsel(m_contesto, m_borftem), m_borftex(m_contesto, m_documento),
       m_borftek(m_contesto, m_documento), m_borftec(m_contesto, m_documento),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "archive/rapportodicorsa.h"
 #include "common/stampante.h"
 #include "document/borftea.h"
 #include "document/borftek.h"
@@ -55,6 +56,7 @@ private:
     Archivio m_archivio;
     Impostazioni m_impostazioni;
     Tabelle m_tabelle;
+    RapportoDiCorsa m_rapporto;
     Contesto m_contesto;
     Documento m_documento;
     RigheInSospeso m_sospese;

@@ -9,6 +9,7 @@
 #include "common/navigatore.h"
 #include "common/operatore.h"
 #include "common/orologio.h"
+#include "common/rapporto.h"
 #include "common/sessione.h"
 #include "common/sistema.h"
 
@@ -23,6 +24,8 @@ struct Contesto {
     Orologio& orologio;
     Sistema& sistema;
     Navigatore& navigatore;
+    /// DOS path of the report file that prints of this run leave.
+    QString rapporto = fileRapporto.toString();
 
     const Valuta& valuta() const { return impostazioni.valuta; }
     Bordata bordata() const { return {sessione, orologio}; }

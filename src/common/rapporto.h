@@ -10,7 +10,8 @@
 
 namespace bor {
 
-/// DOS path of the report file; each print replaces it.
+/// DOS path of the report file, which each print replaces; a second program of the same user has one of its
+/// own beside it.
 inline constexpr QStringView fileRapporto = u"c:\\bordoc.rto";
 
 /// The first line of the file, without its end.

@@ -64,7 +64,7 @@ bool Foglio::termina() {
     if (m_uscita == Uscita::SoloStampante)
         return true;
     Archivio& archivio = m_contesto.archivio;
-    return archivio.disco().scriviFile(archivio.reale(fileRapporto), m_rapporto.bytes());
+    return archivio.disco().scriviFile(archivio.reale(m_contesto.rapporto), m_rapporto.bytes());
 }
 
 } // namespace bor

@@ -5,7 +5,6 @@
 #include "common/date.h"
 #include "common/indirizzoposta.h"
 #include "common/numeri.h"
-#include "common/rapporto.h"
 #include "output/layout.h"
 
 using namespace Qt::StringLiterals;
@@ -53,6 +52,15 @@ bool pdfLibero(const Documento& documento, const Contesto& contesto, const QStri
         titoloAttenzione, Icona::Esclamazione, Predefinita::No);
 }
 
+/// Refuses a name that the document's record would cut: it could never be opened again.
+bool entraNelRecord(const QString& nome, const Contesto& contesto) {
+    const bool entra = nome.size() <= qsizetype{sizeof(F2e::pdf)};
+    if (!entra)
+        contesto.operatore.messaggio(u"Il nome del file e della sua cartella superano i 60 caratteri"_s,
+                                     titoloAttenzione, Icona::Stop);
+    return entra;
+}
+
 bool avviaStrumento(const Contesto& contesto, const ComandoPdf& comando) {
     const bool avviato = contesto.sistema.avvia(programma(contesto), comando.argomenti());
     if (!avviato)
@@ -88,9 +96,9 @@ void generapdf(Documento& documento, const Contesto& contesto) {
             Icona::Stop);
         return;
     }
-    if (!pdfLibero(documento, contesto, pdf) ||
+    if (!entraNelRecord(pdf, contesto) || !pdfLibero(documento, contesto, pdf) ||
         !avviaStrumento(contesto, {.layout = layoutStrumento(documento, contesto),
-                                   .rapporto = fileRapporto.toString(),
+                                   .rapporto = contesto.rapporto,
                                    .pdf = pdf,
                                    .indirizzo = destinatario,
                                    .testo = testi.testo(documento.parcella())}))
@@ -103,9 +111,9 @@ void generapdf(Documento& documento, const Contesto& contesto) {
 }
 
 void anteprima(const Documento& documento, const Contesto& contesto) {
-    avviaStrumento(contesto, {.anteprima = true,
-                              .layout = layoutStrumento(documento, contesto),
-                              .rapporto = fileRapporto.toString()});
+    avviaStrumento(
+        contesto,
+        {.anteprima = true, .layout = layoutStrumento(documento, contesto), .rapporto = contesto.rapporto});
 }
 
 void scegliPdf(Documento& documento, const Contesto& contesto) {
@@ -122,12 +130,8 @@ void scegliPdf(Documento& documento, const Contesto& contesto) {
         return;
     if (nome.size() > 1 && nome[1] == u':')
         nome.remove(0, 2);
-    if (nome.size() > qsizetype{sizeof(F2e::pdf)}) {
-        contesto.operatore.messaggio(u"Il nome del file e della sua cartella superano i 60 caratteri"_s,
-                                     titoloAttenzione, Icona::Stop);
-        return;
-    }
-    documento.estremi.pdf = nome;
+    if (entraNelRecord(nome, contesto))
+        documento.estremi.pdf = nome;
 }
 
 } // namespace bor

@@ -1,8 +1,13 @@
 // Starting the PDF tool, and attaching a PDF by hand.
+#include "archive/rapportodicorsa.h"
 #include "output/generapdf.h"
 #include "support/azienda.h"
 
 #include <gtest/gtest.h>
+
+#include <QFile>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +71,44 @@ TEST_F(PdfTest, SpentoRifiutatoONonAvviatoNonLasciaNomi) {
     generapdf(documento, prova.contesto);
     EXPECT_TRUE(prova.operatore.domande.isEmpty());
     EXPECT_EQ(documento.estremi.pdf, QString());
+}
+
+TEST_F(PdfTest, UnNomeCheIlRecordTaglierebbeERifiutatoPrima) {
+    const auto conCartella = [&](int caratteri) {
+        azienda.scrivi(u"borlano.pdf"_s, '\\' + QByteArray(caratteri - 1, 'd') + "\r\n");
+        generapdf(documento, prova.contesto);
+    };
+    constexpr int nome = 10; // \ftr12.pdf
+    conCartella(60 - nome);
+    ASSERT_EQ(prova.sistema.avviati.size(), 1);
+    EXPECT_EQ(documento.estremi.pdf.size(), 60);
+    documento.estremi.pdf.clear();
+    conCartella(61 - nome);
+    EXPECT_EQ(prova.sistema.avviati.size(), 1);
+    EXPECT_EQ(prova.operatore.messaggi.back().testo,
+              u"Il nome del file e della sua cartella superano i 60 caratteri"_s);
+    EXPECT_EQ(documento.estremi.pdf, QString());
+}
+
+TEST_F(PdfTest, DueProgrammiNonSiScambianoLeStampe) {
+    const auto stampa = [&](ContestoDiProva& suo, const char* testo) {
+        suo.archivio.disco().scriviFile(suo.archivio.reale(suo.contesto.rapporto), testo);
+    };
+    std::optional<RapportoDiCorsa> primo(azienda.percorsi());
+    prova.contesto.rapporto = primo->nome();
+    ContestoDiProva altro(azienda);
+    const RapportoDiCorsa secondo(azienda.percorsi());
+    altro.contesto.rapporto = secondo.nome();
+    stampa(prova, "Rossi");
+    stampa(altro, "Bianchi");
+    generapdf(documento, prova.contesto);
+    EXPECT_EQ(argomento().section(u',', 1, 1), u"c:\\bordoc.rto"_s);
+    QFile file(azienda.percorsi().reale(u"c:\\bordoc.rto").value());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "Rossi");
+    EXPECT_EQ(secondo.nome(), u"c:\\bordoc2.rto");
+    primo.reset();
+    EXPECT_EQ(RapportoDiCorsa(azienda.percorsi()).nome(), u"c:\\bordoc.rto");
 }
 
 TEST_F(PdfTest, UnPdfSceltoAManoPerdeLUnita) {
