@@ -77,7 +77,7 @@ void Pavimento_LetturaDeiTreFile(benchmark::State& stato) {
 void RiempimentoDellElenco(benchmark::State& stato) {
     ContestoDiProva prova(grande());
     Documento documento;
-    Borfte form(prova.contesto, documento, nullptr);
+    Borfte form(prova.contesto, documento);
     form.carica();
     for (auto _ : stato)
         form.cambiaFiltro(FiltroFatture::Tutte);
@@ -86,7 +86,7 @@ void RiempimentoDellElenco(benchmark::State& stato) {
 void FiltroSoloPa(benchmark::State& stato) {
     ContestoDiProva prova(grande());
     Documento documento;
-    Borfte form(prova.contesto, documento, nullptr);
+    Borfte form(prova.contesto, documento);
     form.carica();
     for (auto _ : stato)
         form.cambiaFiltro(FiltroFatture::SoloPa);
@@ -96,7 +96,7 @@ void FiltroSoloPa(benchmark::State& stato) {
 void TastoNellaRicerca(benchmark::State& stato) {
     ContestoDiProva prova(grande());
     Documento documento;
-    Borfte form(prova.contesto, documento, nullptr);
+    Borfte form(prova.contesto, documento);
     form.carica();
     VistaBorfte vista(form);
     vista.resize(1280, 720);
@@ -123,7 +123,7 @@ void TastoNellaRicerca(benchmark::State& stato) {
 void Pavimento_Ordinamento(benchmark::State& stato) {
     ContestoDiProva prova(grande());
     Documento documento;
-    Borfte form(prova.contesto, documento, nullptr);
+    Borfte form(prova.contesto, documento);
     form.carica();
     QStringList chiavi;
     for (int r = 0; r < documenti; ++r)
@@ -138,7 +138,7 @@ void Pavimento_Ordinamento(benchmark::State& stato) {
 void Ordinamento(benchmark::State& stato) {
     ContestoDiProva prova(grande());
     Documento documento;
-    Borfte form(prova.contesto, documento, nullptr);
+    Borfte form(prova.contesto, documento);
     form.carica();
     const auto colonna =
         stato.range(0) == 9 ? Colonna::DataRegistrazione : static_cast<Colonna>(stato.range(0));
@@ -180,7 +180,7 @@ void RiordinoPerData(benchmark::State& stato) {
 int avvia(const AziendaDiProva& azienda) {
     ContestoDiProva prova(azienda);
     Documento documento;
-    Borfte form(prova.contesto, documento, nullptr);
+    Borfte form(prova.contesto, documento);
     form.carica();
     VistaBorfte vista(form);
     vista.resize(1280, 720);

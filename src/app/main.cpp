@@ -4,6 +4,7 @@
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
 #include "ui/finestra.h"
+#include "ui/guardiabozze.h"
 #include "ui/stampanteqt.h"
 
 #include <QApplication>
@@ -33,5 +34,7 @@ int main(int argc, char* argv[]) {
     aggiungiSchermi(finestra, *modulo);
     finestra.show();
     finestra.mostra(Schermo::Borfte);
+    const GuardiaBozze guardia([&modulo] { modulo->bozze().conserva(); });
+    modulo->bozze().riprendi();
     return QApplication::exec();
 }

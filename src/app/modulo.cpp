@@ -19,17 +19,18 @@ std::unique_ptr<Modulo> Modulo::avvia(const QString& rigaComando, Percorsi perco
 }
 
 Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
-    : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda),
-      m_rapporto(m_percorsi), m_contesto{m_sessione,      m_archivio,       m_impostazioni, m_tabelle,
-                                         porte.operatore, porte.orologio,   porte.sistema,  porte.navigatore,
-                                         m_rapporto.nome()},
-      m_borfte(m_contesto, m_documento, [this] { return !m_sospese.vuoto(); }),
+    : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda), m_rapporto(m_percorsi),
+      m_navigatore(porte.navigatore), m_contesto{m_sessione,    m_archivio,      m_impostazioni,
+                                                 m_tabelle,     porte.operatore, porte.orologio,
+                                                 porte.sistema, m_navigatore,    m_rapporto.nome()},
+      m_sospese(m_percorsi.cartellaBozze(codiceazienda)), m_borfte(m_contesto, m_documento),
       m_borftem(m_contesto, m_documento), m_borsel(m_contesto, m_borftem), m_borftex(m_contesto, m_documento),
       m_borftek(m_contesto, m_documento), m_borftec(m_contesto, m_documento),
       m_registrazioni(m_contesto, m_borftec),
       m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)),
-      m_borftepa(m_contesto, m_documento) {
-    m_percorsi.creaRadiceC();
+      m_borftepa(m_contesto, m_documento),
+      m_bozze(m_contesto, m_documento, {m_borftem, m_borftea, m_borftex, m_borftek}, m_sospese.cartella()) {
+    m_navigatore.affida(m_bozze);
     m_sessione.codiceazienda = codiceazienda;
     m_impostazioni = caricaimpostazioni(m_archivio);
     m_archivio.apri();

@@ -8,6 +8,7 @@
 #include "document/borftek.h"
 #include "document/borftem.h"
 #include "document/borftex.h"
+#include "document/custodebozze.h"
 #include "document/documento.h"
 #include "document/righeinsospeso.h"
 #include "einvoice/borftepa.h"
@@ -44,6 +45,7 @@ public:
     Borftek& borftek() { return m_borftek; }
     Borftec& borftec() { return m_borftec; }
     Borftepa& borftepa() { return m_borftepa; }
+    CustodeBozze& bozze() { return m_bozze; }
     Documento& documento() { return m_documento; }
 
 private:
@@ -57,6 +59,7 @@ private:
     Impostazioni m_impostazioni;
     Tabelle m_tabelle;
     RapportoDiCorsa m_rapporto;
+    NavigatoreConBozze m_navigatore;
     Contesto m_contesto;
     Documento m_documento;
     RigheInSospeso m_sospese;
@@ -69,6 +72,7 @@ private:
     RegistrazioniContabili m_registrazioni;
     Borftea m_borftea;
     Borftepa m_borftepa;
+    CustodeBozze m_bozze;
 };
 
 } // namespace bor

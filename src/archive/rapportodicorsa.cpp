@@ -11,6 +11,7 @@ namespace bor {
 
 RapportoDiCorsa::RapportoDiCorsa(const Percorsi& percorsi) {
     constexpr int massimo = 99;
+    percorsi.creaRadiceC();
     for (int n = 1; n <= massimo; ++n) {
         m_nome = fileRapporto.toString();
         if (n > 1)

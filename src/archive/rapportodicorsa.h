@@ -10,7 +10,7 @@ namespace bor {
 class Percorsi;
 
 /// Takes a report file for as long as it lives: `fileRapporto`, or where another program of this user has
-/// that, the next name of its kind ("c:\bordoc2.rto").
+/// that, the next name of its kind ("c:\bordoc2.rto"). Makes the folder of drive c: when it is missing.
 class RapportoDiCorsa {
 public:
     explicit RapportoDiCorsa(const Percorsi& percorsi);

@@ -3,7 +3,9 @@
 #include "common/numeri.h"
 #include "common/testo.h"
 
+#include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -69,6 +71,10 @@ std::optional<QString> sotto(const QString& radice, const QString& reale) {
     return u'\\' + reale.mid(inizio.size()).replace(u'/', u'\\');
 }
 
+QString codiceATreCifre(double codiceazienda) {
+    return zeriDavanti(testoDecimale(codiceazienda), 3);
+}
+
 } // namespace
 
 Percorsi::Percorsi(QString radiceCorrente, QString radiceC)
@@ -110,8 +116,18 @@ std::optional<QString> Percorsi::dos(const QString& reale) const {
     return c ? std::optional(QStringLiteral("c:") + *c) : std::nullopt;
 }
 
+QString Percorsi::cartellaBozze(double codiceazienda) const {
+    // Two drives may hold a company of the same code.
+    constexpr qsizetype cifre = 16;
+    const QString unita = QFileInfo(m_radiceCorrente).canonicalFilePath();
+    const QByteArray impronta =
+        QCryptographicHash::hash(unita.toUtf8(), QCryptographicHash::Sha256).toHex().first(cifre);
+    return QFileInfo(m_radiceC).path() + QStringLiteral("/bozze/") + codiceATreCifre(codiceazienda) + u'-' +
+           QString::fromLatin1(impronta);
+}
+
 QString cartellaAzienda(double codiceazienda) {
-    return radiceSuite.toString() + QStringLiteral("boraz0.") + zeriDavanti(testoDecimale(codiceazienda), 3);
+    return radiceSuite.toString() + QStringLiteral("boraz0.") + codiceATreCifre(codiceazienda);
 }
 
 } // namespace bor

@@ -30,6 +30,10 @@ public:
 
     const QString& radiceCorrente() const { return m_radiceCorrente; }
 
+    /// Folder of this machine, existing or not, for what the user has typed and not yet stored in a company
+    /// of the current drive. It lies beside drive c:, among the user's own data.
+    QString cartellaBozze(double codiceazienda) const;
+
 private:
     QString m_radiceCorrente;
     QString m_radiceC;

@@ -66,4 +66,13 @@ bool uscireSenzaRegistrare(const Contesto& contesto) {
                                      u"Attenzione"_s, Icona::Domanda, Predefinita::No);
 }
 
+void avvisaRigheNonTenute(const Contesto& contesto, const QString& cartella) {
+    contesto.operatore.messaggio(
+        u"Non è stato possibile scrivere nella cartella \"%1\", che conserva le righe di questo documento "
+        u"fino "
+        "alla registrazione successiva. Prima di uscire dal programma aprite il documento e registratelo di "
+        "nuovo."_s.arg(QDir::toNativeSeparators(cartella)),
+        u"Attenzione"_s, Icona::Esclamazione);
+}
+
 } // namespace bor

@@ -3,6 +3,8 @@
 
 #include "archive/recupero.h"
 
+#include <QString>
+
 namespace bor {
 
 struct Contesto;
@@ -20,5 +22,8 @@ void avvisaRecuperi(const Contesto& contesto);
 
 /// Asks whether to leave a screen although what was typed in it will be lost; No is the default.
 bool uscireSenzaRegistrare(const Contesto& contesto);
+
+/// Tells that the lines of a new document could not be kept in the user's folder, and what to do.
+void avvisaRigheNonTenute(const Contesto& contesto, const QString& cartella);
 
 } // namespace bor

@@ -34,6 +34,13 @@ void Borftea::attiva() {
     m_fuoco = PostoTea{CampoTea::Numero};
 }
 
+void Borftea::riprendi() {
+    m_contesto.sessione.documentoletto = true;
+    m_contesto.sessione.righelette = false;
+    m_prospetto = Prospetto::RigheIva;
+    m_numeroletto = m_documento.estremi.numero.trimmed();
+}
+
 void Borftea::apri() {
     m_contesto.sessione.regimicambiati = false;
     if (nuovo()) {

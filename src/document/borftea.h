@@ -51,6 +51,8 @@ public:
     /// Fills the form for a new or a stored document at its first activation. After a trip to the lines the
     /// document stays and the form starts again at its first field; a form still open stays as it is.
     void attiva();
+    /// The document was taken up from a draft: the next activation shows it as it is.
+    void riprendi();
     QString titolo() const;
     Bordata bordata() const { return m_contesto.bordata(); }
 

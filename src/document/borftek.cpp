@@ -6,6 +6,7 @@
 #include "document/totaliparcella.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -63,12 +64,12 @@ void Borftek::attiva() {
     if (sessione.righelette)
         return;
     sessione.righelette = true;
-    m_righe = m_documento.dddp;
+    m_modificato = m_riprese.has_value();
+    m_righe = m_riprese ? *std::exchange(m_riprese, std::nullopt) : m_documento.dddp;
     m_prestazioni = leggiPrestazioni(m_contesto.archivio);
     ++m_edizione;
     m_finestra.scorri(1);
     m_lineafuoco = 0;
-    m_modificato = false;
     vaiAllInizio();
 }
 

@@ -24,6 +24,11 @@ public:
 
     /// Takes the rows from the document; a screen still open stays as it is.
     void attiva();
+    /// The next activation takes these lines in place of the document's: they were typed and not confirmed
+    /// when a run was interrupted.
+    void riprendi(TabellaRighep righe) { m_riprese = std::move(righe); }
+    /// As they stand on screen.
+    const TabellaRighep& righe() const { return m_righe; }
     QString titolo() const;
     Bordata bordata() const { return m_contesto.bordata(); }
 
@@ -66,6 +71,7 @@ private:
     Contesto& m_contesto;
     Documento& m_documento;
     TabellaRighep m_righe = TabellaRighep(righeParcella);
+    std::optional<TabellaRighep> m_riprese;
     QList<Prestazione> m_prestazioni;
     FinestraRighe m_finestra{linee, righeParcella - linee + 1};
     std::optional<Cella> m_fuoco;

@@ -64,6 +64,12 @@ void Borftem::cambiato(const void* dato) {
         m_contesto.sessione.regimicambiati = true;
 }
 
+void Borftem::riprendi() {
+    m_recordcorrente = m_documento.recordcliente;
+    m_contesto.sessione.testataletta = true;
+    m_contesto.sessione.documentoletto = false;
+}
+
 RiquadroTestata Borftem::riquadro() const {
     // The document form offers the lines of every stored document, and with them its transport or practice
     // data; a new one has none before it is saved.

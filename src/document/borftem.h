@@ -24,6 +24,8 @@ public:
     Borftem(Contesto& contesto, Documento& documento);
 
     void attiva();
+    /// The document was taken up from a draft: its head texts stay with the customer that it names.
+    void riprendi();
     Bordata bordata() const { return m_contesto.bordata(); }
 
     /// The bar was moved to this position of the customer index.

@@ -34,11 +34,10 @@ void Borftex::attiva() {
     m_articoli.dimentica();
     if (!m_barcode)
         m_articoli.apri();
-    m_righe.prendi();
+    m_modificato = m_righe.prendi();
     scorri(1);
     m_lineafuoco = 0;
     m_campofuoco = Campo::Artic;
-    m_modificato = false;
     m_listx.clear();
     vaiA(Campo::Artic, 0);
 }

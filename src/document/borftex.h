@@ -50,6 +50,9 @@ public:
 
     /// Takes the rows of the document and the article list anew.
     void attiva();
+    /// The next activation takes these lines in place of the document's: they were typed and not confirmed
+    /// when a run was interrupted.
+    void riprendi(TabellaRighe righe) { m_righe.riprendi(std::move(righe)); }
 
     // What the screen shows.
     QString titolo() const;

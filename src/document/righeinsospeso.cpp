@@ -1,48 +1,51 @@
 #include "document/righeinsospeso.h"
 
-#include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace bor {
 
 namespace {
 
-/// The lines without the empty ones at the end.
-template <class R>
-std::vector<R> usate(const std::vector<R>& righe) {
-    const auto vuota = [](const R& riga) { return riga == R(); };
-    return {righe.begin(), std::find_if_not(righe.rbegin(), righe.rend(), vuota).base()};
+QString nomeFile(double stamp) {
+    return QString::number(std::bit_cast<quint64>(stamp), 16) + QStringLiteral(".righe");
 }
 
 } // namespace
 
-void RigheInSospeso::tieni(const Documento& documento) {
-    m_documenti.insert_or_assign(documento.coppia.fte.stamp,
-                                 Sospesi{usate(documento.ddd), usate(documento.dddp),
-                                         documento.testata.trasporto, documento.testata.pratica,
-                                         documento.scorporo});
+bool RigheInSospeso::tieni(const Documento& documento) {
+    const double stamp = documento.coppia.fte.stamp;
+    const RigheSospese righe{documento.ddd, documento.dddp, documento.testata.trasporto,
+                             documento.testata.pratica, documento.scorporo};
+    m_documenti.insert_or_assign(stamp, righe);
+    const QByteArray bytes = codifica(righe);
+    return !m_cartella.tiene() || bytes == codifica(RigheSospese()) ||
+           m_cartella.scrivi(nomeFile(stamp), bytes);
 }
 
 bool RigheInSospeso::riprendi(Documento& documento) const {
     // A garbled stamp that is no number has no place in the order of the others.
     const double stamp = documento.coppia.fte.stamp;
-    const auto trovato = std::isnan(stamp) ? m_documenti.end() : m_documenti.find(stamp);
-    if (trovato == m_documenti.end())
+    if (std::isnan(stamp))
         return false;
-    const Sospesi& sospesi = trovato->second;
-    documento.ddd = sospesi.ddd;
-    documento.ddd.resize(righeMerce);
-    documento.dddp = sospesi.dddp;
-    documento.dddp.resize(righeParcella);
-    documento.testata.trasporto = sospesi.trasporto;
-    documento.testata.pratica = sospesi.pratica;
-    documento.scorporo = sospesi.scorporo;
+    std::optional<RigheSospese> righe;
+    if (const auto trovato = m_documenti.find(stamp); trovato != m_documenti.end())
+        righe = trovato->second;
+    else if (const auto bytes = m_cartella.leggi(nomeFile(stamp)))
+        righe = decodificaRighe(*bytes);
+    if (!righe)
+        return false;
+    documento.ddd = std::move(righe->ddd);
+    documento.dddp = std::move(righe->dddp);
+    documento.testata.trasporto = righe->trasporto;
+    documento.testata.pratica = righe->pratica;
+    documento.scorporo = righe->scorporo;
     return true;
 }
 
-bool RigheInSospeso::vuoto() const {
-    return std::ranges::none_of(
-        m_documenti, [](const auto& voce) { return !voce.second.ddd.empty() || !voce.second.dddp.empty(); });
+void RigheInSospeso::dimentica(const Documento& documento) {
+    m_documenti.erase(documento.coppia.fte.stamp);
+    m_cartella.elimina(nomeFile(documento.coppia.fte.stamp));
 }
 
 } // namespace bor

@@ -52,15 +52,21 @@ std::vector<std::size_t> ordinePerCodice(const TabellaRighe& righe) {
 RigheMerce::RigheMerce(Contesto& contesto, Documento& documento)
     : m_contesto(contesto), m_documento(documento), m_righe(righeMerce) {}
 
-void RigheMerce::prendi() {
+bool RigheMerce::prendi() {
     m_scorporo = m_documento.scorporo;
-    m_righe = m_documento.ddd;
+    const bool riprese = m_riprese.has_value();
+    if (riprese) {
+        m_righe = *std::exchange(m_riprese, std::nullopt);
+    } else {
+        m_righe = m_documento.ddd;
+        // Loaded lines weigh what the article last read in this run weighs: exact weights come only from the
+        // lines typed in this visit.
+        for (Riga& r : m_righe)
+            r.peso = r.recart >= 1 ? double{m_articolo.peso} : 0.0;
+    }
     m_righe.resize(righeMerce);
-    // Loaded lines weigh what the article last read in this run weighs: exact weights come only from the
-    // lines typed in this visit.
-    for (Riga& r : m_righe)
-        r.peso = r.recart >= 1 ? double{m_articolo.peso} : 0.0;
     ricalcolaTutto();
+    return riprese;
 }
 
 void RigheMerce::riporta() {

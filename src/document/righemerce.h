@@ -6,6 +6,9 @@
 #include "document/documento.h"
 #include "document/totaliriga.h"
 
+#include <optional>
+#include <utility>
+
 namespace bor {
 
 struct Contesto;
@@ -20,8 +23,10 @@ public:
 
     RigheMerce(Contesto& contesto, Documento& documento);
 
-    /// Takes the rows of the document anew.
-    void prendi();
+    /// Takes the rows of the document anew, or those of a draft; true for a draft, which nobody confirmed.
+    bool prendi();
+    /// The next `prendi` takes these rows instead.
+    void riprendi(TabellaRighe righe) { m_riprese = std::move(righe); }
     /// Puts rows and totals into the document.
     void riporta();
 
@@ -71,6 +76,7 @@ private:
     Contesto& m_contesto;
     Documento& m_documento;
     TabellaRighe m_righe;
+    std::optional<TabellaRighe> m_riprese;
     TotaliRighe m_totali;
     Art m_articolo = vuoto<Art>(); ///< the article last read
     int m_listino = 1;

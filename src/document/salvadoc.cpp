@@ -150,7 +150,8 @@ EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazion
     avvisaRecuperi(contesto);
 
     if (nuovo) {
-        sospese.tieni(documento);
+        if (!sospese.tieni(documento))
+            avvisaRigheNonTenute(contesto, sospese.cartella());
         // Prepared while the document still counts as new: it has no earlier movement to ask about.
         registrazioni.preparaMovimento(documento);
         documento.recordfattura = registrato.record;

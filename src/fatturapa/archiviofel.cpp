@@ -96,8 +96,8 @@ ArchivioFel::Stato ArchivioFel::leggi() {
 }
 
 bool ArchivioFel::cambia(const std::function<bool(FileFel&)>& come) {
-    const BloccoByte blocco = m_archivio.bloccaContatori();
-    if (leggi() == Stato::Illeggibile)
+    const BloccoByte blocco(m_archivio.tot, byteContatori);
+    if (blocco.occupato() || leggi() == Stato::Illeggibile)
         return false;
     FileFel nuovo = m_file;
     if (!come(nuovo))

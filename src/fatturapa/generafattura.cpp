@@ -43,7 +43,7 @@ std::optional<Fpa> GeneratoreFel::leggiFpa(const QString& nome) const {
     RecordFile<Fpa> file(m_contesto.archivio.disco());
     Fpa fpa = vuoto<Fpa>();
     if (!file.apri(m_contesto.archivio.reale(m_contesto.archivio.file(nome)), Apertura::SolaLettura) ||
-        !file.leggi(1, fpa))
+        file.leggi(1, fpa) != EsitoLettura::Letta)
         return std::nullopt;
     return fpa;
 }

@@ -34,9 +34,8 @@ int cifra(std::optional<Opzione> opzione) {
 
 } // namespace
 
-Borfte::Borfte(Contesto& contesto, Documento& documento, std::function<bool()> righeInSospeso)
-    : m_contesto(contesto), m_documento(documento), m_righeInSospeso(std::move(righeInSospeso)),
-      m_riordino(contesto) {}
+Borfte::Borfte(Contesto& contesto, Documento& documento)
+    : m_contesto(contesto), m_documento(documento), m_riordino(contesto) {}
 
 void Borfte::carica() {
     ripristinavista();
@@ -63,11 +62,6 @@ void Borfte::attiva() {
 
 void Borfte::esci() {
     if (m_riordino.inCorso())
-        return;
-    if (m_righeInSospeso && m_righeInSospeso() &&
-        !m_contesto.operatore.chiedi(
-            u"Alcuni documenti nuovi hanno righe non ancora registrate. Uscire comunque?"_s, titoloAttenzione,
-            Icona::Domanda, Predefinita::No))
         return;
     m_contesto.archivio.chiudi();
     m_contesto.navigatore.termina();

@@ -19,9 +19,8 @@ enum class Visua { DallaPrima, DallUltima };
 
 class Borfte {
 public:
-    /// `documento` becomes the one that the operator chooses, which the document form then opens;
-    /// `righeInSospeso` tells whether lines typed for new documents would be lost with the run.
-    Borfte(Contesto& contesto, Documento& documento, std::function<bool()> righeInSospeso);
+    /// `documento` becomes the one that the operator chooses, which the document form then opens.
+    Borfte(Contesto& contesto, Documento& documento);
 
     /// The start of the program: options restored from the stored preference, then the list filled.
     void carica();
@@ -97,7 +96,6 @@ private:
 
     Contesto& m_contesto;
     Documento& m_documento;
-    std::function<bool()> m_righeInSospeso;
     ComandoRiordino m_riordino;
     ElencoFatture m_elenco;
     FiltroFatture m_filtro = FiltroFatture::Tutte;

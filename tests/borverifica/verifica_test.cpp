@@ -270,7 +270,7 @@ TEST_F(VerificaTest, ConUnCaricoGiacenzaEVendutoSonoCerti) {
         Mag carico = vuoto<Mag>();
         carico.articolo = 1;
         carico.quantita = 100.0;
-        a.aggiungi(a.mag, Conta::Mag, carico);
+        aggiungi(a, a.mag, Conta::Mag, carico);
         Art vite = a.art.leggi(1);
         vite.giacenza += 100;
         a.art.scrivi(1, vite);

@@ -37,6 +37,11 @@ struct Programma {
             ricalcola(documento.ddd, documento.scorporo, prova.tabelle, prova.contesto.valuta());
         riportaTotali(documento, t.iva, t.baserit, t.importorit, prova.contesto);
     }
+    /// Lines of the document wait for its lines file.
+    bool inSospeso() const {
+        Documento copia = documento;
+        return sospese.riprendi(copia);
+    }
     int documenti() const { return prova.archivio.leggiTot(Conta::Fte).numero; }
 
     DiscoGuasto disco;

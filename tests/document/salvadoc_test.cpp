@@ -113,7 +113,7 @@ TEST_F(SalvaTest, RigheFinoAlSecondoSalvataggio) {
     ASSERT_EQ(esito.dopo, DopoSalva::Movimento);
     EXPECT_EQ(p.registrazioni.chiamate, QStringList({u"movimento"_s}));
     EXPECT_FALSE(esito.modificamovimento);
-    EXPECT_FALSE(p.sospese.vuoto());
+    EXPECT_TRUE(p.inSospeso());
 
     p.apri(1);
     EXPECT_EQ(p.documento.ddd[0], rigaDi(12.5, 10));
@@ -124,7 +124,7 @@ TEST_F(SalvaTest, RigheFinoAlSecondoSalvataggio) {
     p.prova.operatore.risposte = {true, false};
     EXPECT_EQ(p.salva().dopo, DopoSalva::Registro);
     EXPECT_EQ(p.registrazioni.chiamate.mid(1), QStringList({u"togli"_s, u"metti"_s}));
-    EXPECT_TRUE(p.sospese.vuoto());
+    EXPECT_FALSE(p.inSospeso());
     EXPECT_EQ(p.prova.operatore.attese, 0);
 
     const QByteArray file = azienda.leggi(u"f2"_s);
@@ -259,7 +259,7 @@ TEST_F(SalvaTest, EliminareChiedeEDiceDelMovimento) {
     EXPECT_TRUE(p.elimina());
     EXPECT_EQ(p.prova.operatore.messaggi.last().testo,
               u"Non è stato trovato alcun movimento contabile associato alla fattura"_s);
-    EXPECT_TRUE(p.sospese.vuoto());
+    EXPECT_FALSE(p.inSospeso());
     EXPECT_EQ(azienda.leggi(u"borlano.tot"_s).sliced(72, 6).toHex(), "010001000100");
     p.apri(1);
     p.salva();

@@ -37,7 +37,8 @@ TEST(FatturaXmlDemo, OgniDocumentoPaHaIlSuoFileEAlmenoTreSonoSenzaRilievi) {
     int scritti = 0;
     int puliti = 0;
     for (int record = 1; record <= prova.archivio.leggiTot(Conta::Fte).numero; ++record) {
-        Documento documento = documentoEsistente(prova.contesto, record, RigheInSospeso());
+        RigheInSospeso nessuna;
+        Documento documento = documentoEsistente(prova.contesto, record, nessuna).value();
         if (!documento.fatturaPa() || documento.coppia.fte.annullata != 0)
             continue;
         Borftepa form(prova.contesto, documento);

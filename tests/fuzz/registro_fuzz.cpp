@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     contesto.archivio.scriviTot(bor::Conta::Cli, contatore);
 
     bor::Documento documento;
-    bor::Borfte registro(contesto.contesto, documento, [] { return false; });
+    bor::Borfte registro(contesto.contesto, documento);
     registro.carica();
     guarda(registro);
     for (int colonna = 0; colonna < bor::colonneElenco; ++colonna)

@@ -36,7 +36,7 @@ struct RiordinoTest : testing::Test {
 
     void riordinaPer(ContestoDiProva& prova, TipoRiordino tipo) {
         Documento documento;
-        Borfte form(prova.contesto, documento, {});
+        Borfte form(prova.contesto, documento);
         form.carica();
         form.scegliRiordino();
         form.riordino(tipo);
@@ -73,7 +73,7 @@ TEST_F(RiordinoTest, UnRifiutoNonToccaNullaERiportaIBottoni) {
     ContestoDiProva prova(azienda);
     prova.operatore.rispostaSolita = false;
     Documento documento;
-    Borfte form(prova.contesto, documento, {});
+    Borfte form(prova.contesto, documento);
     form.carica();
     form.scegliRiordino();
     EXPECT_EQ(form.statoRiordino().etichetta(), QStringLiteral("Seleziona il tipo di riordino da eseguire"));

@@ -22,7 +22,7 @@ protected:
             azienda.documento(c);
         }
         prova = std::make_unique<ContestoDiProva>(azienda);
-        form = std::make_unique<Borfte>(prova->contesto, documento, nullptr);
+        form = std::make_unique<Borfte>(prova->contesto, documento);
         form->carica();
         vista = std::make_unique<VistaBorfte>(*form);
         mostra(*vista);

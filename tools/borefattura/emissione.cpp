@@ -17,7 +17,7 @@ namespace {
 class SenzaOperatore : public Operatore {
 public:
     void messaggio(const QString&, const QString&, Icona) override {}
-    bool chiedi(const QString&, const QString&, Icona) override { return false; }
+    bool chiedi(const QString&, const QString&, Icona, Predefinita) override { return false; }
     void attesa(bool) override {}
     void lasciaEventi() override {}
     QString scegliFile(const QString&, const QString&) override { return {}; }
@@ -66,13 +66,17 @@ struct Ambiente {
     OrologioDiSistema orologio;
     SenzaSistema sistema;
     SenzaSchermi schermi;
-    Timbro timbro;
-    Contesto contesto{sessione, archivio, impostazioni, tabelle, operatore,
-                      orologio, sistema,  schermi,      timbro};
+    Contesto contesto{sessione, archivio, impostazioni, tabelle, operatore, orologio, sistema, schermi};
 };
 
 resoconto::RilieviFile emettiUno(GeneratoreFel& generatore, Contesto& contesto, int record) {
-    const Documento documento = documentoEsistente(contesto, record, RigheInSospeso());
+    RigheInSospeso nessuna;
+    const auto aperto = documentoEsistente(contesto, record, nessuna);
+    if (!aperto)
+        return {u"documento del record %1, non scritto"_s.arg(record),
+                {{.motivo = u"i suoi dati non si possono leggere"_s,
+                  .rimedio = u"verificare disco, rete e permessi della cartella dell'azienda"_s}}};
+    const Documento& documento = *aperto;
     const EsitoFel esito = generatore.genera(documento);
     const QString nome = esito.stato == EsitoFel::Stato::Scritta
                              ? esito.percorso
