@@ -24,8 +24,9 @@ QString netto(const Documento& documento, const Contesto& contesto) {
                                                                  contesto.tabelle, contesto.valuta())
                                                       .nettodocumento
                                                 : totali(documento).nettodoc;
+    // Nothing stands to be paid while the lines of a new document are not confirmed: their own totals count.
     const QString testo = contesto.valuta().importotesto(importo);
-    return u"netto a pagare "_s + (testo.isEmpty() ? u"0"_s : testo);
+    return testo.isEmpty() ? QString() : u"netto a pagare "_s + testo;
 }
 
 } // namespace
