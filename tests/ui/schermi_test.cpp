@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QLayout>
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScreen>
