@@ -1,5 +1,7 @@
 #include "archive/archivio.h"
 
+#include <utility>
+
 namespace bor {
 
 Archivio::Archivio(const Percorsi& percorsi, Disco& disco, double codiceazienda)
@@ -57,9 +59,13 @@ bool Archivio::scriviTot(Conta quale, const Tot& contatore) {
     return tot.scrivi(static_cast<int>(quale), contatore);
 }
 
-FileCasuale& Archivio::fileDiRecord(std::size_t posizione) {
-    const std::array<FileCasuale*, fileDiRaffica.size()> file{&tot, &art, &con, &fte, &f2e, &mag, &gio};
+const FileCasuale& Archivio::fileDiRecord(std::size_t posizione) const {
+    const std::array<const FileCasuale*, fileDiRaffica.size()> file{&tot, &art, &con, &fte, &f2e, &mag, &gio};
     return *file[posizione];
+}
+
+FileCasuale& Archivio::fileDiRecord(std::size_t posizione) {
+    return const_cast<FileCasuale&>(std::as_const(*this).fileDiRecord(posizione));
 }
 
 std::size_t Archivio::posizioneFile(const FileCasuale& file) const {

@@ -47,6 +47,7 @@ public:
     bool scriviTot(Conta quale, const Tot& contatore);
 
     /// The open files that bursts of writes change, in the order of `fileDiRaffica`.
+    const FileCasuale& fileDiRecord(std::size_t posizione) const;
     FileCasuale& fileDiRecord(std::size_t posizione);
     std::size_t posizioneFile(const FileCasuale& file) const;
 

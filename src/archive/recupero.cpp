@@ -29,12 +29,16 @@ qint64 posto(const VoceDiario& voce) {
 }
 
 /// The record as it is by now; nothing when it could not be read.
-std::optional<QByteArray> attuale(Archivio& archivio, const VoceDiario& voce) {
+std::optional<QByteArray> attuale(const Archivio& archivio, const VoceDiario& voce) {
     QByteArray bytes(voce.prima.size(), '\0');
     if (archivio.fileDiRecord(voce.file).leggiBytes(posto(voce), std::as_writable_bytes(std::span(bytes))) <
         0)
         return std::nullopt;
     return bytes;
+}
+
+QString nomeRecord(const VoceDiario& voce) {
+    return QStringLiteral("borlano.%1 n. %2").arg(fileDiRaffica[voce.file].estensione).arg(voce.record);
 }
 
 /// Every record of the log holds the bytes after its burst; nothing when one could not be read.
@@ -70,6 +74,16 @@ EsitoRaffica disfa(FileDiario& file, Archivio& archivio) {
 }
 
 } // namespace
+
+QStringList recordEstranei(const Archivio& archivio, const Diario& diario) {
+    QStringList estranei;
+    for (const VoceDiario& voce : diario.voci) {
+        const auto bytes = attuale(archivio, voce);
+        if (bytes && !mescolanza(*bytes, voce))
+            estranei.append(nomeRecord(voce));
+    }
+    return estranei;
+}
 
 FileDiario::FileDiario(Archivio& archivio) : m_archivio(archivio), m_file(archivio.disco()) {}
 
@@ -147,8 +161,7 @@ EsitoRaffica FileDiario::portaVoce(const VoceDiario& voce, Verso verso, QStringL
     if (!bytes)
         return EsitoRaffica::NonLetta;
     if (!mescolanza(*bytes, voce)) {
-        lasciati.append(
-            QStringLiteral("borlano.%1 n. %2").arg(fileDiRaffica[voce.file].estensione).arg(voce.record));
+        lasciati.append(nomeRecord(voce));
         return EsitoRaffica::Riuscita;
     }
     // Written also where it seems to be there: zero bytes at its end may only be the end of the file.

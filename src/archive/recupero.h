@@ -26,6 +26,11 @@ struct Recupero {
     QStringList lasciati; ///< records that hold something else by now, and were left alone
 };
 
+/// The records of a log that hold neither their bytes before nor those after the burst, nor a mixture of them
+/// as a torn write leaves: another program changed them meanwhile. As "borlano.con n. 3"; one that cannot be
+/// read is not among them.
+QStringList recordEstranei(const Archivio& archivio, const Diario& diario);
+
 /// The company's log file, made when it is missing. Whoever has it holds the lock of the company.
 class FileDiario {
 public:

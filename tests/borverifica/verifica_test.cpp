@@ -1,4 +1,5 @@
 // The check of an archive: silent on a sound company, and one defect at a time.
+#include "archive/diario.h"
 #include "archive/fpa.h"
 #include "borverifica/verifica.h"
 #include "posting/borftec.h"
@@ -328,9 +329,25 @@ TEST_F(VerificaTest, RestiDiUnaScritturaInterrotta) {
               "ERRORE  borlano.tot: l'ultimo file delle righe dato è il 1, ma un documento ha il 2: "
               "un documento nuovo può prendere le righe di un altro\n"
               "AVVISO  p2: è un file delle righe che nessun documento usa\n"
-              "ERRORE  borlano.rip: una registrazione è rimasta a metà: archivio e contatori la "
-              "aspettano\n"
+              "AVVISO  borlano.rip: è a metà: la registrazione che prepara non era cominciata\n"
               "AVVISO  f3.AbCdEf: è rimasto da una scrittura interrotta");
+}
+
+TEST_F(VerificaTest, UnaRegistrazioneAMetaEICambiamentiDiAltri) {
+    const QByteArray conti = azienda.leggi(u"borlano.con"_s);
+    const qsizetype lungo = sizeof(Con);
+    const auto voce = [&](int n, const QByteArray& prima) {
+        return VoceDiario{2, n, prima, QByteArray(lungo, '9')};
+    };
+    azienda.scrivi(u"borlano.rip"_s,
+                   codifica({u"fattura 3 del 15/03/2015"_s,
+                             {voce(1, conti.first(lungo)), voce(2, QByteArray(lungo, '7'))}}));
+    const QStringList trovati = rilievi();
+    EXPECT_TRUE(trovati.contains(u"ERRORE  borlano.rip: una registrazione è rimasta a metà (fattura 3 del "
+                                 u"15/03/2015): archivio e contatori la aspettano"_s))
+        << qPrintable(trovati.join(u'\n'));
+    EXPECT_EQ(trovati.filter(u"borlano.con n. "_s).size(), 1);
+    EXPECT_EQ(trovati.filter(u"borlano.con n. 2: un altro programma"_s).size(), 1);
 }
 
 TEST_F(VerificaTest, UnDocumentoEliminatoCheLasciaMovimentoERigheOCheDivideIlRiferimento) {

@@ -43,6 +43,8 @@ QString testo(Rimedio rimedio) {
         return u"Ricostruite gli indici con il programma di manutenzione."_s;
     case Rimedio::AvviaProgramma:
         return u"Avviate il programma su questa azienda: all'avvio completa la registrazione."_s;
+    case Rimedio::ConfrontaDato:
+        return u"Avviate il programma, poi confrontate questo dato con il documento e correggetelo."_s;
     case Rimedio::CorreggiContatore:
         return u"Non registrate altri documenti prima che l'assistenza abbia corretto borlano.tot."_s;
     case Rimedio::RipristinaCopia:

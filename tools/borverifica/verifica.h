@@ -36,6 +36,7 @@ enum class Rimedio {
     ControllaArticolo,
     RicostruisciIndici,
     AvviaProgramma,
+    ConfrontaDato,
     CorreggiContatore,
     RipristinaCopia,
     Assistenza
