@@ -8,7 +8,7 @@
 
 namespace bor {
 
-/// The part of a document that boxes edit.
+/// The struct of the document that a group of boxes edits.
 template <class Parte>
 Parte& parteDi(Documento& documento) {
     if constexpr (std::is_same_v<Parte, Estremi>)

@@ -1,4 +1,4 @@
-// The part of a screen that scrolls where the window is smaller than it.
+// The scrolling area of a screen, for windows that are smaller than the screen's content.
 #pragma once
 
 #include <QScrollArea>
