@@ -1,6 +1,9 @@
 #include "ui/aspetto.h"
 
+#include "common/installazione.h"
+
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
@@ -21,9 +24,20 @@ void parlaItaliano(QApplication& applicazione) {
         QCoreApplication::installTranslator(italiano);
 }
 
+/// By these the desktop knows which menu entry a window belongs to.
+void presenta() {
+    QCoreApplication::setApplicationName(identificatore.toString());
+    QGuiApplication::setDesktopFileName(identificatore.toString());
+    QIcon icona;
+    for (const QString& lato : {u"48"_s, u"128"_s})
+        icona.addFile(u":/icone/%1-%2.png"_s.arg(identificatore, lato));
+    QGuiApplication::setWindowIcon(icona);
+}
+
 } // namespace
 
 void applicaAspetto(QApplication& applicazione) {
+    presenta();
     parlaItaliano(applicazione);
     applicazione.setStyle(QStyleFactory::create(u"Fusion"_s));
     QPalette tinte;

@@ -2,6 +2,7 @@
 #include "borcrea/creaazienda.h"
 
 #include "archive/archivio.h"
+#include "common/installazione.h"
 #include "common/versione.h"
 
 #include <QCommandLineParser>
@@ -32,7 +33,7 @@ int main(int argc, char** argv) {
     parser.setApplicationDescription(
         u"Crea l'archivio di un'azienda da file di testo. Se un testo contiene errori li elenca tutti, e non "
         u"scrive nulla."_s);
-    parser.addOptions({{u"sorgente"_s, u"Cartella dei testi."_s, u"cartella"_s, QStringLiteral(BOR_DEMO_DIR)},
+    parser.addOptions({{u"sorgente"_s, u"Cartella dei testi."_s, u"cartella"_s, bor::installato(u"demo")},
                        {u"unita"_s, u"Cartella che fa da radice dell'unità."_s, u"cartella"_s, u"."_s},
                        {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
                        {u"documenti"_s, u"Ripete i documenti fino a questo numero, per misurare i tempi."_s,

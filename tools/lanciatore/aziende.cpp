@@ -2,6 +2,7 @@
 
 #include "archive/filetesto.h"
 #include "common/avvio.h"
+#include "common/installazione.h"
 #include "common/testo.h"
 
 #include <QDir>
@@ -61,13 +62,12 @@ QString unitaPredefinita() {
 }
 
 Comando comandoModulo(const QString& cartellaProgrammi, int codiceazienda) {
-    return {cartellaProgrammi + u"/borfte"_s, {rigaAvvio(codiceazienda)}};
+    return {bor::programma(cartellaProgrammi, u"borfte"), {rigaAvvio(codiceazienda)}};
 }
 
 Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& unita) {
-    return {cartellaProgrammi + u"/borcrea"_s,
-            {u"--unita"_s, unita, u"--azienda"_s, QString::number(codiceDimostrazione),
-             QStringLiteral(BOR_DEMO_DIR)}};
+    return {bor::programma(cartellaProgrammi, u"borcrea"),
+            {u"--unita"_s, unita, u"--azienda"_s, QString::number(codiceDimostrazione), installato(u"demo")}};
 }
 
 bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi) {
@@ -78,7 +78,7 @@ bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi) 
         return true;
     // What is in the way can only be a link to a program that has gone.
     QFile::remove(*posto);
-    const QString programma = cartellaProgrammi + u"/borxpdf"_s;
+    const QString programma = bor::programma(cartellaProgrammi, u"borxpdf");
     // Some network drives know no links.
     return QFile::exists(programma) && (QFile::link(programma, *posto) || QFile::copy(programma, *posto));
 }

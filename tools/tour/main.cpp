@@ -3,6 +3,7 @@
 #include "app/schermi.h"
 #include "borcrea/creaazienda.h"
 #include "common/avvio.h"
+#include "common/installazione.h"
 #include "common/versione.h"
 #include "tour/giro.h"
 #include "ui/adattatori.h"
@@ -62,8 +63,7 @@ int main(int argc, char* argv[]) {
     qputenv("XDG_DATA_HOME", unita.path().toLocal8Bit());
     const QString unitaC = unita.path() + u"/borfte/c"_s;
     QDir().mkpath(unitaC);
-    const bor::crea::Problemi problemi =
-        bor::crea::creaAzienda({QStringLiteral(BOR_DEMO_DIR), unita.path(), 1});
+    const bor::crea::Problemi problemi = bor::crea::creaAzienda({bor::installato(u"demo"), unita.path(), 1});
     if (!problemi.empty()) {
         std::fprintf(stderr, "%s\n", qPrintable(problemi.front().testo()));
         return 1;

@@ -1,0 +1,38 @@
+# Completes the options of the suite's commands, and the folders, files and company codes that they take.
+
+# _borlano_aziende FOLDER: the codes of the companies on a drive.
+_borlano_aziende() {
+    local cartella
+    for cartella in "${1:-.}"/[Ss][Uu][Pp][Rr][Oo][Kk]/[Ss][Uu][Pp][Rr][Oo][Kk]/[Bb][Oo][Rr][Aa][Zz]0.[0-9][0-9][0-9]; do
+        [ -d "$cartella" ] && printf '%s\n' "$((10#${cartella##*.}))"
+    done
+}
+
+_borlano() {
+    local parola=${COMP_WORDS[COMP_CWORD]} prima=${COMP_WORDS[COMP_CWORD - 1]} opzioni unita="" i
+    case ${COMP_WORDS[0]##*/} in
+    lanciatore) opzioni="--unita --azienda --dimostrazione --help --version" ;;
+    borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --version" ;;
+    borverifica) opzioni="--unita --azienda --json --aiuto --version" ;;
+    borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --version" ;;
+    borxmlcheck) opzioni="--json --mostra --aiuto --version" ;;
+    borxpdf) opzioni="--anteprima --version" ;;
+    *) return ;;
+    esac
+    for ((i = 1; i < COMP_CWORD; ++i)); do
+        [ "${COMP_WORDS[i]}" = --unita ] && unita=${COMP_WORDS[i + 1]}
+    done
+    case $prima in
+    --unita | --sorgente | --cartella) mapfile -t COMPREPLY < <(compgen -d -- "$parola") ;;
+    --azienda) mapfile -t COMPREPLY < <(compgen -W "$(_borlano_aziende "$unita")" -- "$parola") ;;
+    --documenti | --documento) COMPREPLY=() ;;
+    *)
+        if [[ $parola == -* ]]; then
+            mapfile -t COMPREPLY < <(compgen -W "$opzioni" -- "$parola")
+        else
+            mapfile -t COMPREPLY < <(compgen -f -- "$parola")
+        fi
+        ;;
+    esac
+}
+complete -o filenames -F _borlano lanciatore borcrea borverifica borefattura borxmlcheck borxpdf
