@@ -9,6 +9,18 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
+namespace {
+
+/// A first invoice to an office has no number yet: the form behind the command gives it out. Of the lines of
+/// fee bills that form knows nothing.
+bool aUnUfficio(const Documento& documento) {
+    constexpr qsizetype caratteriUfficio = 6;
+    const bool conUfficio = documento.cliente.clix2.trimmed().size() == caratteriUfficio;
+    return documento.fatturaPa() || (conUfficio && !documento.parcella());
+}
+
+} // namespace
+
 bool Borftea::abilitato(Comando comando) const {
     switch (comando) {
     case Comando::Elimina:
@@ -19,7 +31,7 @@ bool Borftea::abilitato(Comando comando) const {
     case Comando::Anteprima:
         return static_cast<bool>(m_comandi.anteprima);
     case Comando::FatturaPa:
-        return m_documento.fatturaPa() && m_comandi.fatturaPa;
+        return !nuovo() && aUnUfficio(m_documento) && m_comandi.fatturaPa;
     case Comando::ScegliPdf:
         return static_cast<bool>(m_comandi.scegliPdf);
     case Comando::ApriPdf:

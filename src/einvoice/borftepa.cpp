@@ -1,21 +1,14 @@
 #include "einvoice/borftepa.h"
 
-#include "archive/raffica.h"
 #include "common/numeri.h"
-#include "document/avvisi.h"
-#include "einvoice/generaxml.h"
+#include "einvoice/filefpa.h"
 #include "einvoice/tabellefpa.h"
-
-#include <QFile>
-#include <QFileInfo>
 
 namespace bor {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString titoloForm = u"Fattura elettronica PA"_s;
 
 /// The codes in front of the rows of the lists, as "MP05".
 constexpr qsizetype lunghezzaCodice = 4;
@@ -48,11 +41,18 @@ void Borftepa::attiva() {
     m_righepa = caricarighe(m_documento.ddd);
     m_riepilogo = calcolaiva(m_righepa, m_documento.scorporo, m_contesto.tabelle, m_contesto.valuta());
     proponi();
-    if (apriDocumento()) {
-        ripristina();
-    } else {
+    switch (apriDocumento()) {
+    case LetturaFpa::Letta:
+        return ripristina();
+    case LetturaFpa::Assente:
         m_documento.recordfpa = 0;
-        cambia(TestoFpa::Progressivo, testoDecimale(valore(m_fpaazienda.progressivoinvio.text()) + 1));
+        return cambia(TestoFpa::Progressivo, testoDecimale(valore(m_fpaazienda.progressivoinvio.text()) + 1));
+    case LetturaFpa::Illeggibile:
+        m_contesto.operatore.messaggio(
+            u"Il file %1, con i dati già inseriti per questa fattura, esiste ma non si può leggere. Per non scriverci sopra la maschera non si apre: controllate i permessi del file nella cartella dell'azienda e che nessun altro programma lo tenga occupato."_s
+                .arg(fileDocumento()),
+            u"Attenzione"_s, Icona::Stop);
+        return lascia();
     }
 }
 
@@ -64,12 +64,12 @@ void Borftepa::vuotaCampi() {
     m_fpadoc = bianca();
     m_testi.fill({});
     m_vettore = -1;
-    m_generato = false;
+    m_generata.reset();
 }
 
 void Borftepa::apriAzienda() {
     m_fpaazienda = vuoto<Fpa>();
-    if (!leggiFpa(u"borlano.fpa"_s, m_fpaazienda))
+    if (leggiFpa(m_contesto.archivio, fileAzienda, m_fpaazienda) != LetturaFpa::Letta)
         m_fpaazienda.statoquadri.set(u"0");
 }
 
@@ -100,8 +100,13 @@ void Borftepa::proponiPagamento() {
     scegliCodice(ListaFpa::Modalita, tipo < modalita.size() ? modalita[tipo] : assegno);
 }
 
-bool Borftepa::apriDocumento() {
-    return m_documento.recordfpa > 0 && leggiFpa(fileDocumento(), m_fpadoc);
+LetturaFpa Borftepa::apriDocumento() {
+    Fpa letto = m_fpadoc;
+    const LetturaFpa esito = m_documento.recordfpa > 0 ? leggiFpa(m_contesto.archivio, fileDocumento(), letto)
+                                                       : LetturaFpa::Assente;
+    if (esito == LetturaFpa::Letta)
+        m_fpadoc = letto;
+    return esito;
 }
 
 void Borftepa::ripristina() {
@@ -148,38 +153,6 @@ void Borftepa::scegliVettore(int posizione) {
     mettiVettore(m_fpadoc, m_contesto.tabelle, posizione + 1);
 }
 
-void Borftepa::genera() {
-    {
-        const Attesa attesa(m_contesto.operatore);
-        raccogli();
-        scriviXml();
-        scriviDati();
-    }
-    m_generato = true;
-    // Said of a failed write too, as the suite always did; the check of the file tells the truth.
-    m_contesto.operatore.messaggio(
-        u"Il file %1 è stato creato all'interno della cartella %2"_s.arg(
-            nomeXml(m_fpaazienda, testo(TestoFpa::Numero)), cartellaXml(m_fpaazienda)),
-        titoloForm, Icona::Informazione);
-}
-
-void Borftepa::scriviXml() {
-    m_riepilogo = calcolaiva(m_righepa, m_documento.scorporo, m_contesto.tabelle, m_contesto.valuta());
-    completaCodici(m_righepa);
-    const QByteArray xml = generaxml({.azienda = m_fpaazienda,
-                                      .documento = m_fpadoc,
-                                      .cliente = m_cliente,
-                                      .righepa = m_righepa,
-                                      .riepilogo = m_riepilogo,
-                                      .scadenze = m_documento.scadenze,
-                                      .coordinate = m_documento.testata.cliente.coordinate,
-                                      .tabelle = m_contesto.tabelle,
-                                      .valuta = m_contesto.valuta()});
-    const QString percorso = percorsoXml(m_contesto.archivio, m_fpaazienda, testo(TestoFpa::Numero));
-    if (!percorso.isEmpty())
-        m_contesto.archivio.disco().scriviFile(percorso, xml);
-}
-
 void Borftepa::raccogli() {
     Fpa& d = m_fpadoc;
     d.tipodocpa.set(voce(ListaFpa::TipoDocumento).left(lunghezzaCodice));
@@ -199,63 +172,6 @@ void Borftepa::raccogli() {
     d.modalitapagamento.set(voce(ListaFpa::Modalita).left(lunghezzaCodice));
     d.art73flag.set(art73 ? u"1" : u"0");
     d.esigdifferita.set(esig ? u"1" : u"0");
-}
-
-void Borftepa::scriviDati() {
-    if (m_documento.recordfpa < 1)
-        m_documento.recordfpa = nuovoProgressivo();
-    if (m_documento.recordfpa < 1)
-        return;
-    scriviFpa(fileDocumento(), m_fpadoc);
-    scriviFpa(u"borlano.fpa"_s, m_fpaazienda);
-}
-
-/// The counter is 16 bits wide on file and starts again where they end. 0 when it could not be counted on:
-/// the operator was told.
-double Borftepa::nuovoProgressivo() {
-    int numero = 0;
-    EsitoRaffica esito{};
-    {
-        Raffica raffica(m_contesto.archivio, u"numero di una fattura elettronica"_s);
-        Tot contatore = raffica.leggiTot(Conta::Fpa);
-        const int ultimo = std::max<int>(contatore.numero, 0);
-        numero = ultimo >= Archivio::massimo ? 1 : ultimo + 1;
-        contatore.numero = static_cast<std::int16_t>(numero);
-        raffica.scriviTot(Conta::Fpa, contatore);
-        esito = raffica.esegui();
-    }
-    avvisaRecuperi(m_contesto);
-    if (esito == EsitoRaffica::Riuscita)
-        return numero;
-    avvisaNonRegistrato(m_contesto, esito);
-    return 0;
-}
-
-std::optional<std::vector<Rilievo>> Borftepa::controlla() {
-    const QString percorso = percorsoXml(m_contesto.archivio, m_fpaazienda, testo(TestoFpa::Numero));
-    QFile file(percorso);
-    if (percorso.isEmpty() || !file.open(QIODevice::ReadOnly)) {
-        m_contesto.operatore.messaggio(
-            u"Il file %1 non si trova nella cartella %2: controllare che la cartella esista e che il numero del documento possa far parte del nome di un file"_s
-                .arg(nomeXml(m_fpaazienda, testo(TestoFpa::Numero)), cartellaXml(m_fpaazienda)),
-            titoloForm, Icona::Esclamazione);
-        return std::nullopt;
-    }
-    return controllaXml(file.readAll(), QFileInfo(percorso).fileName());
-}
-
-bool Borftepa::leggiFpa(const QString& nome, Fpa& fpa) const {
-    RecordFile<Fpa> file(m_contesto.archivio.disco());
-    if (!file.apri(m_contesto.archivio.reale(m_contesto.archivio.file(nome)), Apertura::SolaLettura))
-        return false;
-    file.leggi(1, fpa);
-    return true;
-}
-
-void Borftepa::scriviFpa(const QString& nome, const Fpa& fpa) const {
-    RecordFile<Fpa> file(m_contesto.archivio.disco());
-    if (file.apri(m_contesto.archivio.reale(m_contesto.archivio.file(nome))))
-        file.scrivi(1, fpa);
 }
 
 QString Borftepa::fileDocumento() const {

@@ -6,11 +6,15 @@
 #include "archive/fpa.h"
 #include "document/documento.h"
 #include "einvoice/campifpa.h"
+#include "einvoice/filefpa.h"
 #include "einvoice/listefpa.h"
 #include "einvoice/riepilogofpa.h"
 #include "xmlcheck/controlloxml.h"
 
+#include <array>
 #include <optional>
+#include <tuple>
+#include <vector>
 
 namespace bor {
 
@@ -48,24 +52,36 @@ public:
 
     /// Writes the XML file and the data of company and document, and tells where the file is.
     void genera(); ///< `comando(1)`
-    bool generato() const { return m_generato; }
-    /// What the receiving system would refuse in the file generated last; nothing when there is no such file,
-    /// which the operator is told.
+    bool generato() const { return m_generata.has_value(); }
+    /// What is wrong with the file generated last: that the disk does not have it as the form shows it, or
+    /// what the receiving system would refuse in it. Nothing when there is no such file, which the operator
+    /// is told.
     std::optional<std::vector<Rilievo>> controlla();
 
 private:
+    /// What the operator can enter.
+    using Compilata =
+        std::tuple<std::array<QString, numeroPostiFpa>, std::array<int, numeroListeFpa>, int, bool, bool>;
+    /// What `genera` did last.
+    struct Generata {
+        Compilata compilata;
+        QString nome;
+        QString percorso; ///< empty when the name is none of a file
+        QByteArray xml;
+        std::vector<Rilievo> nonScritti; ///< of the other files
+    };
+
     void apriAzienda();
     void vuotaCampi();
     void proponi();
     void proponiPagamento();
-    bool apriDocumento();
+    LetturaFpa apriDocumento();
     void ripristina();
     void raccogli();
-    void scriviXml();
-    void scriviDati();
+    QByteArray componiXml();
+    std::vector<Rilievo> scriviDati();
     double nuovoProgressivo();
-    bool leggiFpa(const QString& nome, Fpa& fpa) const;
-    void scriviFpa(const QString& nome, const Fpa& fpa) const;
+    Compilata compilata() const { return {m_testi, m_scelte, m_vettore, art73, esig}; }
     QString fileDocumento() const;
     QString voce(ListaFpa lista) const;
     void scegliCodice(ListaFpa lista, QStringView codice);
@@ -81,7 +97,7 @@ private:
     std::array<QString, numeroPostiFpa> m_testi; ///< as typed, of texts and dates
     std::array<int, numeroListeFpa> m_scelte{};
     int m_vettore = -1;
-    bool m_generato = false;
+    std::optional<Generata> m_generata;
 };
 
 } // namespace bor

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHideEvent>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -228,16 +229,39 @@ QWidget* VistaBorftepa::creaSpunta(const QString& nome, const QString& testo, bo
 QWidget* VistaBorftepa::creaComandi() {
     auto* barra = new BarraComandi(legami);
     barra->comando(u"comando(4)"_s, u"Esci"_s, u"esci"_s, u"Ctrl+Q"_s, [this] { m_form.lascia(); });
-    barra->comando(u"comando(1)"_s, u"Genera fattura"_s, u"genera"_s, u"F10"_s, [this] { m_form.genera(); });
+    barra->comando(u"comando(1)"_s, u"Genera fattura"_s, u"genera"_s, u"F10"_s, [this] { genera(); });
     auto* controllo =
         barra->comando(u"controlla"_s, u"Controlla"_s, u"controlla"_s, u"F8"_s, [this] { controlla(); });
     legami.abilitato(controllo, [this] { return m_form.generato(); });
     return barra;
 }
 
+void VistaBorftepa::genera() {
+    m_form.genera();
+    if (m_rilievi && m_rilievi->isVisible())
+        controlla();
+}
+
 void VistaBorftepa::controlla() {
-    if (const auto rilievi = m_form.controlla())
-        (new FinestraRilievi(*rilievi, this))->show();
+    const auto rilievi = m_form.controlla();
+    if (!rilievi) {
+        chiudiRilievi();
+        return;
+    }
+    if (!m_rilievi)
+        m_rilievi = new FinestraRilievi(this);
+    m_rilievi->mostra(*rilievi);
+}
+
+void VistaBorftepa::chiudiRilievi() {
+    if (m_rilievi)
+        m_rilievi->close();
+}
+
+void VistaBorftepa::hideEvent(QHideEvent* evento) {
+    Vista::hideEvent(evento);
+    if (!evento->spontaneous())
+        chiudiRilievi();
 }
 
 void VistaBorftepa::vai(PostoFpa posto) {

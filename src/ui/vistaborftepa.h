@@ -12,6 +12,8 @@ class QLineEdit;
 
 namespace bor {
 
+class FinestraRilievi;
+
 class VistaBorftepa : public Vista {
 public:
     explicit VistaBorftepa(Borftepa& form, QWidget* parent = nullptr);
@@ -19,6 +21,9 @@ public:
     void attiva() override;
     void lascia() override;
     QString titolo() const override;
+
+protected:
+    void hideEvent(QHideEvent* evento) override;
 
 private:
     /// The four boxes of a reference.
@@ -46,11 +51,14 @@ private:
     void mostraCliente(QGridLayout* griglia, int riga, int colonna, int indice, const QString& descrizione,
                        int caratteri, const std::function<QString(const Cli&)>& leggi);
     void vai(PostoFpa posto);
+    void genera();
     void controlla();
+    void chiudiRilievi();
 
     Borftepa& m_form;
     std::array<QLineEdit*, numeroPostiFpa> m_caselle{};
     QComboBox* m_vettori = nullptr;
+    FinestraRilievi* m_rilievi = nullptr; ///< from the first check on
 };
 
 } // namespace bor

@@ -128,6 +128,15 @@ TEST_F(DocumentForm, DocumentoEsistente_SessioneTitoloEComandi) {
     EXPECT_EQ(form.titolo(), u"Modifica dati fatturaPA emessa");
     EXPECT_EQ(documento.recordfpa, 3);
     EXPECT_TRUE(form.abilitato(Comando::FatturaPa));
+    documento.coppia.f2e.fpa = 0;
+    EXPECT_FALSE(form.abilitato(Comando::FatturaPa));
+    documento.cliente.clix2.set(u"UF12");
+    EXPECT_FALSE(form.abilitato(Comando::FatturaPa)) << "no whole office code";
+    documento.cliente.clix2.set(u"UFABCD");
+    EXPECT_TRUE(form.abilitato(Comando::FatturaPa)) << "the first invoice to an office";
+    documento.coppia.fte.parcella = 1;
+    EXPECT_FALSE(form.abilitato(Comando::FatturaPa));
+    documento.coppia.fte.parcella = 0;
     EXPECT_EQ(documento.scadenze.pagamento, -1) << "what a document has does not come from the customer";
     form.esegui(Comando::Righe);
     EXPECT_EQ(contesto.navigatore.mostrati.last(), Schermo::Borftex);

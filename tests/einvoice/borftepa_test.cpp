@@ -1,4 +1,5 @@
 #include "einvoice/fatturadiprova.h"
+#include "support/disco_guasto.h"
 
 #include <gtest/gtest.h>
 
@@ -157,6 +158,126 @@ TEST(FormFatturaPa, DateEInvio) {
     EXPECT_EQ(casellaFpa(TestoFpa::Progressivo).dopo, PostoFpa(TestoFpa::NumeroDdt));
     EXPECT_EQ(casellaFpa(TestoFpa::CodiceCig).dopo, PostoFpa(TestoFpa::CodiceCig));
     EXPECT_EQ(casellaFpa(TestoFpa::ContrattoItem).dopo, PostoFpa(TestoFpa::ContrattoCommessa));
+}
+
+/// A company whose names nobody finds fault with: the check has nothing to say of its file.
+struct FatturaSenzaRilievi : FatturaDiProva {
+    explicit FatturaSenzaRilievi(Disco& disco) : FatturaDiProva(societa(), cliente(), disco) {
+        form.attiva();
+    }
+
+    static Fpa societa() {
+        Fpa a = fpaSocieta();
+        a.denominazione.set(u"Caffe e Figli S.r.l.");
+        a.idcodice.set(u"01234567897");
+        a.partitaiva.set(u"01234567897");
+        a.codfiscale.set(u"01234567897");
+        return a;
+    }
+    static Cli cliente() {
+        Cli c = clienteDi(u"Comune di Cantu"_s);
+        c.sede.indirizzo.set(u"Piazza Parini 4");
+        c.sede.cap.set(u"22063");
+        c.sede.citta.set(u"Cantu");
+        c.partitaiva.set(u"01234567897");
+        c.codicefiscale.set(u"01234567897");
+        c.clix2.set(u"UFABCD");
+        return c;
+    }
+    /// What the check says of the files on disk, one reason a line; "assente" without a file.
+    QString controllo() {
+        const auto rilievi = form.controlla();
+        QStringList motivi;
+        for (const Rilievo& r : rilievi.value_or(std::vector<Rilievo>{}))
+            motivi << r.motivo;
+        return rilievi ? motivi.join(u'\n') : u"assente"_s;
+    }
+};
+
+TEST(FormFatturaPa, IlControlloSaCheCosaNonESulDisco) {
+    DiscoGuasto disco;
+    FatturaSenzaRilievi f(disco);
+    // The invoice, the counter's log, the counter, the emptied log, the document's data, the company's.
+    const int prima = disco.scritture;
+    f.form.genera();
+    EXPECT_EQ(f.controllo(), QString());
+    const int operazioni = disco.scritture - prima;
+    QStringList detti;
+    for (int guasto = 1; guasto <= operazioni; ++guasto) {
+        f.documento.recordfpa = 0;
+        f.form.attiva();
+        f.form.cambia(TestoFpa::Progressivo, QString::number(guasto));
+        disco.ripara();
+        disco.guasto = guasto;
+        f.form.genera();
+        disco.ripara();
+        detti << f.controllo();
+    }
+    EXPECT_TRUE(detti.first().contains(u"IT01234567897_12.xml sul disco non è quello"_s));
+    const auto parlaDi = [&](const QString& file) {
+        return std::ranges::count_if(detti, [&](const QString& d) {
+            return d.contains(u"Il file %1"_s.arg(file)) && d.contains(u"sul disco non è quello"_s);
+        });
+    };
+    EXPECT_GE(parlaDi(u"borlano.tot"_s), 1);
+    EXPECT_GE(parlaDi(u"fpa"_s), 1);
+    EXPECT_EQ(parlaDi(u"borlano.fpa"_s), 1);
+    f.form.genera();
+    EXPECT_EQ(f.controllo(), QString()) << "all is well again";
+}
+
+TEST(FormFatturaPa, SenzaContatoreNessunNumero) {
+    DiscoGuasto disco;
+    FatturaSenzaRilievi f(disco);
+    disco.illeggibile = u"borlano.tot"_s;
+    f.form.genera();
+    EXPECT_EQ(f.documento.recordfpa, 0);
+    EXPECT_TRUE(f.controllo().contains(u"non ha preso il suo numero"_s));
+    disco.ripara();
+    EXPECT_EQ(f.prova.archivio.leggiTot(Conta::Fpa).numero, 0);
+    EXPECT_EQ(QDir(f.azienda.percorso({})).entryList({u"fpa*"_s}), QStringList());
+    f.form.genera();
+    EXPECT_EQ(f.documento.recordfpa, 1);
+}
+
+TEST(FormFatturaPa, UnaMascheraCambiataDopoNonPassaPerIlFile) {
+    FatturaSenzaRilievi f(discoSano());
+    f.form.genera();
+    f.form.cambia(TestoFpa::CodiceCig, u"Z0512F7A3B"_s);
+    EXPECT_TRUE(f.controllo().contains(u"la maschera è cambiata"_s));
+    f.form.cambia(TestoFpa::CodiceCig, {});
+    EXPECT_EQ(f.controllo(), QString());
+    QFile file(f.percorsoXml(u"IT01234567897_12.xml"_s));
+    ASSERT_TRUE(file.open(QIODevice::Append) && file.write(" ") == 1);
+    file.close();
+    EXPECT_TRUE(f.controllo().contains(u"non è quello"_s));
+    ASSERT_TRUE(file.remove());
+    EXPECT_EQ(f.controllo(), u"assente"_s);
+}
+
+TEST(FormFatturaPa, DatiIllegibiliNonSiSovrascrivono) {
+    DiscoGuasto disco;
+    FatturaSenzaRilievi f(disco);
+    f.form.genera();
+    const QByteArray scritti = f.azienda.leggi(u"fpa1"_s);
+    f.prova.operatore.messaggi.clear();
+    disco.illeggibile = u"fpa1"_s;
+    f.form.attiva();
+    ASSERT_EQ(f.prova.operatore.messaggi.size(), 1);
+    EXPECT_TRUE(f.prova.operatore.messaggi[0].testo.contains(u"fpa1"_s));
+    EXPECT_EQ(f.prova.navigatore.mostrati, QList{Schermo::Borftea});
+    EXPECT_EQ(f.documento.recordfpa, 1);
+    EXPECT_EQ(f.azienda.leggi(u"fpa1"_s), scritti);
+}
+
+TEST(FormFatturaPa, IDatiDellAziendaTornanoComeSonoAdesso) {
+    FatturaDiProva f;
+    f.form.attiva();
+    Fpa altrove = fpaSocieta();
+    altrove.progressivoinvio.set(u"77");
+    f.azienda.scrivi(u"borlano.fpa"_s, bytesDi(altrove));
+    f.form.genera();
+    EXPECT_EQ(f.azienda.leggi(u"borlano.fpa"_s), bytesDi(altrove));
 }
 
 TEST(CaselleFpa, InvioPassaDaTutteEOgniCasellaHaIlSuoCampo) {

@@ -62,8 +62,15 @@ inline QByteArray bytesDi(const Fpa& fpa) {
     return {reinterpret_cast<const char*>(&fpa), sizeof fpa};
 }
 
+inline Disco& discoSano() {
+    static Disco disco;
+    return disco;
+}
+
 struct FatturaDiProva {
-    explicit FatturaDiProva(const Fpa& societa = fpaSocieta(), const Cli& cliente = clienteComune()) {
+    explicit FatturaDiProva(const Fpa& societa = fpaSocieta(), const Cli& cliente = clienteComune(),
+                            Disco& disco = discoSano())
+        : prova(azienda, disco) {
         azienda.scrivi(QStringLiteral("borlano.fpa"), bytesDi(societa));
         QDir(azienda.percorsi().radiceCorrente()).mkdir(QStringLiteral("xml"));
         documento.recordcliente = aggiungi(prova.archivio, prova.archivio.cli, Conta::Cli, cliente);
@@ -113,7 +120,7 @@ struct FatturaDiProva {
     }
 
     AziendaDiProva azienda;
-    ContestoDiProva prova{azienda};
+    ContestoDiProva prova;
     Tabelle& tabelle = prova.tabelle;
     Documento documento;
     Borftepa form{prova.contesto, documento};

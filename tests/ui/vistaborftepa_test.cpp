@@ -1,11 +1,15 @@
 #include "ui/vistaborftepa.h"
 
 #include "einvoice/fatturadiprova.h"
+#include "ui/finestrarilievi.h"
 #include "ui/gesti.h"
 
 #include <QComboBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QListWidget>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -59,9 +63,43 @@ TEST(VistaFatturaPa, SiCompilaDallaTastieraSiGeneraESiControlla) {
     // The bare "&" of the company's name makes the file unreadable.
     EXPECT_GT(controllo<QListWidget>(*finestra, u"listaRilievi"_s)->count(), 0);
     foto(*finestra, u"rilievi"_s);
+    EXPECT_TRUE(testoDi(*finestra, u"esito"_s).contains(u"così non si può spedire"_s));
     finestra->reject();
+    clic(vista, u"controlla"_s);
+    EXPECT_TRUE(finestra->isVisible());
+    EXPECT_EQ(vista.findChildren<QDialog*>(u"rilievi"_s).size(), 1);
     tasto(vista, Qt::Key_Escape);
     EXPECT_EQ(f.prova.navigatore.mostrati, QList{Schermo::Borftea});
+    vista.hide();
+    EXPECT_FALSE(finestra->isVisible());
+}
+
+TEST(VistaFatturaPa, UnaDataAMetaESistemataPrimaDiGenerare) {
+    FatturaDiProva f;
+    VistaBorftepa vista(f.form);
+    mostra(vista);
+    controllo(vista, u"dsca(0)"_s)->setFocus();
+    controllo<QLineEdit>(vista, u"dsca(0)"_s)->selectAll();
+    scrivi(vista, u"311215"_s);
+    tasto(vista, Qt::Key_F10);
+    EXPECT_TRUE(f.xml().contains("<Data>2015-12-31</Data>"));
+    EXPECT_EQ(testoDi(vista, u"dsca(0)"_s), u"31/12/2015"_s);
+}
+
+TEST(FinestraRilievi, ContaERaccontaSenzaSbagliare) {
+    FinestraRilievi finestra(nullptr);
+    const Rilievo errore{.motivo = u"Manca il CAP."_s};
+    const Rilievo avviso{.motivo = u"Le rate non tornano."_s, .gravita = Gravita::Avviso};
+    const std::pair<std::vector<Rilievo>, QString> casi[] = {
+        {{}, u"Nessun rilievo: il file si può spedire."_s},
+        {{avviso}, u"Nessun rilievo, 1 avviso: il file si può spedire."_s},
+        {{errore}, u"1 rilievo: il file così non si può spedire."_s},
+        {{errore, avviso, errore, avviso}, u"2 rilievi, 2 avvisi: il file così non si può spedire."_s}};
+    for (const auto& [rilievi, detto] : casi) {
+        finestra.mostra(rilievi);
+        EXPECT_EQ(testoDi(finestra, u"esito"_s), detto);
+        EXPECT_EQ(controllo<QListWidget>(finestra, u"listaRilievi"_s)->count(), std::ssize(rilievi));
+    }
 }
 
 } // namespace
