@@ -204,18 +204,21 @@ std::set<QString> tastiScritti(const QString& testo) {
     return tasti;
 }
 
-TEST_F(Schermi, IlReadmeDiceITastiCheCiSono) {
-    QFile readme(QStringLiteral(BOR_SOURCE_DIR "/README.md"));
-    ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
-    QString testo = QString::fromUtf8(readme.readAll());
-    testo = testo.mid(testo.indexOf(u"## Keys"_s));
-    const QStringList parti = testo.left(testo.indexOf(u"\n## "_s, 3)).split(u"| screen | keys |"_s);
+QString leggi(const QString& nome) {
+    QFile file(QStringLiteral(BOR_SOURCE_DIR "/") + nome);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The keys of all screens, then those of each, against what the screens have.
+void diceITasti(const Finestra& finestra, const QString& testo, const QString& tabella,
+                const QString& riga1) {
+    const QStringList parti = testo.split(tabella);
     ASSERT_EQ(parti.size(), 2);
     const std::set<QString> comuni = tastiScritti(parti[0]);
-    QStringList righe = parti[1].split(u'\n', Qt::SkipEmptyParts).filter(QRegularExpression(u"^\\| [a-z]"_s));
+    QStringList righe = parti[1].split(u'\n', Qt::SkipEmptyParts).filter(QRegularExpression(riga1));
     ASSERT_EQ(righe.size(), std::ssize(tuttiGliSchermi));
     for (const Schermo schermo : tuttiGliSchermi) {
-        Vista& vista = *finestra.vista(schermo);
+        const Vista& vista = *finestra.vista(schermo);
         std::set<QString> ci;
         for (const auto* scorciatoia : vista.findChildren<QShortcut*>())
             ci.merge(tastiScritti(scorciatoia->key().toString()));
@@ -230,6 +233,17 @@ TEST_F(Schermi, IlReadmeDiceITastiCheCiSono) {
                   QStringList(detti.begin(), detti.end()).join(u' '))
             << qPrintable(riga);
     }
+}
+
+TEST_F(Schermi, ReadmeEGuidaDiconoITastiCheCiSono) {
+    QString readme = leggi(u"README.md"_s);
+    readme = readme.mid(readme.indexOf(u"## Keys"_s));
+    readme = readme.left(readme.indexOf(u"\n## "_s, 3));
+    diceITasti(finestra, readme, u"| screen | keys |"_s, u"^\\| [a-z]"_s);
+    // As README writes them.
+    QString guida = leggi(u"docs/guida/tasti.md"_s);
+    guida.remove(u'`').replace(u" a Ctrl+"_s, u" to "_s).replace(u"Ctrl+Fine"_s, u"Ctrl+End"_s);
+    diceITasti(finestra, guida, u"| schermo | tasti |"_s, u"^\\| \\["_s);
 }
 
 TEST_F(Schermi, F12MostraITastiDelloSchermo) {

@@ -31,6 +31,19 @@ void stampe(Giro& giro) {
     }
 }
 
+/// A fee bill, its lines and the regimes of its head.
+void parcella(Giro& giro) {
+    apri(giro, 4);
+    giro.foto(u"parcella"_s);
+    giro.tasto(Qt::Key_F3);
+    giro.foto(u"righe-parcella"_s);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_F2);
+    giro.foto(u"testata-parcella"_s);
+    giro.tasto(Qt::Key_F10);
+    giro.tasto(Qt::Key_Escape);
+}
+
 void registro(Giro& giro) {
     giro.premi(u"visua(1)"_s);
     giro.tasto(Qt::Key_F6);
@@ -107,6 +120,7 @@ void fatturaPa(Giro& giro) {
 void percorri(Giro& giro) {
     giro.foto(u"registro"_s);
     stampe(giro);
+    parcella(giro);
     registro(giro);
     testata(giro);
     fatturaNuova(giro);
