@@ -3,6 +3,7 @@
 #include "app/modulo.h"
 #include "document/riassunto.h"
 #include "ui/finestra.h"
+#include "ui/guida.h"
 #include "ui/vistaborfte.h"
 #include "ui/vistaborftea.h"
 #include "ui/vistaborftec.h"
@@ -15,19 +16,25 @@
 namespace bor {
 
 void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
-    // Whose document it is stands at the top of every screen that edits one.
     const auto aggiungi = [&](Schermo schermo, Vista* vista) {
         finestra.aggiungi(schermo, vista);
+        vista->offriGuida(tastoGuida(schermo), [&modulo, schermo] {
+            apriGuida(modulo.contesto().sistema, modulo.contesto().operatore, capitolo(schermo));
+        });
+    };
+    // Whose document it is stands at the top of every screen that edits one.
+    const auto aggiungiIntestato = [&](Schermo schermo, Vista* vista) {
+        aggiungi(schermo, vista);
         vista->intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
     };
-    finestra.aggiungi(Schermo::Borfte, new VistaBorfte(modulo.borfte()));
-    finestra.aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));
-    finestra.aggiungi(Schermo::Borsel, new VistaBorsel(modulo.borsel()));
-    aggiungi(Schermo::Borftea, new VistaBorftea(modulo.borftea()));
-    aggiungi(Schermo::Borftex, new VistaBorftex(modulo.borftex()));
-    aggiungi(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
-    aggiungi(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
-    aggiungi(Schermo::Borftepa, new VistaBorftepa(modulo.borftepa()));
+    aggiungi(Schermo::Borfte, new VistaBorfte(modulo.borfte()));
+    aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));
+    aggiungi(Schermo::Borsel, new VistaBorsel(modulo.borsel()));
+    aggiungiIntestato(Schermo::Borftea, new VistaBorftea(modulo.borftea()));
+    aggiungiIntestato(Schermo::Borftex, new VistaBorftex(modulo.borftex()));
+    aggiungiIntestato(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
+    aggiungiIntestato(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
+    aggiungiIntestato(Schermo::Borftepa, new VistaBorftepa(modulo.borftepa()));
 }
 
 } // namespace bor

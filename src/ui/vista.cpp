@@ -1,5 +1,6 @@
 #include "ui/vista.h"
 
+#include "ui/campi.h"
 #include "ui/lettere.h"
 
 #include <QBoxLayout>
@@ -43,6 +44,13 @@ void Vista::intesta(const std::function<QString()>& testo) {
         riga->setToolTip(riga->text());
     });
     static_cast<QBoxLayout*>(layout())->insertWidget(0, riga);
+}
+
+void Vista::offriGuida(const QKeySequence& tasto, const std::function<void()>& apri) {
+    auto* bottone = new BottoneComando(u"guida"_s, u"Guida"_s, u"guida"_s, tasto);
+    connect(bottone, &QToolButton::clicked, this, apri);
+    const QWidget* barra = layout()->itemAt(layout()->count() - 1)->widget();
+    barra->layout()->addWidget(bottone);
 }
 
 QList<TastoSchermo> Vista::tasti() const {

@@ -23,6 +23,8 @@ public:
     virtual QString titolo() const = 0;
     /// Puts a line at the top of the screen; `testo` is asked at each refresh.
     void intesta(const std::function<QString()>& testo);
+    /// Puts a button at the end of the command bar that opens the guide, and the key that presses it.
+    void offriGuida(const QKeySequence& tasto, const std::function<void()>& apri);
     /// The keys of the screen, those of its commands in view first.
     QList<TastoSchermo> tasti() const;
 

@@ -1,6 +1,7 @@
 #include "ui/vistaborsel.h"
 
 #include "register/borsel.h"
+#include "ui/barracomandi.h"
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
 #include "ui/griglia.h"
@@ -43,10 +44,10 @@ VistaBorsel::VistaBorsel(Borsel& form, QWidget* parent)
     QWidget* elenco = creaElenco();
     layout->addWidget(ricerca);
     layout->addWidget(elenco, 1);
-    auto* indice =
-        new BottoneComando(u"indice"_s, u"Torna senza scegliere"_s, u"indietro"_s, QKeySequence(u"Ctrl+Q"_s));
-    legami.comando(indice, [this] { m_form.esci(); });
-    layout->addWidget(indice);
+    auto* comandi = new BarraComandi(legami);
+    comandi->comando(u"indice"_s, u"Torna senza scegliere"_s, u"indietro"_s, u"Ctrl+Q"_s,
+                     [this] { m_form.esci(); });
+    layout->addWidget(comandi);
     legami.altro([this] { aggiornaElenco(); });
 }
 

@@ -1,16 +1,20 @@
 // What holds on every screen: letters, names, keys, the wheel, a key held down, Qt's own words.
 #include "app/modulo.h"
 #include "app/schermi.h"
+#include "archive/fpa.h"
 #include "common/avvio.h"
+#include "common/installazione.h"
 #include "support/azienda.h"
 #include "support/stampante_finta.h"
 #include "ui/adattatori.h"
 #include "ui/campi.h"
 #include "ui/finestra.h"
 #include "ui/gesti.h"
+#include "ui/guida.h"
 
 #include <QAbstractSlider>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLayout>
@@ -244,6 +248,29 @@ TEST_F(Schermi, ReadmeEGuidaDiconoITastiCheCiSono) {
     QString guida = leggi(u"docs/guida/tasti.md"_s);
     guida.remove(u'`').replace(u" a Ctrl+"_s, u" to "_s).replace(u"Ctrl+Fine"_s, u"Ctrl+End"_s);
     diceITasti(finestra, guida, u"| schermo | tasti |"_s, u"^\\| \\["_s);
+}
+
+TEST_F(Schermi, F1ApreIlCapitoloDelloSchermo) {
+    // Company data that are complete, or the form of the electronic invoice closes itself.
+    azienda.scrivi(u"borlano.fpa"_s, QByteArray("999").leftJustified(sizeof(Fpa)));
+    const QString pagine = installato(u"guida"_s) + u'/';
+    const QDir capitoli(QStringLiteral(BOR_SOURCE_DIR "/docs/guida"));
+    for (const Schermo schermo : tuttiGliSchermi) {
+        sistema.aperti.clear();
+        Vista& vista = mostra(schermo);
+        const QString titolo = vista.titolo();
+        if (schermo == Schermo::Borftex)
+            tasto(vista, Qt::Key_F1);
+        tasto(vista, Qt::Key_F1, schermo == Schermo::Borftex ? Qt::ShiftModifier : Qt::NoModifier);
+        EXPECT_EQ(sistema.aperti, QStringList{pagine + capitolo(schermo) + u".html"_s}) << qPrintable(titolo);
+        EXPECT_TRUE(capitoli.exists(capitolo(schermo) + u".md"_s)) << qPrintable(titolo);
+        clic(vista, u"guida"_s);
+        EXPECT_EQ(sistema.aperti.size(), 2) << qPrintable(titolo);
+    }
+    EXPECT_TRUE(operatore.messaggi.isEmpty());
+    sistema.esitoApri = 31;
+    tasto(mostra(Schermo::Borfte), Qt::Key_F1);
+    EXPECT_EQ(operatore.messaggi.size(), 1);
 }
 
 TEST_F(Schermi, F12MostraITastiDelloSchermo) {

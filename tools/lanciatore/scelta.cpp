@@ -1,6 +1,8 @@
 #include "lanciatore/scelta.h"
 
 #include "common/testo.h"
+#include "ui/adattatori.h"
+#include "ui/guida.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -60,6 +62,9 @@ SceltaAzienda::SceltaAzienda(const QString& unita, const QString& cartellaProgra
 
     auto* ricarica = new QShortcut(QKeySequence::Refresh, this);
     connect(ricarica, &QShortcut::activated, this, &SceltaAzienda::aggiorna);
+    auto* aiuto = new QShortcut(Qt::Key_F1, this);
+    aiuto->setAutoRepeat(false);
+    connect(aiuto, &QShortcut::activated, this, &SceltaAzienda::mostraGuida);
     connect(&m_borcrea, &QProcess::finished, this, [this](int codice, QProcess::ExitStatus stato) {
         finitaDimostrazione(stato == QProcess::NormalExit && codice == 0);
     });
@@ -131,6 +136,8 @@ QWidget* SceltaAzienda::costruisciComandi() {
     connect(altra, &QPushButton::clicked, this, &SceltaAzienda::chiediUnita);
     QPushButton* rileggi = bottone(u"aggiorna"_s, u"A&ggiorna"_s, u"aggiorna"_s, u"Rilegge l'elenco (F5)"_s);
     connect(rileggi, &QPushButton::clicked, this, &SceltaAzienda::aggiorna);
+    QPushButton* guida = bottone(u"guida"_s, u"G&uida"_s, u"guida"_s, u"Apre la guida (F1)"_s);
+    connect(guida, &QPushButton::clicked, this, &SceltaAzienda::mostraGuida);
     QPushButton* esci = bottone(u"esci"_s, u"&Esci"_s, u"esci"_s, u"Chiude la finestra (Esc)"_s);
     connect(esci, &QPushButton::clicked, this, &QDialog::reject);
     m_apriBottone = bottone(u"apri"_s, u"A&pri"_s, u"conferma"_s, u"Apre l'azienda scelta (Invio)"_s);
@@ -139,6 +146,7 @@ QWidget* SceltaAzienda::costruisciComandi() {
     disposizione->setContentsMargins(0, 0, 0, 0);
     disposizione->addWidget(altra);
     disposizione->addWidget(rileggi);
+    disposizione->addWidget(guida);
     disposizione->addStretch();
     disposizione->addWidget(esci);
     disposizione->addWidget(m_apriBottone);
@@ -195,6 +203,13 @@ void SceltaAzienda::chiediUnita() {
                                                              m_percorsi.radiceCorrente());
     if (!scelta.isEmpty())
         cambiaUnita(scelta);
+}
+
+void SceltaAzienda::mostraGuida() {
+    SistemaQt sistema;
+    OperatoreQt operatore;
+    operatore.usa(this);
+    apriGuida(sistema, operatore, u"primo-avvio"_s);
 }
 
 void SceltaAzienda::creaDimostrazione() {

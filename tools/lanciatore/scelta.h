@@ -33,6 +33,7 @@ private:
     QWidget* costruisciComandi();
     void apriScelta();
     void chiediUnita();
+    void mostraGuida();
     void creaDimostrazione();
     void finitaDimostrazione(bool riuscita);
 

@@ -31,16 +31,13 @@ void stampe(Giro& giro) {
     }
 }
 
-/// A fee bill, its lines and the regimes of its head.
+/// A fee bill and its lines.
 void parcella(Giro& giro) {
     apri(giro, 4);
     giro.foto(u"parcella"_s);
     giro.tasto(Qt::Key_F3);
     giro.foto(u"righe-parcella"_s);
     giro.tasto(Qt::Key_Escape);
-    giro.tasto(Qt::Key_F2);
-    giro.foto(u"testata-parcella"_s);
-    giro.tasto(Qt::Key_F10);
     giro.tasto(Qt::Key_Escape);
 }
 
