@@ -14,24 +14,22 @@ public:
     explicit ElementiXml(QXmlStreamWriter& scrittore) : m_scrittore(scrittore) {}
 
     template <class F>
-    void blocco(QStringView nome, F contenuto) {
-        m_scrittore.writeStartElement(nome.toString());
+    void blocco(const QString& nome, F contenuto) {
+        m_scrittore.writeStartElement(nome);
         contenuto();
         m_scrittore.writeEndElement();
     }
-    void testo(QStringView nome, const QString& valore) {
-        m_scrittore.writeTextElement(nome.toString(), valore);
-    }
+    void testo(const QString& nome, const QString& valore) { m_scrittore.writeTextElement(nome, valore); }
     /// Only when there is something.
-    void sePieno(QStringView nome, const QString& valore) {
+    void sePieno(const QString& nome, const QString& valore) {
         if (!valore.isEmpty())
             testo(nome, valore);
     }
-    void data(QStringView nome, QDate data) { sePieno(nome, data.toString(Qt::ISODate)); }
-    void importo(QStringView nome, double x) { testo(nome, testoDecimali(x, 2, 2)); }
+    void data(const QString& nome, QDate data) { sePieno(nome, data.toString(Qt::ISODate)); }
+    void importo(const QString& nome, double x) { testo(nome, testoDecimali(x, 2, 2)); }
     /// With up to eight decimals.
-    void importo8(QStringView nome, double x) { testo(nome, testoDecimali(x, 2, 8)); }
-    void si(QStringView nome, bool vero) {
+    void importo8(const QString& nome, double x) { testo(nome, testoDecimali(x, 2, 8)); }
+    void si(const QString& nome, bool vero) {
         if (vero)
             testo(nome, QStringLiteral("SI"));
     }
@@ -46,7 +44,7 @@ void scriviBeniServizi(ElementiXml& xml, const FatturaElettronica& f);
 void scriviPagamento(ElementiXml& xml, const PagamentoFel& pagamento);
 
 /// A VAT number; nothing without one.
-void scriviIdFiscale(ElementiXml& xml, QStringView nome, const QString& paese, const QString& codice);
+void scriviIdFiscale(ElementiXml& xml, const QString& nome, const QString& paese, const QString& codice);
 void scriviAnagrafica(ElementiXml& xml, const SoggettoFel& soggetto);
 
 } // namespace bor

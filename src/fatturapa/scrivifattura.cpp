@@ -12,10 +12,10 @@ namespace {
 constexpr QStringView spazioFattura = u"http://ivaservizi.agenziaentrate.gov.it/docs/xsd/fatture/v1.2";
 
 void scriviAllegato(ElementiXml& xml, const AllegatoFel& allegato) {
-    xml.blocco(u"Allegati", [&] {
-        xml.testo(u"NomeAttachment", allegato.nome);
-        xml.testo(u"FormatoAttachment", u"PDF"_s);
-        xml.testo(u"Attachment", QString::fromLatin1(allegato.contenuto.toBase64()));
+    xml.blocco(u"Allegati"_s, [&] {
+        xml.testo(u"NomeAttachment"_s, allegato.nome);
+        xml.testo(u"FormatoAttachment"_s, u"PDF"_s);
+        xml.testo(u"Attachment"_s, QString::fromLatin1(allegato.contenuto.toBase64()));
     });
 }
 
@@ -41,7 +41,7 @@ QByteArray scriviFattura(const FatturaElettronica& f) {
     scrittore.writeAttribute(u"versione"_s, f.trasmissione.pubblica ? u"FPA12"_s : u"FPR12"_s);
     ElementiXml xml(scrittore);
     scriviTestata(xml, f);
-    xml.blocco(u"FatturaElettronicaBody", [&] {
+    xml.blocco(u"FatturaElettronicaBody"_s, [&] {
         scriviDatiGenerali(xml, f);
         scriviBeniServizi(xml, f);
         scriviPagamento(xml, f.pagamento);

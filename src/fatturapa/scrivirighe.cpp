@@ -11,62 +11,62 @@ namespace {
 void articolo(ElementiXml& xml, const QString& tipo, const QString& codice) {
     if (codice.isEmpty())
         return;
-    xml.blocco(u"CodiceArticolo", [&] {
-        xml.testo(u"CodiceTipo", tipo);
-        xml.testo(u"CodiceValore", codice);
+    xml.blocco(u"CodiceArticolo"_s, [&] {
+        xml.testo(u"CodiceTipo"_s, tipo);
+        xml.testo(u"CodiceValore"_s, codice);
     });
 }
 
 /// Percentages only: an amount beside them would be taken for the discount of one piece.
 void sconto(ElementiXml& xml, double percento) {
-    xml.blocco(u"ScontoMaggiorazione", [&] {
-        xml.testo(u"Tipo", percento < 0 ? u"MG"_s : u"SC"_s);
-        xml.importo(u"Percentuale", std::abs(percento));
+    xml.blocco(u"ScontoMaggiorazione"_s, [&] {
+        xml.testo(u"Tipo"_s, percento < 0 ? u"MG"_s : u"SC"_s);
+        xml.importo(u"Percentuale"_s, std::abs(percento));
     });
 }
 
 void linea(ElementiXml& xml, int numero, const LineaFel& l) {
-    xml.blocco(u"DettaglioLinee", [&] {
-        xml.testo(u"NumeroLinea", QString::number(numero));
+    xml.blocco(u"DettaglioLinee"_s, [&] {
+        xml.testo(u"NumeroLinea"_s, QString::number(numero));
         articolo(xml, u"ARTICOLO"_s, l.codice);
         articolo(xml, u"ARTICOLO2"_s, l.codice2);
-        xml.testo(u"Descrizione", l.descrizione);
+        xml.testo(u"Descrizione"_s, l.descrizione);
         if (l.quantita)
-            xml.importo8(u"Quantita", *l.quantita);
-        xml.sePieno(u"UnitaMisura", l.um);
-        xml.importo8(u"PrezzoUnitario", l.prezzo);
+            xml.importo8(u"Quantita"_s, *l.quantita);
+        xml.sePieno(u"UnitaMisura"_s, l.um);
+        xml.importo8(u"PrezzoUnitario"_s, l.prezzo);
         for (const double percento : l.sconti)
             sconto(xml, percento);
-        xml.importo8(u"PrezzoTotale", l.totale);
-        xml.importo(u"AliquotaIVA", l.aliquota);
-        xml.si(u"Ritenuta", l.ritenuta);
-        xml.sePieno(u"Natura", l.natura);
+        xml.importo8(u"PrezzoTotale"_s, l.totale);
+        xml.importo(u"AliquotaIVA"_s, l.aliquota);
+        xml.si(u"Ritenuta"_s, l.ritenuta);
+        xml.sePieno(u"Natura"_s, l.natura);
         if (!l.intento.isEmpty())
-            xml.blocco(u"AltriDatiGestionali", [&] {
-                xml.testo(u"TipoDato", u"INTENTO"_s);
-                xml.testo(u"RiferimentoTesto", l.intento);
-                xml.data(u"RiferimentoData", l.intentodata);
+            xml.blocco(u"AltriDatiGestionali"_s, [&] {
+                xml.testo(u"TipoDato"_s, u"INTENTO"_s);
+                xml.testo(u"RiferimentoTesto"_s, l.intento);
+                xml.data(u"RiferimentoData"_s, l.intentodata);
             });
     });
 }
 
 void riepilogo(ElementiXml& xml, const RiepilogoFel& r) {
-    xml.blocco(u"DatiRiepilogo", [&] {
-        xml.importo(u"AliquotaIVA", r.aliquota);
-        xml.sePieno(u"Natura", r.natura);
+    xml.blocco(u"DatiRiepilogo"_s, [&] {
+        xml.importo(u"AliquotaIVA"_s, r.aliquota);
+        xml.sePieno(u"Natura"_s, r.natura);
         if (r.arrotondamento != 0)
-            xml.importo8(u"Arrotondamento", r.arrotondamento);
-        xml.importo(u"ImponibileImporto", r.imponibile);
-        xml.importo(u"Imposta", r.imposta);
-        xml.sePieno(u"EsigibilitaIVA", r.esigibilita);
-        xml.sePieno(u"RiferimentoNormativo", r.riferimento);
+            xml.importo8(u"Arrotondamento"_s, r.arrotondamento);
+        xml.importo(u"ImponibileImporto"_s, r.imponibile);
+        xml.importo(u"Imposta"_s, r.imposta);
+        xml.sePieno(u"EsigibilitaIVA"_s, r.esigibilita);
+        xml.sePieno(u"RiferimentoNormativo"_s, r.riferimento);
     });
 }
 
 } // namespace
 
 void scriviBeniServizi(ElementiXml& xml, const FatturaElettronica& f) {
-    xml.blocco(u"DatiBeniServizi", [&] {
+    xml.blocco(u"DatiBeniServizi"_s, [&] {
         int numero = 0;
         for (const LineaFel& l : f.linee)
             linea(xml, ++numero, l);
@@ -78,17 +78,17 @@ void scriviBeniServizi(ElementiXml& xml, const FatturaElettronica& f) {
 void scriviPagamento(ElementiXml& xml, const PagamentoFel& p) {
     if (p.rate.empty())
         return;
-    xml.blocco(u"DatiPagamento", [&] {
-        xml.testo(u"CondizioniPagamento", p.condizioni);
+    xml.blocco(u"DatiPagamento"_s, [&] {
+        xml.testo(u"CondizioniPagamento"_s, p.condizioni);
         for (const RataFel& rata : p.rate)
-            xml.blocco(u"DettaglioPagamento", [&] {
-                xml.testo(u"ModalitaPagamento", p.modalita);
-                xml.data(u"DataScadenzaPagamento", rata.scadenza);
-                xml.importo(u"ImportoPagamento", rata.importo);
-                xml.sePieno(u"IstitutoFinanziario", p.istituto);
-                xml.sePieno(u"IBAN", p.iban);
-                xml.sePieno(u"ABI", p.abi);
-                xml.sePieno(u"CAB", p.cab);
+            xml.blocco(u"DettaglioPagamento"_s, [&] {
+                xml.testo(u"ModalitaPagamento"_s, p.modalita);
+                xml.data(u"DataScadenzaPagamento"_s, rata.scadenza);
+                xml.importo(u"ImportoPagamento"_s, rata.importo);
+                xml.sePieno(u"IstitutoFinanziario"_s, p.istituto);
+                xml.sePieno(u"IBAN"_s, p.iban);
+                xml.sePieno(u"ABI"_s, p.abi);
+                xml.sePieno(u"CAB"_s, p.cab);
             });
     });
 }

@@ -56,7 +56,7 @@ void controllaPrezzo(Controllo& c, const Nodo& linea) {
     const double scritto = valore(totale->testo);
     if (std::ranges::none_of(possibili,
                              [scritto](double atteso) { return vicini(scritto, atteso, centesimo); }))
-        c.errore(u"00423"_s, totale->percorso, *totale,
+        c.errore(u"00423"_s, *totale,
                  u"Il prezzo totale non è prezzo per quantità meno lo sconto, che dà %1."_s.arg(
                      testoFisso(possibili[0], 2)),
                  u"Correggere quantità, prezzo o sconto"_s);
@@ -66,8 +66,7 @@ void controllaSconti(Controllo& c, const Nodo& nodo, const QString& codice) {
     for (const Nodo& sconto : nodo.figli)
         if (sconto.nome == u"ScontoMaggiorazione" && !sconto.figlio(u"Percentuale") &&
             !sconto.figlio(u"Importo"))
-            c.errore(codice, sconto.percorso, sconto, u"Lo sconto non ha né percentuale né importo."_s,
-                     u"Correggere"_s);
+            c.errore(codice, sconto, u"Lo sconto non ha né percentuale né importo."_s, u"Correggere"_s);
 }
 
 Somme controllaLinee(Controllo& c, const Nodo& beni) {
@@ -92,7 +91,7 @@ void controllaCasse(Controllo& c, const Nodo& documento, Somme& somme) {
         controllaNatura(c, cassa, {u"00413"_s, u"00414"_s});
         somme[chiaveIva(cassa)].aggiungi(numero(cassa, u"ImportoContributoCassa"));
         if (!cassa.valore(u"Ritenuta").isEmpty() && !conRitenuta)
-            c.errore(u"00415"_s, cassa.percorso, cassa,
+            c.errore(u"00415"_s, cassa,
                      u"Il contributo è soggetto a ritenuta, ma mancano i dati della ritenuta."_s,
                      u"Compilare"_s);
     }
@@ -102,8 +101,8 @@ void controllaRitenuta(Controllo& c, const Nodo& documento, const Nodo& beni) {
     const bool soggetta = std::ranges::any_of(
         beni.figli, [](const Nodo& linea) { return linea.figlio(u"Ritenuta") != nullptr; });
     if (soggetta && !documento.figlio(u"DatiRitenuta"))
-        c.errore(u"00411"_s, documento.percorso + u"/DatiRitenuta"_s, documento,
-                 u"Ci sono linee soggette a ritenuta, ma mancano i dati della ritenuta."_s, u"Compilare"_s);
+        c.manca(u"00411"_s, documento, u"DatiRitenuta",
+                u"Ci sono linee soggette a ritenuta, ma mancano i dati della ritenuta."_s, u"Compilare"_s);
 }
 
 double totaleRiepiloghi(const Nodo& beni, bool daPagare) {
@@ -137,17 +136,17 @@ void controllaPagamento(Controllo& c, const Nodo& corpo, const Nodo& documento, 
         for (const Nodo& dettaglio : blocco.figli)
             if (const Nodo* iban = dettaglio.figlio(u"IBAN");
                 iban && !ibanValido(iban->testo.trimmed().toUpper()))
-                c.avviso(iban->percorso, *iban, u"Le cifre di controllo dell'IBAN non tornano."_s,
+                c.avviso(*iban, u"Le cifre di controllo dell'IBAN non tornano."_s,
                          u"Ricontrollare il codice"_s);
             else if (iban && iban->testo != iban->testo.toUpper())
-                c.avviso(iban->percorso, *iban, u"L'IBAN ha lettere minuscole."_s, u"Scriverle maiuscole"_s);
+                c.avviso(*iban, u"L'IBAN ha lettere minuscole."_s, u"Scriverle maiuscole"_s);
     }
     const double totale = std::abs(totaleRiepiloghi(beni, true));
     const double minimo = totale - std::abs(somma(documento, u"DatiRitenuta", u"ImportoRitenuta"));
     if (std::abs(rate) < minimo - centesimo - briciola ||
         std::abs(rate) > totale + bolloMassimo + centesimo + briciola)
         c.avviso(
-            pagamento->percorso, *pagamento,
+            *pagamento,
             u"Le rate sommano %1, ma il documento è di %2."_s.arg(testoFisso(rate, 2), testoFisso(totale, 2)),
             u"Ricontrollare gli importi"_s);
 }
@@ -157,8 +156,7 @@ void controllaCausale(Controllo& c, const Nodo& documento) {
     const Nodo* causale = discendente(documento, {u"DatiRitenuta", u"CausalePagamento"});
     const QString vecchia = c.versione == Versione::V10 ? u"F"_s : u"Z"_s;
     if (causale && causale->testo.trimmed() == vecchia)
-        c.avviso(causale->percorso, *causale, u"La causale %1 non è più in uso."_s.arg(vecchia),
-                 u"Ricontrollare la causale"_s);
+        c.avviso(*causale, u"La causale %1 non è più in uso."_s.arg(vecchia), u"Ricontrollare la causale"_s);
 }
 
 void controllaTotale(Controllo& c, const Nodo& documento, const Nodo& beni) {
@@ -169,7 +167,7 @@ void controllaTotale(Controllo& c, const Nodo& documento, const Nodo& beni) {
     const double scritto = valore(totale->testo);
     if (scritto < atteso - centesimo - briciola || scritto > atteso + bolloMassimo + centesimo + briciola)
         c.avviso(
-            totale->percorso, *totale,
+            *totale,
             u"Il totale del documento non è la somma dei riepiloghi, che dà %1."_s.arg(testoFisso(atteso, 2)),
             u"Ricontrollare gli importi"_s);
 }

@@ -22,10 +22,11 @@ QString idDi(const Nodo* id) {
     return id ? id->valore(u"IdPaese") + id->valore(u"IdCodice") : QString();
 }
 
-Parti partiDi(const Nodo& testata) {
-    const Nodo* cedente = discendente(testata, {u"CedentePrestatore", u"DatiAnagrafici", u"IdFiscaleIVA"});
-    const Nodo* cessionario =
-        discendente(testata, {u"CessionarioCommittente", u"DatiAnagrafici", u"IdFiscaleIVA"});
+Parti partiDi(const Nodo& radice) {
+    const Nodo* cedente = discendente(
+        radice, {u"FatturaElettronicaHeader", u"CedentePrestatore", u"DatiAnagrafici", u"IdFiscaleIVA"});
+    const Nodo* cessionario = discendente(
+        radice, {u"FatturaElettronicaHeader", u"CessionarioCommittente", u"DatiAnagrafici", u"IdFiscaleIVA"});
     return {idDi(cedente), idDi(cessionario), cedente ? cedente->valore(u"IdPaese") : QString(),
             cessionario ? cessionario->valore(u"IdPaese") : QString()};
 }
@@ -39,7 +40,7 @@ void controllaParti(Controllo& c, const Nodo& tipo, const Parti& parti) {
     const QString td = tipo.testo.trimmed();
     const bool stessi = !parti.cedente.isEmpty() && parti.cedente == parti.cessionario;
     const auto errore = [&](const QString& codice, const QString& motivo) {
-        c.errore(codice, tipo.percorso, tipo, motivo, u"Scegliere il tipo giusto"_s);
+        c.errore(codice, tipo, motivo, u"Scegliere il tipo giusto"_s);
     };
     if (stessi && fra(td, u"TD01 TD02 TD03 TD06 TD16 TD17 TD18 TD19 TD20 TD24 TD25 TD28 TD29"))
         errore(u"00471"_s,
@@ -62,8 +63,7 @@ void controllaDate(Controllo& c, const Nodo& generali, const Nodo& documento) {
     if (!giorno.isValid())
         return;
     if (c.oggi.isValid() && giorno > c.oggi)
-        c.errore(u"00403"_s, data->percorso, *data, u"La data del documento è nel futuro."_s,
-                 u"Correggere"_s);
+        c.errore(u"00403"_s, *data, u"La data del documento è nel futuro."_s, u"Correggere"_s);
     if (documento.valore(u"TipoDocumento") != u"TD04")
         return;
     for (const Nodo& collegata : generali.figli) {
@@ -71,7 +71,7 @@ void controllaDate(Controllo& c, const Nodo& generali, const Nodo& documento) {
             continue;
         const QDate sua = QDate::fromString(collegata.valore(u"Data"), Qt::ISODate);
         if (sua.isValid() && sua > giorno)
-            c.errore(u"00418"_s, collegata.percorso, collegata,
+            c.errore(u"00418"_s, collegata,
                      u"La nota di credito ha una data precedente alla fattura che corregge."_s,
                      u"Correggere"_s);
     }
@@ -85,7 +85,7 @@ void controllaIntento(Controllo& c, const Nodo& beni) {
             if (dati.nome != u"AltriDatiGestionali" || dati.valore(u"TipoDato") != u"INTENTO")
                 continue;
             if (!forma.match(dati.valore(u"RiferimentoTesto")).hasMatch())
-                c.errore(u"00477"_s, dati.percorso, dati,
+                c.errore(u"00477"_s, dati,
                          u"Il protocollo della dichiarazione di intento sono 17 cifre, \"-\" e 6 cifre."_s,
                          u"Correggere"_s);
         }
@@ -97,31 +97,37 @@ void controllaAliquoteZero(Controllo& c, const QString& tipo, const Nodo& beni) 
         return;
     for (const Nodo& linea : beni.figli)
         if (linea.nome == u"DettaglioLinee" && linea.valore(u"AliquotaIVA").toDouble() == 0)
-            c.errore(u"00474"_s, linea.percorso, linea,
-                     u"Con questo tipo di documento le linee portano l'IVA."_s,
+            c.errore(u"00474"_s, linea, u"Con questo tipo di documento le linee portano l'IVA."_s,
                      u"Correggere il codice IVA"_s);
 }
 
-} // namespace
-
-void controllaDocumento(Controllo& c, const Nodo& testata, const Nodo& corpo) {
+void controllaDocumento(Controllo& c, const Parti& parti, const Nodo& corpo) {
     const Nodo* generali = corpo.figlio(u"DatiGenerali");
     const Nodo* documento = generali ? generali->figlio(u"DatiGeneraliDocumento") : nullptr;
     if (!documento)
         return;
     const Nodo* numero = documento->figlio(u"Numero");
     if (numero && std::ranges::none_of(numero->testo, [](QChar x) { return x >= u'0' && x <= u'9'; }))
-        c.errore(u"00425"_s, numero->percorso, *numero,
-                 u"Il numero del documento deve avere almeno una cifra."_s, u"Correggere"_s);
+        c.errore(u"00425"_s, *numero, u"Il numero del documento deve avere almeno una cifra."_s,
+                 u"Correggere"_s);
     controllaDate(c, *generali, *documento);
     if (c.versione == Versione::V10)
         return;
     if (const Nodo* tipo = documento->figlio(u"TipoDocumento"))
-        controllaParti(c, *tipo, partiDi(testata));
+        controllaParti(c, *tipo, parti);
     if (const Nodo* beni = corpo.figlio(u"DatiBeniServizi")) {
         controllaIntento(c, *beni);
         controllaAliquoteZero(c, documento->valore(u"TipoDocumento"), *beni);
     }
+}
+
+} // namespace
+
+void controllaDocumenti(Controllo& c, const Nodo& radice) {
+    const Parti parti = partiDi(radice);
+    for (const Nodo& corpo : radice.figli)
+        if (corpo.nome == u"FatturaElettronicaBody")
+            controllaDocumento(c, parti, corpo);
 }
 
 } // namespace bor

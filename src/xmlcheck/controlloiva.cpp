@@ -20,8 +20,7 @@ constexpr double arrotondamentoLinea = 0.015;
 void controllaAliquota(Controllo& c, const Nodo& aliquota) {
     const double percento = valore(aliquota.testo);
     if (percento > 0 && percento < 1)
-        c.errore(u"00424"_s, aliquota.percorso, aliquota,
-                 u"L'aliquota è una frazione: il 22 per cento si scrive 22.00."_s,
+        c.errore(u"00424"_s, aliquota, u"L'aliquota è una frazione: il 22 per cento si scrive 22.00."_s,
                  u"Correggere l'aliquota"_s);
 }
 
@@ -29,7 +28,7 @@ void controllaImposta(Controllo& c, const Nodo& riepilogo) {
     const Nodo* imposta = riepilogo.figlio(u"Imposta");
     const double attesa = numero(riepilogo, u"ImponibileImporto") * numero(riepilogo, u"AliquotaIVA") / 100;
     if (imposta && std::abs(valore(imposta->testo) - attesa) > centesimo + briciola)
-        c.errore(u"00421"_s, imposta->percorso, *imposta,
+        c.errore(u"00421"_s, *imposta,
                  u"L'imposta non è l'aliquota sull'imponibile, che dà %1."_s.arg(testoFisso(attesa, 2)),
                  u"Ricontrollare l'IVA"_s);
 }
@@ -37,8 +36,8 @@ void controllaImposta(Controllo& c, const Nodo& riepilogo) {
 void controllaEsigibilita(Controllo& c, const Nodo& riepilogo) {
     const Nodo* esigibilita = riepilogo.figlio(u"EsigibilitaIVA");
     if (esigibilita && esigibilita->testo.trimmed() == u"S" && riepilogo.valore(u"Natura").startsWith(u"N6"))
-        c.errore(u"00420"_s, esigibilita->percorso, *esigibilita,
-                 u"Con l'inversione contabile non c'è scissione dei pagamenti."_s, u"Correggere"_s);
+        c.errore(u"00420"_s, *esigibilita, u"Con l'inversione contabile non c'è scissione dei pagamenti."_s,
+                 u"Correggere"_s);
 }
 
 /// The summaries of one key: their base against the lines.
@@ -58,23 +57,22 @@ void controllaImponibile(Controllo& c, const Riepilogati& r, const Somma& linee)
         testoFisso(atteso, 2));
     const QString azione = u"Correggere prezzi, sconti o codici IVA"_s;
     if (differenza > unEuro + briciola)
-        c.errore(u"00422"_s, imponibile->percorso, *imponibile, motivo, azione);
+        c.errore(u"00422"_s, *imponibile, motivo, azione);
     else if (differenza > centesimo + linee.voci * arrotondamentoLinea)
-        c.avviso(imponibile->percorso, *imponibile, motivo, azione);
+        c.avviso(*imponibile, motivo, azione);
 }
 
 void controllaMancanti(Controllo& c, const Nodo& beni, const Somme& somme,
                        const std::map<QString, Riepilogati>& riepilogati) {
     for (const auto& [chiave, somma] : somme)
         if (!riepilogati.contains(chiave))
-            c.errore(chiave.contains(u'N') ? u"00444"_s : u"00443"_s, beni.percorso + u"/DatiRiepilogo"_s,
-                     beni,
-                     u"Manca il riepilogo delle linee con IVA %1, per %2."_s.arg(
-                         chiave.trimmed(), testoFisso(somma.imponibile, 2)),
-                     u"Correggere i codici IVA"_s);
+            c.manca(chiave.contains(u'N') ? u"00444"_s : u"00443"_s, beni, u"DatiRiepilogo",
+                    u"Manca il riepilogo delle linee con IVA %1, per %2."_s.arg(
+                        chiave.trimmed(), testoFisso(somma.imponibile, 2)),
+                    u"Correggere i codici IVA"_s);
     for (const auto& [chiave, r] : riepilogati)
         if (!somme.contains(chiave))
-            c.errore(chiave.contains(u'N') ? u"00444"_s : u"00443"_s, r.primo->percorso, *r.primo,
+            c.errore(chiave.contains(u'N') ? u"00444"_s : u"00443"_s, *r.primo,
                      u"Nessuna linea ha l'IVA %1 di questo riepilogo."_s.arg(chiave.trimmed()),
                      u"Correggere i codici IVA"_s);
 }
@@ -100,15 +98,14 @@ void controllaNatura(Controllo& c, const Nodo& nodo, const CodiciNatura& codici)
     const Nodo* natura = nodo.figlio(u"Natura");
     const QString testo = natura ? natura->testo.trimmed() : QString();
     if (zero && !natura)
-        c.errore(codici.manca, nodo.percorso + u"/Natura"_s, *aliquota,
-                 u"Con aliquota zero ci vuole la natura dell'esenzione."_s,
-                 u"Scegliere il codice di esenzione giusto"_s);
+        c.manca(codici.manca, nodo, u"Natura", u"Con aliquota zero ci vuole la natura dell'esenzione."_s,
+                u"Scegliere nelle righe un codice di esenzione, o dargli la natura"_s);
     else if (!zero && natura)
-        c.errore(codici.avanza, natura->percorso, *natura, u"La natura è ammessa solo con aliquota zero."_s,
+        c.errore(codici.avanza, *natura, u"La natura è ammessa solo con aliquota zero."_s,
                  u"Correggere il codice IVA"_s);
     if (c.versione == Versione::V123 && (testo == u"N2" || testo == u"N3" || testo == u"N6"))
-        c.errore(u"00445"_s, natura->percorso, *natura,
-                 u"La natura %1 vuole oggi il suo sottocodice."_s.arg(testo), u"Scegliere il sottocodice"_s);
+        c.errore(u"00445"_s, *natura, u"La natura %1 vuole oggi il suo sottocodice."_s.arg(testo),
+                 u"Scegliere il sottocodice"_s);
 }
 
 void controllaRiepiloghi(Controllo& c, const Nodo& beni, const Somme& somme) {

@@ -10,8 +10,7 @@ namespace {
 /// Whether a code is in the tax register nobody knows from here: wrong check digits are a hint, under the
 /// code that the receiving system would use.
 void avvisaCifre(Controllo& c, const QString& codiceScarto, const Nodo& nodo, const QString& motivo) {
-    c.avviso(nodo.percorso, nodo, motivo, u"Ricontrollare il codice"_s);
-    c.rilievi.back().codice = codiceScarto;
+    c.avviso(nodo, motivo, u"Ricontrollare il codice"_s, codiceScarto);
 }
 
 /// Codes of one of the parties under which the receiving system refuses it.
@@ -49,27 +48,26 @@ void controllaDestinatario(Controllo& c, const Nodo& radice, const Nodo& trasmis
     const QString testo = codice->testo.trimmed();
     for (const Attributo& a : radice.attributi)
         if (a.nome == u"versione" && a.valore != formato->testo.trimmed())
-            c.errore(u"00428"_s, formato->percorso, *formato,
+            c.errore(u"00428"_s, *formato,
                      u"Il formato di trasmissione non è quello che il file dichiara in testa (%1)."_s.arg(
                          a.valore),
                      u"Correggere"_s);
     const bool pubblica = formato->testo.trimmed() == u"FPA12";
     if ((pubblica && testo.size() == 7) || (!pubblica && testo.size() == 6))
-        c.errore(u"00427"_s, codice->percorso, *codice,
+        c.errore(u"00427"_s, *codice,
                  pubblica ? u"A un ufficio pubblico si spedisce con un codice di 6 caratteri."_s
                           : u"A un privato si spedisce con un codice di 7 caratteri."_s,
                  u"Correggere"_s);
     const Nodo* id = cliente ? cliente->figlio(u"IdFiscaleIVA") : nullptr;
     if (testo == u"XXXXXXX" && (!id || id->valore(u"IdPaese") == u"IT"))
-        c.errore(u"00313"_s, codice->percorso, *codice,
+        c.errore(u"00313"_s, *codice,
                  u"Il codice XXXXXXX è solo per clienti esteri con la loro partita IVA."_s, u"Correggere"_s);
     const Nodo* pec = trasmissione.figlio(u"PECDestinatario");
     if (pec && pec->testo.trimmed().endsWith(u"@pec.fatturapa.it", Qt::CaseInsensitive))
-        c.errore(u"00330"_s, pec->percorso, *pec,
-                 u"È la casella del sistema di interscambio, non del cliente."_s, u"Correggere"_s);
+        c.errore(u"00330"_s, *pec, u"È la casella del sistema di interscambio, non del cliente."_s,
+                 u"Correggere"_s);
     else if (pec && testo != u"0000000")
-        c.avviso(pec->percorso, *pec, u"La PEC conta solo con il codice destinatario 0000000."_s,
-                 u"Toglierla"_s);
+        c.avviso(*pec, u"La PEC conta solo con il codice destinatario 0000000."_s, u"Toglierla"_s);
 }
 
 } // namespace
@@ -90,8 +88,8 @@ void controllaSoggetti(Controllo& c, const Nodo& radice) {
         return;
     controllaParte(c, *cliente, {u"00305"_s, u"00306"_s});
     if (!cliente->figlio(u"IdFiscaleIVA") && cliente->valore(u"CodiceFiscale").isEmpty())
-        c.errore(u"00417"_s, cliente->percorso, *cliente,
-                 u"Mancano sia la partita IVA sia il codice fiscale."_s, u"Compilarne almeno uno"_s);
+        c.errore(u"00417"_s, *cliente, u"Mancano sia la partita IVA sia il codice fiscale."_s,
+                 u"Compilarne almeno uno"_s);
 }
 
 } // namespace bor

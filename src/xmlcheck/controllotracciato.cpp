@@ -10,42 +10,31 @@ namespace {
 
 constexpr QStringView spazioFirma = u"http://www.w3.org/2000/09/xmldsig#";
 constexpr QStringView spazioIstanza = u"http://www.w3.org/2001/XMLSchema-instance";
-const QString codiceForma = u"00200"_s;
-
-QString sotto(const QString& percorso, const QString& nome) {
-    return percorso.isEmpty() ? nome : percorso + u'/' + nome;
-}
 
 void controllaValore(Controllo& c, const Nodo& nodo, const Elemento& elemento) {
     if (!nodo.figli.empty())
-        c.errore(codiceForma, nodo.percorso, nodo,
-                 u"L'elemento contiene altri elementi al posto di un valore."_s, u"Correggere"_s);
+        c.nelFile(nodo, u"L'elemento contiene altri elementi al posto di un valore."_s);
     else if (haForma(elemento.riga, nodo.testo))
         return;
     else if (nodo.testo.isEmpty())
-        c.errore(codiceForma, nodo.percorso, nodo,
-                 u"L'elemento è vuoto: %1."_s.arg(formaAttesa(elemento.riga)), u"Compilare"_s);
+        c.errore(codiceForma, nodo, u"L'elemento è vuoto: %1."_s.arg(formaAttesa(elemento.riga)),
+                 u"Compilare"_s);
     else if (haForma(elemento.riga, nodo.testo.trimmed()))
-        c.errore(codiceForma, nodo.percorso, nodo, u"Il valore ha spazi davanti o in coda."_s,
-                 u"Toglierli"_s);
+        c.errore(codiceForma, nodo, u"Il valore ha spazi davanti o in coda."_s, u"Toglierli"_s);
     else
-        c.errore(codiceForma, nodo.percorso, nodo, u"Qui %1."_s.arg(formaAttesa(elemento.riga)),
-                 u"Correggere"_s);
+        c.errore(codiceForma, nodo, u"Qui %1."_s.arg(formaAttesa(elemento.riga)), u"Correggere"_s);
 }
 
 /// Below the root no element has attributes of its own.
 void controllaAttributi(Controllo& c, const Nodo& nodo) {
     for (const Attributo& a : nodo.attributi)
         if (a.spazio != spazioIstanza)
-            c.errore(codiceForma, nodo.percorso, nodo, u"L'attributo %1 qui non è previsto."_s.arg(a.nome),
-                     u"Toglierlo"_s);
+            c.nelFile(nodo, u"L'attributo %1 qui non è previsto."_s.arg(a.nome));
 }
 
 void controllaSpazio(Controllo& c, const Nodo& nodo) {
     if (!nodo.spazio.isEmpty())
-        c.errore(codiceForma, nodo.percorso, nodo,
-                 u"L'elemento appartiene a un altro spazio dei nomi (%1)."_s.arg(nodo.spazio),
-                 u"Correggere"_s);
+        c.nelFile(nodo, u"L'elemento appartiene a un altro spazio dei nomi (%1)."_s.arg(nodo.spazio));
 }
 
 void controllaElemento(Controllo& c, const Nodo& nodo, const Elemento& elemento);
@@ -69,29 +58,19 @@ std::vector<int> controllaSequenza(Controllo& c, const Nodo& nodo, const Element
     for (const Nodo& figlio : nodo.figli) {
         const auto trovato = cercaDa(previsti, raggiunto, figlio.nome);
         if (trovato == previsti.end()) {
-            c.errore(codiceForma, figlio.percorso, figlio, u"L'elemento qui non è previsto."_s,
-                     u"Togliere dal file, o correggere"_s);
+            c.nelFile(figlio, u"L'elemento qui non è previsto."_s);
             continue;
         }
         const auto indice = static_cast<std::size_t>(trovato - previsti.begin());
         if (indice < raggiunto)
-            c.errore(codiceForma, figlio.percorso, figlio,
-                     u"L'elemento è fuori ordine: va prima di %1."_s.arg(previsti[raggiunto].nome),
-                     u"Spostare nel file, o correggere"_s);
+            c.nelFile(figlio, u"L'elemento è fuori ordine: va prima di %1."_s.arg(previsti[raggiunto].nome));
         raggiunto = std::max(raggiunto, indice);
         const bool ripetibile = trovato->riga.volte == Volte::UnaOPiu || trovato->riga.volte == Volte::Libere;
         if (++volte[indice] == 2 && !ripetibile)
-            c.errore(codiceForma, figlio.percorso, figlio, u"L'elemento c'è più di una volta."_s,
-                     u"Lasciarne uno solo"_s);
+            c.nelFile(figlio, u"L'elemento c'è più di una volta."_s);
         controllaElemento(c, figlio, *trovato);
     }
     return volte;
-}
-
-void mancante(Controllo& c, const Nodo& nodo, const QString& nome) {
-    const Nodo vuoto{.nome = nome, .spazio = {}, .percorso = {}, .testo = {}, .riga = nodo.riga};
-    c.errore(codiceForma, sotto(nodo.percorso, nome), vuoto, u"L'elemento manca ed è obbligatorio."_s,
-             u"Compilare"_s);
 }
 
 /// One of the two ways, and whole.
@@ -112,8 +91,7 @@ void controllaAlternative(Controllo& c, const Nodo& nodo, const Elemento& elemen
     const bool prima = presenti[0] == previste[0] && presenti[1] == 0;
     const bool seconda = presenti[1] == previste[1] && presenti[0] == 0;
     if (!prima && !seconda)
-        c.errore(codiceForma, nodo.percorso, nodo,
-                 u"Ci vuole o la denominazione o nome e cognome, e non tutti e tre."_s,
+        c.errore(codiceForma, nodo, u"Ci vuole o la denominazione o nome e cognome, e non tutti e tre."_s,
                  u"Correggere l'intestazione"_s);
 }
 
@@ -130,13 +108,13 @@ void controllaElemento(Controllo& c, const Nodo& nodo, const Elemento& elemento)
     if (elemento.figli.empty())
         return controllaValore(c, nodo, elemento);
     if (!nodo.testo.trimmed().isEmpty())
-        c.errore(codiceForma, nodo.percorso, nodo,
-                 u"Fra gli elementi c'è del testo che non appartiene a nessuno."_s, u"Toglierlo"_s);
+        c.nelFile(nodo, u"Fra gli elementi c'è del testo che non appartiene a nessuno."_s);
     const std::vector<int> volte = controllaSequenza(c, nodo, elemento);
     for (std::size_t i = 0; i < volte.size(); ++i) {
         const Volte quante = elemento.figli[i].riga.volte;
         if (volte[i] == 0 && (quante == Volte::Una || quante == Volte::UnaOPiu))
-            mancante(c, nodo, elemento.figli[i].nome);
+            c.manca(codiceForma, nodo, elemento.figli[i].nome, u"L'elemento manca ed è obbligatorio."_s,
+                    u"Compilare"_s);
     }
     controllaAlternative(c, nodo, elemento, volte);
 }
@@ -156,15 +134,12 @@ void controllaRadice(Controllo& c, const Nodo& radice) {
         const bool eSistema = oggi && a.nome == u"SistemaEmittente" && a.spazio.isEmpty();
         conVersione = conVersione || eVersione;
         if (!eVersione && !eSistema)
-            c.errore(codiceForma, {}, radice, u"L'attributo %1 qui non è previsto."_s.arg(a.nome),
-                     u"Toglierlo"_s);
+            c.nelFile(radice, u"L'attributo %1 qui non è previsto."_s.arg(a.nome));
         else if (const RigaTracciato& riga = eVersione ? versione : sistema; !haForma(riga, a.valore))
-            c.errore(codiceForma, {}, radice,
-                     u"L'attributo %1 vale \"%2\": %3."_s.arg(a.nome, a.valore, formaAttesa(riga)),
-                     u"Correggere"_s);
+            c.nelFile(radice, u"L'attributo %1 vale \"%2\": %3."_s.arg(a.nome, a.valore, formaAttesa(riga)));
     }
     if (!conVersione)
-        c.errore(codiceForma, {}, radice, u"Manca l'attributo versione."_s, u"Correggere"_s);
+        c.nelFile(radice, u"Manca l'attributo versione."_s);
 }
 
 } // namespace

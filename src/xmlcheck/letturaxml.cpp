@@ -1,14 +1,15 @@
 #include "xmlcheck/letturaxml.h"
 
+#include "xmlcheck/alberoxml.h"
 #include "xmlcheck/riparazionexml.h"
 
-#include <QHash>
+#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
 #include <algorithm>
-#include <climits>
-#include <memory>
+#include <ctime>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +24,21 @@ constexpr std::size_t erroriMassimi = 30;
 constexpr qsizetype byteMassimi = 5'000'000;
 
 /// The longest invoice, of 9999 lines with 20 elements each, has fewer.
-constexpr int elementiMassimi = 250'000;
+constexpr qsizetype elementiMassimi = 250'000;
+
+/// An invoice has five in its first element and none below. The parser compares each with all the others.
+constexpr qsizetype attributiMassimi = 5000;
+
+/// What reading may still take of the processor: what else runs on the machine does not count.
+class Limite {
+public:
+    explicit Limite(std::chrono::milliseconds tempo)
+        : m_fine(std::clock() + static_cast<std::clock_t>(tempo.count()) * CLOCKS_PER_SEC / 1000) {}
+    bool passato() const { return std::clock() >= m_fine; }
+
+private:
+    std::clock_t m_fine;
+};
 
 struct ErroreSintassi {
     int codice = 0;
@@ -33,7 +48,13 @@ struct ErroreSintassi {
     QString chiuso;
 };
 
-using ErroriSintassi = std::vector<ErroreSintassi>;
+/// One run of the parser.
+struct Analisi {
+    const Limite& limite;
+    std::vector<ErroreSintassi> errori;
+    int elementi = 0;
+    bool interrotta = false;
+};
 
 const QString rigenera = u"Generare di nuovo il file, o chiederlo di nuovo a chi lo ha emesso."_s;
 const QString codiceForma = u"00200"_s;
@@ -95,7 +116,7 @@ Rilievo rilievoDi(const ErroreSintassi& errore) {
 }
 
 /// One finding for each wrong end tag, but only the first of the other errors, from which the rest follow.
-std::vector<Rilievo> rilieviDi(const ErroriSintassi& errori) {
+std::vector<Rilievo> rilieviDi(const std::vector<ErroreSintassi>& errori) {
     std::vector<Rilievo> rilievi;
     bool altri = false;
     for (const ErroreSintassi& errore : errori) {
@@ -107,160 +128,127 @@ std::vector<Rilievo> rilieviDi(const ErroriSintassi& errori) {
     return rilievi;
 }
 
-void raccogliSegni(Nodo& nodo, std::vector<Rilievo>& rilievi) {
-    std::vector<Rilievo> trovati;
-    for (const Segno segno : segni) {
-        const QChar c(static_cast<char16_t>(segno));
-        if (!nodo.testo.contains(c))
-            continue;
-        nodo.testo.remove(c);
-        trovati.push_back(rilievoDelSegno(segno));
-    }
-    for (Rilievo& r : trovati) {
-        r.elemento = nodo.percorso;
-        r.riga = nodo.riga;
-        r.valore = nodo.testo.trimmed();
-        r.codice = codiceForma;
-        rilievi.push_back(r);
-    }
-}
-
-/// `segnati`: takes what the marks of repaired text say; null for a text without marks.
-Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>* rilievi);
-
-/// Numbers the sisters of one name in two passes: looking at all of them for each takes minutes on a hostile
-/// file.
-void copiaFigli(const xmlNode* sorgente, Nodo& nodo, std::vector<Rilievo>* segnati) {
-    QHash<QString, int> quanti;
-    for (const xmlNode* n = sorgente->children; n; n = n->next)
-        if (n->type == XML_ELEMENT_NODE)
-            ++quanti[testoDi(n->name)];
-    QHash<QString, int> visti;
-    for (const xmlNode* n = sorgente->children; n; n = n->next) {
-        if (n->type != XML_ELEMENT_NODE)
-            continue;
-        const QString nome = testoDi(n->name);
-        const QString passo = quanti[nome] > 1 ? conNumero(nome, ++visti[nome]) : nome;
-        nodo.figli.push_back(
-            copiaNodo(n, nodo.percorso.isEmpty() ? passo : nodo.percorso + u'/' + passo, segnati));
-    }
-}
-
-QString spazioDi(const xmlNs* spazio) {
-    return spazio ? testoDi(spazio->href) : QString();
-}
-
-Nodo copiaNodo(const xmlNode* sorgente, const QString& percorso, std::vector<Rilievo>* segnati) {
-    Nodo nodo{.nome = testoDi(sorgente->name),
-              .spazio = spazioDi(sorgente->ns),
-              .percorso = percorso,
-              .testo = {},
-              .riga = static_cast<int>(xmlGetLineNo(sorgente))};
-    for (const xmlNode* n = sorgente->children; n; n = n->next)
-        if (n->type == XML_TEXT_NODE || n->type == XML_CDATA_SECTION_NODE)
-            nodo.testo += testoDi(n->content);
-    for (const xmlAttr* a = sorgente->properties; a; a = a->next)
-        nodo.attributi.push_back(
-            {testoDi(a->name), spazioDi(a->ns), a->children ? testoDi(a->children->content) : QString()});
-    if (segnati)
-        raccogliSegni(nodo, *segnati);
-    copiaFigli(sorgente, nodo, segnati);
-    return nodo;
-}
-
 struct Contesti {
     void operator()(xmlParserCtxt* contesto) const { xmlFreeParserCtxt(contesto); }
     void operator()(xmlDoc* documento) const { xmlFreeDoc(documento); }
 };
 
+void raccogliErrore(void* chi, xmlError* errore) {
+    const auto* contesto = static_cast<const xmlParserCtxt*>(chi);
+    auto& errori = static_cast<Analisi*>(contesto->_private)->errori;
+    if (errore->level != XML_ERR_WARNING && errori.size() < erroriMassimi)
+        errori.push_back(
+            {errore->code, errore->line, contesto->node, testoDi(errore->str1), testoDi(errore->str2)});
+}
+
+/// Stops the parser at the element where its time is over.
+void iniziaElemento(void* chi, const xmlChar* nome, const xmlChar* prefisso, const xmlChar* spazio,
+                    int quantiSpazi, const xmlChar** spazi, int quantiAttributi, int predefiniti,
+                    const xmlChar** attributi) {
+    constexpr int ogniTanti = 64; // asking for the time takes longer than an element
+    auto* contesto = static_cast<xmlParserCtxt*>(chi);
+    auto& analisi = *static_cast<Analisi*>(contesto->_private);
+    if (analisi.elementi++ % ogniTanti == 0 && analisi.limite.passato()) {
+        analisi.interrotta = true;
+        xmlStopParser(contesto);
+        return;
+    }
+    xmlSAX2StartElementNs(chi, nome, prefisso, spazio, quantiSpazi, spazi, quantiAttributi, predefiniti,
+                          attributi);
+}
+
 /// Parses without network and without replacing entities, recovering where it can.
-std::unique_ptr<xmlDoc, Contesti> analizza(const QByteArray& utf8, ErroriSintassi& errori) {
+std::unique_ptr<xmlDoc, Contesti> analizza(const QByteArray& utf8, Analisi& analisi) {
     const std::unique_ptr<xmlParserCtxt, Contesti> contesto(xmlNewParserCtxt());
-    if (!contesto || utf8.size() > INT_MAX)
+    if (!contesto)
         return nullptr;
-    contesto->_private = &errori;
-    contesto->sax->serror = [](void* chi, auto* errore) {
-        const auto* analisi = static_cast<const xmlParserCtxt*>(chi);
-        auto& raccolti = *static_cast<ErroriSintassi*>(analisi->_private);
-        if (errore->level != XML_ERR_WARNING && raccolti.size() < erroriMassimi)
-            raccolti.push_back(
-                {errore->code, errore->line, analisi->node, testoDi(errore->str1), testoDi(errore->str2)});
-    };
+    contesto->_private = &analisi;
+    contesto->sax->serror = raccogliErrore;
+    contesto->sax->startElementNs = iniziaElemento;
     return std::unique_ptr<xmlDoc, Contesti>(
         xmlCtxtReadMemory(contesto.get(), utf8.constData(), static_cast<int>(utf8.size()), nullptr, "UTF-8",
                           XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_BIG_LINES));
 }
 
-/// Why a text is not even parsed; nothing when it is.
-std::optional<Rilievo> troppo(const QString& testo) {
-    if (testo.contains(u"<!DOCTYPE"_s))
-        return Rilievo{.valore = u"<!DOCTYPE"_s,
-                       .motivo = u"Il file contiene una dichiarazione DOCTYPE, che non è ammessa."_s,
-                       .rimedio = rigenera,
-                       .codice = codiceForma};
-    const auto segnati = std::ranges::count_if(testo, [](QChar c) {
-        return std::ranges::find(segni, static_cast<Segno>(c.unicode())) != segni.end();
-    });
-    if (segnati > segniMassimi)
-        return Rilievo{.motivo = u"Il file ha troppi caratteri errati e non è stato letto."_s,
-                       .rimedio = rigenera,
-                       .codice = codiceForma};
-    if (testo.count(u'<') > 2 * elementiMassimi)
-        return Rilievo{.motivo = u"Il file ha troppi elementi per essere una fattura e non è stato letto."_s,
-                       .rimedio = rigenera,
-                       .codice = codiceForma};
+Rilievo nonLetto(const QString& motivo) {
+    return {.motivo = motivo, .rimedio = rigenera, .codice = codiceForma};
+}
+
+Rilievo tempoScaduto() {
+    return nonLetto(u"Il file è troppo complesso: dopo un secondo la lettura è stata interrotta."_s);
+}
+
+/// Between two "<" lies at the most one start tag.
+bool troppiAttributi(QByteArrayView contenuto) {
+    qsizetype fine = 0;
+    for (qsizetype inizio = contenuto.indexOf('<'); inizio >= 0; inizio = fine) {
+        fine = contenuto.indexOf('<', inizio + 1);
+        const QByteArrayView etichetta =
+            contenuto.sliced(inizio, (fine < 0 ? contenuto.size() : fine) - inizio);
+        const bool inizia = etichetta.size() > 1 && etichetta[1] != '!' && etichetta[1] != '?';
+        if (inizia && etichetta.size() > attributiMassimi &&
+            std::ranges::count(etichetta, '=') > attributiMassimi)
+            return true;
+    }
+    return false;
+}
+
+/// Why a file is not even parsed; nothing when it is.
+std::optional<Rilievo> troppo(const QByteArray& contenuto) {
+    if (contenuto.size() > byteMassimi)
+        return Rilievo{.valore = u"%1 byte"_s.arg(contenuto.size()),
+                       .motivo = u"Il file supera i 5.000.000 di byte ammessi e non è stato letto."_s,
+                       .rimedio = u"Dividere il documento in più documenti, o togliere gli allegati."_s,
+                       .codice = u"00003"_s};
+    if (contenuto.contains("<!DOCTYPE"))
+        return nonLetto(u"Il file contiene una dichiarazione DOCTYPE, che non è ammessa."_s);
+    if (contenuto.count('<') > 2 * elementiMassimi)
+        return nonLetto(u"Il file ha troppi elementi per essere una fattura e non è stato letto."_s);
+    if (troppiAttributi(contenuto))
+        return nonLetto(u"Il file ha un elemento con migliaia di attributi e non è stato letto."_s);
     return std::nullopt;
 }
 
-/// A file with nothing to repair, which is nearly every file, is parsed as it stands; nothing for any other.
-std::optional<Nodo> leggiIntero(const QByteArray& contenuto) {
-    if (!diUtf8(contenuto) || contenuto.contains("<!DOCTYPE") || contenuto.count('<') > 2 * elementiMassimi)
-        return std::nullopt;
-    ErroriSintassi errori;
-    const auto documento = analizza(contenuto, errori);
-    const xmlNode* radice = documento && errori.empty() ? xmlDocGetRootElement(documento.get()) : nullptr;
-    return radice ? std::optional<Nodo>(copiaNodo(radice, QString(), nullptr)) : std::nullopt;
+/// A file with nothing to repair, which is nearly every file, is parsed as it stands. False for any other.
+bool leggiIntero(const QByteArray& contenuto, const Limite& limite, LetturaXml& lettura) {
+    if (!diUtf8(contenuto))
+        return false;
+    Analisi analisi{limite, {}};
+    const auto documento = analizza(contenuto, analisi);
+    if (analisi.interrotta)
+        lettura.rilievi.push_back(tempoScaduto());
+    else if (const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr;
+             radice && analisi.errori.empty())
+        lettura.radice = copiaAlbero(radice, nullptr);
+    return analisi.interrotta || lettura.radice;
+}
+
+void leggiRiparato(const QByteArray& contenuto, const Limite& limite, LetturaXml& lettura) {
+    const TestoRiparato riparato = riparaXml(contenuto);
+    if (riparato.segni > segniMassimi) {
+        lettura.rilievi.push_back(nonLetto(u"Il file ha troppi caratteri errati e non è stato letto."_s));
+        return;
+    }
+    Analisi analisi{limite, {}};
+    const auto documento = analizza(riparato.testo.toUtf8(), analisi);
+    if (analisi.interrotta) {
+        lettura.rilievi.push_back(tempoScaduto());
+        return;
+    }
+    lettura.rilievi = rilieviDi(analisi.errori);
+    if (const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr)
+        lettura.radice = copiaAlbero(radice, &lettura.rilievi);
 }
 
 } // namespace
 
-const Nodo* Nodo::figlio(QStringView nomeFiglio) const {
-    const auto trovato = std::find_if(figli.begin(), figli.end(),
-                                      [nomeFiglio](const Nodo& n) { return n.nome == nomeFiglio; });
-    return trovato == figli.end() ? nullptr : &*trovato;
-}
-
-QString Nodo::valore(QStringView nomeFiglio) const {
-    const Nodo* n = figlio(nomeFiglio);
-    return n ? n->testo.trimmed() : QString();
-}
-
-LetturaXml leggiXml(const QByteArray& contenuto) {
+LetturaXml leggiXml(const QByteArray& contenuto, std::chrono::milliseconds tempo) {
     LetturaXml lettura;
-    if (contenuto.size() > byteMassimi) {
-        lettura.rilievi.push_back(
-            {.valore = u"%1 byte"_s.arg(contenuto.size()),
-             .motivo = u"Il file supera i 5.000.000 di byte ammessi e non è stato letto."_s,
-             .rimedio = u"Dividere il documento in più documenti, o togliere gli allegati."_s,
-             .codice = u"00003"_s});
-        return lettura;
-    }
-    if (auto radice = leggiIntero(contenuto)) {
-        lettura.radice = std::move(radice);
-        return lettura;
-    }
-    const QString testo = riparaXml(contenuto);
-    if (auto motivo = troppo(testo)) {
+    const Limite limite(tempo);
+    if (auto motivo = troppo(contenuto))
         lettura.rilievi.push_back(*std::move(motivo));
-        return lettura;
-    }
-    ErroriSintassi errori;
-    const auto documento = analizza(testo.toUtf8(), errori);
-    lettura.rilievi = rilieviDi(errori);
-    const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr;
-    if (!radice)
-        return lettura;
-    lettura.radice = copiaNodo(radice, QString(), &lettura.rilievi);
+    else if (!leggiIntero(contenuto, limite, lettura))
+        leggiRiparato(contenuto, limite, lettura);
     return lettura;
 }
 

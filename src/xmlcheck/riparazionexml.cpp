@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -24,34 +25,40 @@ bool dichiaraByteSingolo(const QByteArray& contenuto) {
         .hasMatch();
 }
 
-/// Length in bytes of the UTF-8 character at `posizione`; 0 when there is none.
-qsizetype lunghezzaUtf8(QByteArrayView contenuto, qsizetype posizione) {
-    const auto primo = static_cast<unsigned char>(contenuto[posizione]);
+/// Length in bytes of the UTF-8 character at the front; 0 when there is none.
+qsizetype lunghezzaUtf8(QByteArrayView contenuto) {
+    const auto primo = static_cast<unsigned char>(contenuto.front());
     const qsizetype lunghezza = primo < 0x80 ? 1 : primo < 0xE0 ? 2 : primo < 0xF0 ? 3 : 4;
-    const bool intero = posizione + lunghezza <= contenuto.size();
-    return intero && contenuto.sliced(posizione, lunghezza).isValidUtf8() ? lunghezza : 0;
+    return lunghezza <= contenuto.size() && contenuto.first(lunghezza).isValidUtf8() ? lunghezza : 0;
 }
 
-QString decodifica(const QByteArray& contenuto) {
+/// Bytes that are the same character in every encoding.
+qsizetype lunghezzaAscii(QByteArrayView contenuto) {
+    return std::ranges::find_if(contenuto, [](char c) { return static_cast<unsigned char>(c) >= 0x80; }) -
+           contenuto.begin();
+}
+
+TestoRiparato decodifica(const QByteArray& contenuto) {
     if (dichiaraByteSingolo(contenuto))
-        return daCp1252(contenuto);
+        return {daCp1252(contenuto)};
     if (contenuto.isValidUtf8())
-        return QString::fromUtf8(contenuto);
-    QString testo;
-    testo.reserve(contenuto.size());
-    const QByteArrayView byte(contenuto);
-    qsizetype errati = 0;
-    for (qsizetype i = 0; i < byte.size() && errati <= segniMassimi;) {
-        if (const qsizetype lunghezza = lunghezzaUtf8(byte, i); lunghezza > 0) {
-            testo += QUtf8StringView(byte.sliced(i, lunghezza)).toString();
-            i += lunghezza;
+        return {QString::fromUtf8(contenuto)};
+    TestoRiparato t;
+    t.testo.reserve(contenuto.size());
+    for (QByteArrayView resto(contenuto); !resto.isEmpty() && t.segni <= segniMassimi;) {
+        qsizetype letti = lunghezzaAscii(resto);
+        if (letti == 0)
+            letti = lunghezzaUtf8(resto);
+        if (letti > 0) {
+            t.testo += QString::fromUtf8(resto.first(letti));
         } else {
-            testo += carattereDi(Segno::Codifica) + daCp1252(byte.sliced(i, 1));
-            ++errati;
-            ++i;
+            letti = 1;
+            t.testo += carattereDi(Segno::Codifica) + daCp1252(resto.first(letti));
+            ++t.segni;
         }
+        resto = resto.sliced(letti);
     }
-    return testo;
+    return t;
 }
 
 bool vietatoInXml(QChar c) {
@@ -63,16 +70,29 @@ class Riparatore {
 public:
     explicit Riparatore(QStringView testo) : m_testo(testo) { m_uscita.reserve(testo.size()); }
 
-    QString ripara() {
+    TestoRiparato ripara() {
         while (m_posizione < m_testo.size() && m_sostituiti <= segniMassimi) {
-            if (!copiaTratto(u"<!--", u"-->") && !copiaTratto(u"<![CDATA[", u"]]>") &&
-                !copiaTratto(u"<?", u"?>"))
+            copiaSemplici();
+            if (m_posizione < m_testo.size() && !copiaTratto(u"<!--", u"-->") &&
+                !copiaTratto(u"<![CDATA[", u"]]>") && !copiaTratto(u"<?", u"?>"))
                 copiaCarattere();
         }
-        return m_uscita;
+        return {m_uscita, m_sostituiti};
     }
 
 private:
+    /// As far as there is nothing to look at.
+    void copiaSemplici() {
+        const auto daGuardare = [](QChar c) {
+            return c == u'<' || c == u'>' || c == u'&' || vietatoInXml(c) ||
+                   c == carattereDi(Segno::Codifica);
+        };
+        const QStringView tratto = resto();
+        const qsizetype lunghezza = std::ranges::find_if(tratto, daGuardare) - tratto.begin();
+        m_uscita += tratto.first(lunghezza);
+        m_posizione += lunghezza;
+    }
+
     /// Comments and the like hold no markup: over they go as they are, but for what no XML may hold.
     bool copiaTratto(QStringView inizio, QStringView fine) {
         if (m_dentroTag || !resto().startsWith(inizio))
@@ -151,15 +171,16 @@ bool diUtf8(const QByteArray& contenuto) {
     return contenuto.isValidUtf8() && !dichiaraByteSingolo(contenuto);
 }
 
-QString riparaXml(const QByteArray& contenuto) {
-    const QString decodificato = decodifica(contenuto);
-    QString testo = Riparatore(decodificato).ripara();
+TestoRiparato riparaXml(const QByteArray& contenuto) {
+    const TestoRiparato decodificato = decodifica(contenuto);
+    TestoRiparato riparato = Riparatore(decodificato.testo).ripara();
+    riparato.segni += decodificato.segni;
     // After its first error the parser drops references by name, but not those by number.
     for (const auto& [nome, numero] : {std::pair(u"&amp;"_s, u"&#38;"_s), std::pair(u"&lt;"_s, u"&#60;"_s),
                                        std::pair(u"&gt;"_s, u"&#62;"_s), std::pair(u"&quot;"_s, u"&#34;"_s),
                                        std::pair(u"&apos;"_s, u"&#39;"_s)})
-        testo.replace(nome, numero);
-    return testo;
+        riparato.testo.replace(nome, numero);
+    return riparato;
 }
 
 Rilievo rilievoDelSegno(Segno segno) {

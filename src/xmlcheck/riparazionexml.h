@@ -15,12 +15,17 @@ enum class Segno : char16_t { Codifica = 0xFDD0, ECommerciale, Minore, Controllo
 
 inline constexpr std::array segni = {Segno::Codifica, Segno::ECommerciale, Segno::Minore, Segno::Controllo};
 
-/// A file with more marks than this is beyond repair: the text ends there.
+/// A file with more repairs than this is beyond them: the text ends there.
 inline constexpr qsizetype segniMassimi = 10'000;
 
-/// The text of the file with its marks. Encoded as it declares, or byte by byte as the Italian code page
-/// where the bytes are no UTF-8.
-QString riparaXml(const QByteArray& contenuto);
+struct TestoRiparato {
+    QString testo;       ///< with its marks
+    qsizetype segni = 0; ///< how many repairs it took
+};
+
+/// The text of the file. Encoded as it declares, or byte by byte as the Italian code page where the bytes are
+/// no UTF-8.
+TestoRiparato riparaXml(const QByteArray& contenuto);
 
 /// The bytes are UTF-8 and declare nothing else.
 bool diUtf8(const QByteArray& contenuto);

@@ -13,13 +13,19 @@ using enum Forma;
 // clang-format off
 constexpr const char16_t* azienda = u"nei quadri azienda del \"Kit Fatture elettroniche PA\"";
 constexpr const char16_t* cliente = u"nell'anagrafica clienti della suite, che la maschera \"Selezione cliente\" mostra";
-constexpr const char16_t* ufficio = u"nell'anagrafica clienti della suite, codice ufficio";
+constexpr const char16_t* clienteNazione = u"nell'anagrafica clienti della suite, partita IVA e suo paese; per un cliente senza partita IVA fare la fattura con la maschera \"Fattura elettronica\": quella del 2014 non ne scrive la nazione";
+constexpr const char16_t* ufficio = u"nell'anagrafica clienti della suite, codice ufficio; una fattura generata prima tiene il codice di allora: lo prende di nuovo se si sposta il suo file fpa e numero dalla cartella dell'azienda";
+constexpr const char16_t* aziendaNazione = u"nei quadri azienda del \"Kit Fatture elettroniche PA\": la nazione esce solo insieme alla provincia";
 constexpr const char16_t* banca = u"nell'anagrafica clienti della suite, coordinate che la maschera \"Selezione cliente\" mostra in \"Banca appoggio\"";
 constexpr const char16_t* righe = u"nelle righe, maschera \"Estremi del documento\"";
+constexpr const char16_t* codiceIva = u"nelle righe, maschera \"Estremi del documento\", con un codice IVA da 1 a 12 o da 17 a 24 (le aliquote stanno nella tabella della suite)";
+constexpr const char16_t* primoSconto = u"nelle righe, maschera \"Estremi del documento\": la fattura del 2014 scrive solo il primo sconto";
 constexpr const char16_t* documento = u"nella maschera del documento (modifica dati fattura)";
 constexpr const char16_t* scadenze = u"nelle scadenze della maschera del documento";
+constexpr const char16_t* quattroRate = u"nelle scadenze della maschera del documento: la fattura del 2014 ne scrive le prime quattro";
 constexpr const char16_t* vettori = u"nella tabella dei vettori della suite, scelti nella maschera \"Fattura elettronica PA\"";
 constexpr const char16_t* esenzioni = u"nella tabella delle esenzioni IVA della suite";
+constexpr const char16_t* soloCosi = u"nel file, o fare la fattura con la maschera \"Fattura elettronica\": quella del 2014 non sa scriverlo diversamente";
 constexpr const char16_t* nonQui = u"nel file, o farlo correggere a chi lo ha emesso: la maschera \"Fattura elettronica PA\" non lo scrive";
 
 constexpr const char16_t* regimi =
@@ -67,7 +73,7 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {4, u"CAP", Una, Cifre, 5, 5},
     {4, u"Comune", Una, Latino, 1, 60},
     {4, u"Provincia", AlPiuUna, Lettere, 2, 2},
-    {4, u"Nazione", Una, Lettere, 2, 2},
+    {4, u"Nazione", Una, Lettere, 2, 2, aziendaNazione},
     {3, u"StabileOrganizzazione", AlPiuUna, Gruppo},
     {4, u"Indirizzo", Una, Latino, 1, 60},
     {4, u"NumeroCivico", AlPiuUna, Ascii, 1, 8},
@@ -116,7 +122,7 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {4, u"CAP", Una, Cifre, 5, 5},
     {4, u"Comune", Una, Latino, 1, 60},
     {4, u"Provincia", AlPiuUna, Lettere, 2, 2},
-    {4, u"Nazione", Una, Lettere, 2, 2},
+    {4, u"Nazione", Una, Lettere, 2, 2, clienteNazione},
     {2, u"TerzoIntermediarioOSoggettoEmittente", AlPiuUna, Gruppo},
     {3, u"DatiAnagrafici", Una, Gruppo},
     {4, u"IdFiscaleIVA", AlPiuUna, Gruppo},
@@ -137,10 +143,10 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {4, u"Divisa", Una, Lettere, 3, 3},
     {4, u"Data", Una, Data, 0, 0, u"@Data"},
     {4, u"Numero", Una, Ascii, 1, 20, u"@Numero"},
-    {4, u"DatiRitenuta", AlPiuUna, Gruppo, 0, 0, righe},
-    {5, u"TipoRitenuta", Una, Scelta, 0, 0, u"@Tipo ritenuta", u"RT01 RT02"},
-    {5, u"ImportoRitenuta", Una, Importo, 2, 2},
-    {5, u"AliquotaRitenuta", Una, Percento, 2, 2},
+    {4, u"DatiRitenuta", AlPiuUna, Gruppo, 0, 0, u"@Tipo ritenuta"},
+    {5, u"TipoRitenuta", Una, Scelta, 0, 0, nullptr, u"RT01 RT02"},
+    {5, u"ImportoRitenuta", Una, Importo, 2, 2, soloCosi},
+    {5, u"AliquotaRitenuta", Una, Percento, 2, 2, soloCosi},
     {5, u"CausalePagamento", Una, Scelta, 0, 0, u"@Causale pagamanto", causali},
     {4, u"DatiBollo", AlPiuUna, Gruppo},
     {5, u"NumeroBollo", Una, Ascii, 14, 14},
@@ -261,8 +267,8 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {5, u"Percentuale", AlPiuUna, Percento, 2, 2},
     {5, u"Importo", AlPiuUna, Importo, 2, 2},
     {4, u"PrezzoTotale", Una, Importo, 2, 8},
-    {4, u"AliquotaIVA", Una, Percento, 2, 2},
-    {4, u"Ritenuta", AlPiuUna, Scelta, 0, 0, nullptr, u"SI"},
+    {4, u"AliquotaIVA", Una, Percento, 2, 2, codiceIva},
+    {4, u"Ritenuta", AlPiuUna, Scelta, 0, 0, soloCosi, u"SI"},
     {4, u"Natura", AlPiuUna, Scelta, 0, 0, esenzioni, u"N1 N2 N3 N4 N5"},
     {4, u"RiferimentoAmministrazione", AlPiuUna, Ascii, 1, 20},
     {4, u"AltriDatiGestionali", Libere, Gruppo},
@@ -271,20 +277,20 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {5, u"RiferimentoNumero", AlPiuUna, Importo, 2, 8},
     {5, u"RiferimentoData", AlPiuUna, Data},
     {3, u"DatiRiepilogo", UnaOPiu, Gruppo},
-    {4, u"AliquotaIVA", Una, Percento, 2, 2},
+    {4, u"AliquotaIVA", Una, Percento, 2, 2, codiceIva},
     {4, u"Natura", AlPiuUna, Scelta, 0, 0, esenzioni, u"N1 N2 N3 N4 N5"},
     {4, u"SpeseAccessorie", AlPiuUna, Importo, 2, 2},
     {4, u"Arrotondamento", AlPiuUna, Importo, 2, 8},
-    {4, u"ImponibileImporto", Una, Importo, 2, 2},
+    {4, u"ImponibileImporto", Una, Importo, 2, 2, primoSconto},
     {4, u"Imposta", Una, Importo, 2, 2},
     {4, u"EsigibilitaIVA", AlPiuUna, Scelta, 0, 0, u"@Documento con iva ad esigibilità differita", u"I D"},
     {4, u"RiferimentoNormativo", AlPiuUna, Latino, 1, 100, esenzioni},
     {2, u"DatiVeicoli", AlPiuUna, Gruppo, 0, 0, nonQui},
     {3, u"Data", Una, Data},
     {3, u"TotalePercorso", Una, Ascii, 1, 15},
-    {2, u"DatiPagamento", Libere, Gruppo, 0, 0, scadenze},
+    {2, u"DatiPagamento", Libere, Gruppo, 0, 0, quattroRate},
     {3, u"CondizioniPagamento", Una, Scelta, 0, 0, u"@Condizioni pagamento", u"TP01 TP02 TP03"},
-    {3, u"DettaglioPagamento", UnaOPiu, Gruppo},
+    {3, u"DettaglioPagamento", UnaOPiu, Gruppo, 0, 0, scadenze},
     {4, u"Beneficiario", AlPiuUna, Latino, 1, 200},
     {4, u"ModalitaPagamento", Una, Scelta, 0, 0, u"@Modalità pagamento", modalita},
     {4, u"DataRiferimentoTerminiPagamento", AlPiuUna, Data},

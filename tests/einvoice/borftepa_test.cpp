@@ -175,13 +175,11 @@ struct FatturaSenzaRilievi : FatturaDiProva {
         return a;
     }
     static Cli cliente() {
-        Cli c = clienteDi(u"Comune di Cantu"_s);
-        c.sede.indirizzo.set(u"Piazza Parini 4");
-        c.sede.cap.set(u"22063");
+        Cli c = clienteComune();
+        c.sede.ragione1.set(u"Comune di Cantu");
         c.sede.citta.set(u"Cantu");
         c.partitaiva.set(u"01234567897");
         c.codicefiscale.set(u"01234567897");
-        c.clix2.set(u"UFABCD");
         return c;
     }
     /// What the check says of the files on disk, one reason a line; "assente" without a file.

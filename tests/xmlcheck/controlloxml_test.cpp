@@ -1,12 +1,14 @@
 // What the check of electronic invoices says of a good file, of files with one fault each, and of garbage.
 #include "common/codicifiscali.h"
 #include "xmlcheck/controlloxml.h"
+#include "xmlcheck/letturaxml.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
 
 #include <algorithm>
+#include <chrono>
 
 using namespace bor;
 using namespace Qt::StringLiterals;
@@ -170,6 +172,34 @@ TEST(ControlloXml, NessunByteLoFaCadere) {
                   .size(),
               501U);
     EXPECT_EQ(controllaXml(QByteArray(5'000'001, ' '), nomeBuono).size(), 1U);
+}
+
+TEST(ControlloXml, UnFileOstileFinisceESiDice) {
+    using namespace std::chrono_literals;
+    const auto motivo = [](const QByteArray& contenuto, std::chrono::milliseconds tempo = tempoLettura) {
+        const LetturaXml lettura = leggiXml(contenuto, tempo);
+        return lettura.radice || lettura.rilievi.size() != 1 ? QString() : lettura.rilievi[0].motivo;
+    };
+    QByteArray attributi = "<a";
+    for (int i = 0; i <= 5000; ++i)
+        attributi += " a" + QByteArray::number(i) + "='>'";
+    EXPECT_TRUE(motivo(attributi + "/>").contains(u"attributi"_s));
+    EXPECT_TRUE(motivo("<a>" + QByteArray("<!---->").repeated(600'000) + "</a>").contains(u"elementi"_s));
+    EXPECT_TRUE(motivo("<a>" + QByteArray("&").repeated(10'001) + "</a>").contains(u"errati"_s));
+    EXPECT_TRUE(leggiXml("<a><!--" + QByteArray("= ").repeated(1'000'000) + "--></a>").radice);
+    for (const QByteArray& chiunque : {fatturaBuona(), fatturaBuona().replace("Viti e", "Viti & ")})
+        EXPECT_TRUE(motivo(chiunque, 0ms).contains(u"interrotta"_s));
+}
+
+TEST(ControlloXml, IPercorsiDiconoQualeFraLeSorelle) {
+    const LetturaXml lettura = leggiXml("<r><a><c/></a><b/><a>x<d/> y<c/><c><b/></c></a></r>");
+    ASSERT_TRUE(lettura.radice);
+    const Nodo& r = *lettura.radice;
+    EXPECT_EQ(r.percorso(), QString());
+    EXPECT_EQ(r.figli[0].figli[0].percorso(), u"a[1]/c"_s);
+    EXPECT_EQ(r.figli[1].percorso(), u"b"_s);
+    EXPECT_EQ(r.figli[2].figli[2].figli[0].percorso(), u"a[2]/c[2]/b"_s);
+    EXPECT_EQ(r.figli[2].testo, u"x y"_s);
 }
 
 TEST(CodiciFiscali, LeCifreDiControlloTornano) {
