@@ -58,9 +58,10 @@ QValidator::State ValidatoreImporto::validate(QString& testo, int& posizione) co
     }
     if (!ammesso(nuovo))
         return Invalid;
-    if (virgola >= 0)
+    // A comma right behind a point changes nothing that could be seen, and settles nothing.
+    if (virgola >= 0 && nuovo != m_ultimo)
         m_decimale = true;
-    else if (!m_ultimo.contains(u'.'))
+    else if (!m_ultimo.contains(u'.') || !nuovo.contains(u'.'))
         m_decimale = false;
     m_ultimo = nuovo;
     testo = nuovo;

@@ -56,6 +56,7 @@ TEST_F(Campi, UnaVirgolaDopoIPuntiMostraCheEranoMigliaia) {
                                        {u"1250.5"_s, u"1250.5"_s},
                                        {u"1.2.5"_s, u"1.25"_s},
                                        {u"1,250,5"_s, u"1.2505"_s},
+                                       {u"1.,250,50"_s, u"1250.50"_s},
                                        {u"5-3"_s, u"53"_s},
                                        {u"1234567890123456"_s, u"123456789012345"_s}})
         EXPECT_EQ(digitato(tasti), testo) << qPrintable(tasti);
@@ -65,6 +66,10 @@ TEST_F(Campi, UnaVirgolaDopoIPuntiMostraCheEranoMigliaia) {
                                          {u"1,234.50"_s, u"7"_s},
                                          {u"mille"_s, u"7"_s}})
         EXPECT_EQ(incollato(copiato), testo) << qPrintable(copiato);
+    scriviIn(importo, u"1.2,"_s);
+    QTest::keyClick(importo, Qt::Key_Backspace);
+    scrivi(finestra, u"50,00"_s);
+    EXPECT_EQ(importo->text(), u"1250.00"_s) << "a comma taken back may be typed again";
     scriviIn(aliquota, u"12,755"_s);
     EXPECT_EQ(aliquota->text(), u"12.7"_s);
 }

@@ -54,10 +54,10 @@ inline void tieni(QWidget& vista, Qt::Key quale, Qt::KeyboardModifiers modi = Qt
     QTest::keyRelease(vista.window()->windowHandle(), quale, modi);
 }
 
-/// The wheel turned one notch down over a widget.
-inline void rotella(QWidget* widget) {
-    QWheelEvent giro(QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)), {}, QPoint(0, -120), Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
+/// The wheel turned one notch over a widget, down where `verso` is below 0.
+inline void rotella(QWidget* widget, int verso = -1) {
+    QWheelEvent giro(QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)), {}, QPoint(0, 120 * verso),
+                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget, &giro);
 }
 
