@@ -6,6 +6,7 @@
 #include "einvoice/fatturadiprova.h"
 #include "support/stampante_finta.h"
 #include "ui/finestra.h"
+#include "ui/vista.h"
 
 #include <QApplication>
 #include <QLineEdit>

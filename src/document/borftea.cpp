@@ -39,6 +39,7 @@ void Borftea::riprendi() {
     m_contesto.sessione.righelette = false;
     m_prospetto = Prospetto::RigheIva;
     m_numeroletto = m_documento.estremi.numero.trimmed();
+    m_dataletta = m_documento.estremi.data;
 }
 
 void Borftea::apri() {
@@ -58,6 +59,7 @@ void Borftea::apri() {
         m_contesto.sessione.testataletta = true;
     }
     m_numeroletto = m_documento.estremi.numero.trimmed();
+    m_dataletta = m_documento.estremi.data;
     m_aperto = m_documento;
 }
 
@@ -88,7 +90,9 @@ void Borftea::lasciaData() {
     const auto data = dataValida(estremi.data);
     if (!data)
         return;
-    calcolascadenze(m_documento, m_contesto);
+    // Who only passes by keeps the due dates that he typed.
+    if (std::exchange(m_dataletta, estremi.data) != estremi.data)
+        calcolascadenze(m_documento, m_contesto);
     m_documento.prospetti.terminemese = pezzo(testoData(*data), 4, 2);
     m_documento.prospetti.termineanno = QString::number(data->year() + 1);
     if (!dataValida(completaData(estremi.datareg)))

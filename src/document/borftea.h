@@ -128,6 +128,7 @@ private:
     ComandiEsterni m_comandi;
     Documento m_aperto;    ///< the document as it was opened
     QString m_numeroletto; ///< the number as last shown or warned about
+    QString m_dataletta;   ///< the date of issue that the due dates follow
     std::optional<PostoTea> m_fuoco;
     Prospetto m_prospetto = Prospetto::RigheIva;
     FinestraRighe m_finestra{8, 5};

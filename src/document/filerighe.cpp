@@ -147,10 +147,10 @@ void leggi(Lettura& file, Documento& documento) {
         leggiMerce(file, documento);
 }
 
-/// Name of a document's file from the time when files were called by number and year.
-QString nomeVecchio(const Documento& documento) {
-    return (documento.parcella() ? u"par"_s : u"ftr"_s) + testoDecimale(valore(documento.estremi.numero)) +
-           u".a"_s + pezzo(documento.estremi.data, 9);
+/// Name of a document's file from the time when files were called by number and year, of which it has the
+/// last two digits.
+QString nomeVecchio(bool parcella, const QString& numero, const QString& anno) {
+    return (parcella ? u"par"_s : u"ftr"_s) + testoDecimale(valore(numero)) + u".a"_s + anno;
 }
 
 void svuota(Documento& documento) {
@@ -170,6 +170,13 @@ bool senzaRighe(const Documento& documento) {
 
 QString percorsoRighe(const Archivio& archivio, const Fte& fte) {
     return archivio.file((fte.parcella != 0 ? u"p"_s : u"f"_s) + testoDecimale(double{fte.nfile}));
+}
+
+bool righeSuFile(const Archivio& archivio, const Fte& fte) {
+    const auto esiste = [&archivio](const QString& dos) { return QFileInfo::exists(archivio.reale(dos)); };
+    return (fte.nfile > 0.0F && esiste(percorsoRighe(archivio, fte))) ||
+           esiste(archivio.file(
+               nomeVecchio(fte.parcella != 0, fte.numero.text(), pezzo(fte.datadoc.text(), 3, 2))));
 }
 
 bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& sospese) {
@@ -195,7 +202,9 @@ bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& so
     fte.nfile = -1.0F;
     if (sospese.riprendi(documento))
         return true;
-    Lettura vecchio(archivio.reale(archivio.file(nomeVecchio(documento))), true);
+    const QString nome =
+        nomeVecchio(documento.parcella(), documento.estremi.numero, pezzo(documento.estremi.data, 9));
+    Lettura vecchio(archivio.reale(archivio.file(nome)), true);
     if (vecchio.aperta())
         leggi(vecchio, documento);
     return true;

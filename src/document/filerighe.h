@@ -18,6 +18,9 @@ bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& so
 /// be written: the earlier one is then still there.
 bool scrividoc(const Documento& documento, Archivio& archivio);
 
+/// The stored document has its lines file, or one of the older name.
+bool righeSuFile(const Archivio& archivio, const Fte& fte);
+
 /// DOS path of the document's lines file.
 QString percorsoRighe(const Archivio& archivio, const Fte& fte);
 

@@ -2,13 +2,9 @@
 
 namespace bor {
 
-namespace {
-
 bool appartiene(const Gio& gio, double stamp) {
     return gio.riferimentofattura == stamp && gio.tipomovimento != Gio::chiusura && gio.cancellato != 1;
 }
-
-} // namespace
 
 int trovaMovimento(Raffica& raffica, double stamp) {
     int trovato = 0;

@@ -8,6 +8,9 @@
 
 namespace bor {
 
+/// The movement is a live one of the document of this `stamp`.
+bool appartiene(const Gio& gio, double stamp);
+
 /// Record number of the live movement that belongs to the document of this `stamp`; 0 when there is none.
 int trovaMovimento(Raffica& raffica, double stamp);
 

@@ -2,13 +2,13 @@
 
 #include "common/numeri.h"
 #include "document/avvisi.h"
+#include "document/riscontromovimento.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
 #include "document/trovamovimento.h"
 #include "posting/saldi.h"
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +22,11 @@ QString voceConto(const Con& conto) {
     const QString codice = zeriDavanti(puliscitesto(conto.codice.text()), 8);
     return pezzo(codice, 1, 2) + u' ' + pezzo(codice, 3, 2) + u' ' + pezzo(codice, 5, 4) + u' ' +
            puliscitesto(conto.descrizione.text());
+}
+
+/// The value of the code in such a row.
+double codiceDi(const QString& voce) {
+    return valore(pezzo(voce, 1, 2) + pezzo(voce, 4, 2) + pezzo(voce, 7, 4));
 }
 
 QString& casella(RigaMovimento& riga, Borftec::Campo campo) {
@@ -38,12 +43,6 @@ QString& casella(RigaMovimento& riga, Borftec::Campo campo) {
         break;
     }
     return riga.avere;
-}
-
-/// 0 where two sums agree to the cent.
-double scarto(double x, double y) {
-    constexpr double mezzoCentesimo = 0.005;
-    return std::fabs(x - y) < mezzoCentesimo ? 0.0 : x - y;
 }
 
 } // namespace
@@ -64,6 +63,10 @@ void Borftec::attiva() {
         return true;
     });
     m_conti.sort();
+    m_nomi.clear();
+    // Of two accounts with one code the first in the list lends its name.
+    for (const QString& voce : m_conti)
+        m_nomi.try_emplace(codiceDi(voce), pezzo(voce, inizioNome));
 }
 
 QString Borftec::titolo() const {
@@ -87,20 +90,15 @@ void Borftec::cambia(Cella cella, const QString& testo) {
         invio(cella);
     const ContoTesti& conto = riga(cella.linea).conto;
     const QString inizio = QStringList{conto.mastro, conto.conto, conto.sottoconto}.join(u' ').trimmed();
-    const auto trovato =
-        std::ranges::find_if(m_conti, [&](const QString& voce) { return voce.startsWith(inizio); });
-    if (!inizio.isEmpty() && trovato != m_conti.end())
+    const auto trovato = std::ranges::lower_bound(m_conti, inizio);
+    if (!inizio.isEmpty() && trovato != m_conti.end() && trovato->startsWith(inizio))
         m_contoScelto = static_cast<int>(trovato - m_conti.begin());
 }
 
 QString Borftec::descrizioneConto(int linea) const {
     const double codice = valore(riga(linea).conto.unito());
-    if (codice <= 0)
-        return {};
-    const auto trovato = std::ranges::find_if(m_conti, [codice](const QString& voce) {
-        return valore(pezzo(voce, 1, 2) + pezzo(voce, 4, 2) + pezzo(voce, 7, 4)) == codice;
-    });
-    return trovato == m_conti.end() ? QString() : pezzo(*trovato, inizioNome);
+    const auto trovato = codice > 0 ? m_nomi.find(codice) : m_nomi.end();
+    return trovato == m_nomi.end() ? QString() : trovato->second;
 }
 
 void Borftec::cambia(const QString& valore, QString Movimento::*testo) {

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 namespace bor {
@@ -92,6 +93,7 @@ private:
     Movimento m_movimento;
     std::array<int, righe> m_contoriga{}; ///< `con` record of each line
     QStringList m_conti;
+    std::unordered_map<double, QString> m_nomi; ///< names of the accounts by the value of their code
     int m_contoScelto = -1;
     int m_edizione = 0;
     int m_lineafuoco = 0;      ///< the line last entered

@@ -1,6 +1,7 @@
 #include "register/borfte.h"
 
 #include "document/apripdf.h"
+#include "document/riscontromovimento.h"
 #include "register/righeelenco.h"
 
 #include <algorithm>
@@ -230,7 +231,9 @@ void Borfte::leggiConteggio() {
 
 void Borfte::caricalista() {
     const Attesa attesa(m_contesto.operatore);
-    m_elenco.carica(m_contesto.archivio, primoRecord(m_selvis, m_numero), m_numero, m_filtro);
+    m_difetti.clear();
+    m_senzaRighe.clear();
+    m_elenco.carica(m_contesto.archivio, primoRecord(m_selvis, m_numero), m_numero, filtroScelto());
     const int righelista = m_elenco.quante() + 1;
     m_primaRiga = 0;
     if (m_visua == Visua::DallUltima && righelista > righeSotto + 1)
@@ -243,12 +246,46 @@ void Borfte::caricalista() {
     ++m_edizione;
 }
 
+ElencoFatture::Passa Borfte::filtroScelto() {
+    switch (m_filtro) {
+    case FiltroFatture::Tutte:
+        break;
+    case FiltroFatture::Normali:
+        return [](int, const Fte&, const F2e& f2e) { return !f2e.fatturaPa(); };
+    case FiltroFatture::SoloPa:
+        return [](int, const Fte&, const F2e& f2e) { return f2e.fatturaPa(); };
+    case FiltroFatture::MovimentoDaControllare:
+        return [this, movimenti = MovimentiDocumenti(m_contesto.archivio)](int record, const Fte& fte,
+                                                                           const F2e& f2e) {
+            const QString difetto = movimenti.difetto({fte, f2e}, m_contesto.tabelle);
+            return !difetto.isEmpty() && m_difetti.try_emplace(record, difetto).second;
+        };
+    }
+    return [](int, const Fte&, const F2e&) { return true; };
+}
+
 bool Borfte::colorata() const {
     return m_contesto.impostazioni.gnr.colora();
 }
 
 QString Borfte::testo(int riga, Colonna colonna) const {
     return m_elenco.testo(riga, colonna, m_contesto.valuta());
+}
+
+QString Borfte::nota(int riga) const {
+    const int record = m_elenco.record(riga);
+    if (record == 0)
+        return {};
+    // A fill looks at no file of lines, of which there is one a document: only a row that is shown asks.
+    const auto [senza, nuova] = m_senzaRighe.try_emplace(record, false);
+    if (nuova)
+        senza->second = m_elenco.senzaRighe(riga, m_contesto.archivio);
+    QStringList note;
+    if (const auto difetto = m_difetti.find(record); difetto != m_difetti.end())
+        note.append(difetto->second);
+    if (senza->second)
+        note.append(u"Le righe non sono su file: aprite il documento e salvatelo"_s);
+    return note.join(u". "_s);
 }
 
 std::optional<int> Borfte::colore(int riga, Colonna colonna) const {

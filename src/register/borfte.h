@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <optional>
+#include <unordered_map>
 
 namespace bor {
 
@@ -54,6 +55,9 @@ public:
     QString testo(int riga, Colonna colonna) const;
     /// Background of a cell as 0x00BBGGRR; nothing for the grid's own.
     std::optional<int> colore(int riga, Colonna colonna) const;
+    /// What the operator should know of the document of a row: its lines are not on file, its movement does
+    /// not agree with it. Empty for nothing. The movement is told only where the filter is on it.
+    QString nota(int riga) const;
     /// Rows on screen, blank filler rows included.
     int righeGriglia() const;
     const QString& cercato() const { return m_cercato; }
@@ -90,6 +94,7 @@ private:
     void apriRecord(int record);
     void leggiConteggio();
     void caricalista();
+    ElencoFatture::Passa filtroScelto();
     void ripristinavista();
     void salvaVista();
     bool colorata() const;
@@ -107,6 +112,8 @@ private:
     Cella m_cellaCorrente;
     int m_recordCorrente = 0; ///< `fte` record of the row with the cursor; 0 for none
     QString m_cercato;
+    std::unordered_map<int, QString> m_difetti; ///< of the movements by `fte` record, while the filter asks
+    mutable std::unordered_map<int, bool> m_senzaRighe; ///< by `fte` record, as far as rows were looked at
     std::optional<CellaColorata> m_cellaColorata;
 };
 

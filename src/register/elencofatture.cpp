@@ -2,6 +2,7 @@
 
 #include "archive/raffica.h"
 #include "common/date.h"
+#include "document/filerighe.h"
 #include "register/cercafatture.h"
 #include "register/righeelenco.h"
 
@@ -13,10 +14,6 @@ namespace {
 
 constexpr int documentiPerBlocco = 512;
 const QString eliminata = QStringLiteral("Fattura eliminata");
-
-bool passa(const F2e& f2e, FiltroFatture filtro) {
-    return filtro == FiltroFatture::Tutte || f2e.fatturaPa() == (filtro == FiltroFatture::SoloPa);
-}
 
 /// Taxable, tax and exempt amount position by position, the order in which the suite adds them.
 double totaleDocumento(const Fte& fte, const F2e& f2e) {
@@ -54,7 +51,7 @@ void riparaFpa(Archivio& archivio, const std::vector<int>& guasti) {
 
 } // namespace
 
-void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatture filtro) {
+void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, const Passa& passa) {
     m_righe.clear();
     m_pdf.clear();
     std::vector<Fte> teste(documentiPerBlocco);
@@ -65,13 +62,14 @@ void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, FiltroFatt
         archivio.fte.leggiBlocco(n, std::span(teste).first(static_cast<std::size_t>(nelBlocco)));
         archivio.f2e.leggiBlocco(n, std::span(code).first(static_cast<std::size_t>(nelBlocco)));
         for (int i = 0; i < nelBlocco; ++i) {
+            const Fte& fte = teste[static_cast<std::size_t>(i)];
             F2e& f2e = code[static_cast<std::size_t>(i)];
             if (f2e.fpaGuasto()) {
                 f2e.fpa = 0.0;
                 guasti.push_back(n + i);
             }
-            if (passa(f2e, filtro) && std::ssize(m_righe) < massimoRighe)
-                aggiungi(n + i, teste[static_cast<std::size_t>(i)], f2e);
+            if (std::ssize(m_righe) < massimoRighe && passa(n + i, fte, f2e))
+                aggiungi(n + i, fte, f2e);
         }
     }
     riparaFpa(archivio, guasti);
@@ -85,8 +83,8 @@ void ElencoFatture::aggiungi(int record, const Fte& fte, const F2e& f2e) {
     if (pdf)
         m_pdf.push_back(f2e.pdf);
     m_righe.push_back({fte.numero, fte.datareg, fte.datadoc, static_cast<std::int16_t>(record), fte.cliente,
-                       static_cast<std::int16_t>(pdf ? static_cast<int>(m_pdf.size()) - 1 : -1),
-                       f2e.fatturaPa(), fte.annullata == 1, totaleDocumento(fte, f2e)});
+                       static_cast<std::int16_t>(pdf ? static_cast<int>(m_pdf.size()) - 1 : -1), fte.nfile,
+                       fte.parcella != 0, f2e.fatturaPa(), fte.annullata == 1, totaleDocumento(fte, f2e)});
 }
 
 void ElencoFatture::leggiNomi(const Archivio& archivio) {
@@ -178,6 +176,17 @@ int ElencoFatture::rigaDi(int record) const {
     const auto trovata =
         std::ranges::find(m_mostrate, record, [this](std::size_t i) { return int{m_righe[i].record}; });
     return trovata == m_mostrate.end() ? -1 : static_cast<int>(trovata - m_mostrate.begin());
+}
+
+bool ElencoFatture::senzaRighe(int riga, const Archivio& archivio) const {
+    if (!esiste(riga) || mostrata(riga).annullata || !(mostrata(riga).nfile > 0.0F))
+        return false;
+    Fte fte = vuoto<Fte>();
+    fte.nfile = mostrata(riga).nfile;
+    fte.parcella = mostrata(riga).parcella ? 1 : 0;
+    fte.numero = mostrata(riga).numero;
+    fte.datadoc = mostrata(riga).datadoc;
+    return !righeSuFile(archivio, fte);
 }
 
 bool ElencoFatture::haPdf(int riga) const {

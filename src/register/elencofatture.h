@@ -5,12 +5,13 @@
 #include "archive/archivio.h"
 #include "common/valuta.h"
 
+#include <functional>
 #include <vector>
 
 namespace bor {
 
-/// Which documents by their electronic invoice.
-enum class FiltroFatture { Tutte, Normali, SoloPa };
+/// Which documents: by their electronic invoice, or those whose movement does not agree with them.
+enum class FiltroFatture { Tutte, Normali, SoloPa, MovimentoDaControllare };
 
 /// Columns of the register, by their number on screen.
 enum class Colonna {
@@ -32,9 +33,12 @@ public:
     /// The most rows that the list can show; later documents are left out.
     static constexpr int massimoRighe = 31999;
 
-    /// Fills the list with the documents from `primo` to `ultimo`, in the order of their records. A broken
-    /// reference to electronic invoice data is set to 0 on file, which is all that a fill writes.
-    void carica(Archivio& archivio, int primo, int ultimo, FiltroFatture filtro);
+    /// Tells whether a document, whose record number it gets, is to be in the list.
+    using Passa = std::function<bool(int record, const Fte&, const F2e&)>;
+
+    /// Fills the list with the documents from `primo` to `ultimo` that pass, in the order of their records. A
+    /// broken reference to electronic invoice data is set to 0 on file, which is all that a fill writes.
+    void carica(Archivio& archivio, int primo, int ultimo, const Passa& passa);
 
     /// Sorts by record number, registration date or customer: ascending, documents that tie in their present
     /// order.
@@ -52,6 +56,8 @@ public:
     /// The row of a record; -1 when it is not in the list.
     int rigaDi(int record) const;
     bool haPdf(int riga) const;
+    /// The document has the number of a lines file, and no such file.
+    bool senzaRighe(int riga, const Archivio& archivio) const;
     /// The last document that the fill took in has a PDF.
     bool ultimaPdf() const { return m_ultimaPdf; }
 
@@ -63,6 +69,8 @@ private:
         std::int16_t record;
         std::int16_t cliente;
         std::int16_t pdf; ///< index in `m_pdf`; -1 none
+        float nfile;
+        bool parcella;
         bool pa;
         bool annullata;
         double totale;

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QEvent>
 #include <QHeaderView>
+#include <QIcon>
 #include <QShortcut>
 #include <QTableView>
 
@@ -88,9 +89,21 @@ QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
         if (const auto colore = m_celle.colore(indice.row(), indice.column()))
             return coloreQt(*colore);
         return {};
+    case Qt::DecorationRole: {
+        static const QIcon segno(QStringLiteral(":/icone/nota.svg"));
+        return indice.column() == m_celle.segnata && !nota(indice.row()).isEmpty() ? QVariant(segno)
+                                                                                   : QVariant();
+    }
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return nota(indice.row());
     default:
         return {};
     }
+}
+
+QString ModelloGriglia::nota(int riga) const {
+    return m_celle.nota ? m_celle.nota(riga) : QString();
 }
 
 QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation orientamento, int ruolo) const {

@@ -27,6 +27,9 @@ struct CelleGriglia {
     std::function<QString(int riga, int colonna)> testo;
     /// Background as the archive has it, 0x00BBGGRR; nothing for the grid's own.
     std::function<std::optional<int>(int riga, int colonna)> colore;
+    /// What is to be known of a row, which then bears a mark at the column `segnata`; without it no row does.
+    std::function<QString(int riga)> nota = {};
+    int segnata = 0;
 };
 
 class ModelloGriglia : public QAbstractTableModel {
@@ -43,6 +46,8 @@ public:
     QVariant headerData(int sezione, Qt::Orientation orientamento, int ruolo) const override;
 
 private:
+    QString nota(int riga) const;
+
     std::span<const ColonnaGriglia> m_colonne;
     CelleGriglia m_celle;
     int m_righe = 0;

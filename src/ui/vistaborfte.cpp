@@ -73,7 +73,8 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
           colonne,
           {[&form] { return form.righeGriglia(); },
            [&form](int riga, int colonna) { return form.testo(riga, static_cast<Colonna>(colonna)); },
-           [&form](int riga, int colonna) { return form.colore(riga, static_cast<Colonna>(colonna)); }},
+           [&form](int riga, int colonna) { return form.colore(riga, static_cast<Colonna>(colonna)); },
+           [&form](int riga) { return form.nota(riga); }, static_cast<int>(Colonna::Numero)},
           this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
@@ -112,7 +113,8 @@ QGroupBox* VistaBorfte::creaFiltro() {
     lista->setObjectName(u"Combo1"_s);
     lista->setAccessibleName(u"Filtro"_s);
     lista->addItems({u"Visualizza tutte le fatture"_s, u"Visualizza solo le fatture normali"_s,
-                     u"Visualizza solo le fatturePA"_s});
+                     u"Visualizza solo le fatturePA"_s,
+                     u"Visualizza solo le fatture con movimento da controllare"_s});
     legami.lista(
         lista, [this] { return static_cast<int>(m_form.filtro()); },
         [this](int i) { m_form.cambiaFiltro(static_cast<FiltroFatture>(i)); });
@@ -145,6 +147,7 @@ QWidget* VistaBorfte::creaElenco() {
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) {
                 m_form.cellaCorrente(cella.row(), static_cast<Colonna>(cella.column()));
+                m_nota->setText(m_form.nota(cella.row()));
             });
     invio.passo(m_elenco, [this] {
         const QModelIndex cella = m_elenco->currentIndex();
@@ -165,6 +168,11 @@ QWidget* VistaBorfte::creaElenco() {
         legami.esegui([&] { m_form.ordina(static_cast<Colonna>(colonna)); });
     }));
     layout->addWidget(m_elenco);
+    m_nota = new QLabel;
+    m_nota->setObjectName(u"nota"_s);
+    m_nota->setAccessibleName(u"Documento scelto"_s);
+    m_nota->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout->addWidget(m_nota);
     return riquadro;
 }
 

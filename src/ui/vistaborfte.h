@@ -5,6 +5,7 @@
 
 class QGroupBox;
 class QHBoxLayout;
+class QLabel;
 class QTableView;
 
 namespace bor {
@@ -36,6 +37,7 @@ private:
 
     Borfte& m_form;
     ModelloGriglia* m_modello;
+    QLabel* m_nota = nullptr;
     QTableView* m_elenco = nullptr;
     CampoTesto* m_cerca = nullptr;
     int m_edizione = -1;

@@ -127,6 +127,7 @@ QWidget* VistaBorftec::creaConti() {
     m_conti = new QListWidget;
     m_conti->setObjectName(u"List1"_s);
     m_conti->setAccessibleName(u"Piano dei conti"_s);
+    m_conti->setUniformItemSizes(true);
     legami.altro([this] { aggiornaConti(); });
     connect(m_conti, &QListWidget::itemClicked, this, [this] { prendiConto(); });
     invio.passo(m_cerca, m_conti);

@@ -210,6 +210,14 @@ TEST_F(VerificaTest, MovimentiEDocumentiSenzaLAltro) {
                                    "fattura n. 2 (record 2)"_s));
 }
 
+TEST_F(VerificaTest, UnMovimentoDiversoDalDocumento) {
+    modificaFte(1, [](CoppiaFte& c) { c.fte.impon[0] = 90; });
+    EXPECT_EQ(trovate(),
+              "AVVISO  fattura n. 1 (record 1): il movimento contabile 1 differisce dal documento di 10,00");
+    modificaFte(1, [](CoppiaFte& c) { c.fte.parcella = 1; });
+    EXPECT_FALSE(QString::fromStdString(trovate()).contains(u"differisce"_s)) << "it may have advances";
+}
+
 TEST_F(VerificaTest, ProgressiviDeiConti) {
     modifica([](Archivio& a) {
         Con conto = a.con.leggi(1);

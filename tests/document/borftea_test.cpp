@@ -196,6 +196,9 @@ TEST_F(DocumentForm, UscitaDallaDataDiEmissione) {
     form.cambia(u"01/03/2016"_s, &Estremi::data);
     form.lasciaData();
     EXPECT_EQ(documento.estremi.datareg, u"31/12/2015") << "a valid date stays";
+    form.cambia(u"20/06/2016"_s, &Scadenze::rate, 0, &Rata::scadenza);
+    form.lasciaData();
+    EXPECT_EQ(documento.scadenze.rate[0].scadenza, u"20/06/2016") << "the date of issue is the same";
 }
 
 TEST_F(DocumentForm, AvvisoSulNumeroCambiato) {

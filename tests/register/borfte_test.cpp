@@ -241,5 +241,42 @@ TEST_F(RegistroTest, SiCercaPerNumeroAnnoClienteImportoEData) {
     EXPECT_EQ(trovati(QString()).size(), 7);
 }
 
+TEST_F(RegistroTest, SegnaIDocumentiSenzaRigheEFiltraIMovimentiCheNonVanno) {
+    const int cliente = azienda.cliente(QStringLiteral("Rossi"));
+    const auto conMovimento = [&](double stamp, float nfile, double dare, double avere) {
+        CoppiaFte coppia = documentoDi(cliente, QString::number(nfile), 100, 22);
+        coppia.fte.stamp = stamp;
+        coppia.fte.nfile = nfile;
+        const int n = azienda.documento(coppia);
+        if (dare > 0) {
+            ContestoDiProva prova(azienda);
+            Gio gio = vuoto<Gio>();
+            gio.riferimentofattura = stamp;
+            gio.voce[0] = {.segno = Intero(0), .importo = Reale(dare)};
+            gio.voce[1] = {.segno = Intero(1), .importo = Reale(avere)};
+            aggiungi(prova.archivio, prova.archivio.gio, Conta::Gio, gio);
+        }
+        return n;
+    };
+    conMovimento(1, 1, 122, 122);
+    conMovimento(2, 2, 122, 100);
+    conMovimento(3, 3, 120, 120);
+    conMovimento(4, 4, 0, 0);
+    azienda.scrivi(QStringLiteral("f1"), "righe");
+    azienda.scrivi(QStringLiteral("F2"), "righe");
+    azienda.scrivi(QStringLiteral("ftr3.a15"), "righe");
+    apri();
+    QStringList note;
+    for (int r = 0; r < 5; ++r)
+        note.append(form().nota(r));
+    const QString senza = QStringLiteral("Le righe non sono su file: aprite il documento e salvatelo");
+    EXPECT_EQ(note, (QStringList{{}, {}, {}, senza, {}}));
+    form().cambiaFiltro(FiltroFatture::MovimentoDaControllare);
+    EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"2", u"3", u"4"}));
+    EXPECT_EQ(form().nota(0), QStringLiteral("Dare e avere del movimento contabile non pareggiano: 22,00"));
+    EXPECT_EQ(form().nota(1), QStringLiteral("Il movimento contabile differisce dal documento: -2,00"));
+    EXPECT_EQ(form().nota(2), QStringLiteral("Non ha un movimento contabile. ") + senza);
+}
+
 } // namespace
 } // namespace bor

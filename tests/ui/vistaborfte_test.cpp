@@ -154,5 +154,21 @@ TEST_F(VistaRegistroTest, CtrlRRiapreLUltimoRegistrato) {
     EXPECT_EQ(cella(griglia->currentIndex().row(), 0), QStringLiteral("17"));
 }
 
+TEST_F(VistaRegistroTest, UnDocumentoSenzaRigheHaUnSegnoEUnaNota) {
+    CoppiaFte coppia = prova->archivio.leggi(2);
+    coppia.fte.nfile = 9;
+    prova->archivio.scrivi(2, coppia);
+    tasto(*vista, Qt::Key_F5);
+    const auto segno = [this](int riga, Colonna colonna) {
+        return griglia->model()->index(riga, static_cast<int>(colonna)).data(Qt::DecorationRole).isValid();
+    };
+    EXPECT_TRUE(segno(1, Colonna::Numero));
+    EXPECT_FALSE(segno(0, Colonna::Numero) || segno(1, Colonna::Cliente));
+    EXPECT_EQ(testoDi(*vista, QStringLiteral("nota")), QString());
+    tasto(*vista, Qt::Key_Down);
+    EXPECT_TRUE(testoDi(*vista, QStringLiteral("nota")).startsWith(QStringLiteral("Le righe non sono")));
+    foto(*vista, QStringLiteral("registro_nota"));
+}
+
 } // namespace
 } // namespace bor

@@ -1,6 +1,8 @@
 #include "borverifica/verifica.h"
 
 #include "common/date.h"
+#include "common/numeri.h"
+#include "document/riscontromovimento.h"
 
 #include <unordered_map>
 
@@ -14,6 +16,7 @@ struct PerStamp {
     QStringList documenti; ///< live ones
     QStringList documentiEliminati;
     QStringList movimenti; ///< record numbers of live ones
+    SommeMovimento somme;  ///< of the last of them
 };
 
 using Legami = std::unordered_map<double, PerStamp>;
@@ -51,6 +54,7 @@ bool leggiMovimenti(const Archivio& archivio, Legami& legami, Discordanze& trova
             return true;
         PerStamp& suo = legami[gio.riferimentofattura];
         suo.movimenti.append(QString::number(n));
+        suo.somme = somme(gio);
         if (suo.documenti.isEmpty())
             trovate.append({Gravita::Avviso, nomeMovimento(gio, n),
                             suo.documentiEliminati.isEmpty() ? u"il suo documento non c'è"_s
@@ -64,6 +68,7 @@ bool leggiMovimenti(const Archivio& archivio, Legami& legami, Discordanze& trova
 } // namespace
 
 Discordanze verificaMovimenti(const Archivio& archivio) {
+    const Tabelle tabelle = leggiTabelle(archivio);
     Discordanze trovate;
     Legami legami;
     leggiDocumenti(archivio, legami, trovate);
@@ -72,7 +77,7 @@ Discordanze verificaMovimenti(const Archivio& archivio) {
         const auto suo = legami.find(fte.stamp);
         if (fte.annullata == 1 || suo == legami.end() || suo->second.documenti.isEmpty())
             return true;
-        const auto& [documenti, eliminati, movimenti] = suo->second;
+        const auto& [documenti, eliminati, movimenti, sommeUltimo] = suo->second;
         const QString nome = nomeDocumento(fte, n);
         // What is done to a deleted one takes the movement and the rows of the live one with it.
         const QStringList altri = documenti.mid(1) + eliminati;
@@ -84,6 +89,13 @@ Discordanze verificaMovimenti(const Archivio& archivio) {
         if (movimenti.size() > 1)
             trovate.append({Gravita::Avviso, nome, u"ha più movimenti contabili: "_s + elencoBreve(movimenti),
                             Rimedio::ControllaMovimento});
+        const double differenza =
+            movimenti.size() == 1 ? differenzaMovimento(sommeUltimo, archivio.leggi(n), tabelle) : 0.0;
+        if (differenza != 0.0)
+            trovate.append({Gravita::Avviso, nome,
+                            u"il movimento contabile %1 differisce dal documento di %2"_s.arg(
+                                movimenti.first(), testoItaliano(differenza, 2)),
+                            Rimedio::RifaiMovimento});
         if (movimenti.isEmpty() && conMovimenti)
             trovate.append(
                 {Gravita::Avviso, nome, u"non ha un movimento contabile"_s, Rimedio::RifaiMovimento});
