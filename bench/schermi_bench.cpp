@@ -1,12 +1,7 @@
 // One key to the repainted screen, on every screen of the program: a document of 500 lines, a company of 500
 // documents and customers and of 5,000 accounts. The floor is the same key in a box of a window of its own.
-#include "app/modulo.h"
-#include "app/schermi.h"
-#include "common/avvio.h"
 #include "einvoice/fatturadiprova.h"
-#include "support/stampante_finta.h"
-#include "ui/finestra.h"
-#include "ui/vista.h"
+#include "support/programmaintero.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -41,16 +36,13 @@ Con contoDi(int n) {
 }
 
 /// The program at work on a large company, with a document of 500 lines open.
-class ProgrammaAlLavoro {
+class ProgrammaAlLavoro : private ProgrammaIntero {
 public:
     ProgrammaAlLavoro() {
         azienda.scrivi(u"borlano.fpa"_s, bytesDi(fpaSocieta()));
         riempi();
-        modulo = Modulo::avvia(rigaAvvio(7), azienda.percorsi(),
-                               {operatore, orologio, sistema, finestra, stampante});
-        aggiungiSchermi(finestra, *modulo);
         finestra.resize(1280, 720);
-        finestra.show();
+        avvia();
         apriDocumento();
     }
 
@@ -59,7 +51,7 @@ public:
             prepara();
         finestra.mostra(schermo);
         QApplication::processEvents();
-        return *finestra.vista(schermo);
+        return vista(schermo);
     }
 
 private:
@@ -107,14 +99,6 @@ private:
         }
         modulo->borftec().prepara(movimento);
     }
-
-    AziendaDiProva azienda;
-    OperatoreFinto operatore;
-    OrologioFermo orologio;
-    SistemaFinto sistema;
-    StampanteFinta stampante;
-    Finestra finestra;
-    std::unique_ptr<Modulo> modulo;
 };
 
 ProgrammaAlLavoro& programma() {
@@ -171,12 +155,3 @@ BENCHMARK_CAPTURE(tasto, fattura_pa, Schermo::Borftepa, u"Text2(2)"_s, Qt::Key_1
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char* argv[]) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication applicazione(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -17,7 +17,7 @@ using Cartelle = std::set<std::string>;
 /// What each program of tools/ may include.
 const std::map<std::string, Cartelle> frecceStrumenti = {
     {"borcrea", {"common", "archive", "document", "posting"}},
-    {"borverifica", {"common", "archive"}},
+    {"borverifica", {"common", "archive", "document"}},
     {"borefattura", {"common", "archive", "document", "xmlcheck", "fatturapa", "borxmlcheck"}},
     {"borxmlcheck", {"common", "xmlcheck"}},
     {"borxpdf", {"common"}},

@@ -1,8 +1,6 @@
 // What the hands do.
 #include "giornata/giornata.h"
 
-#include "app/schermi.h"
-#include "common/avvio.h"
 #include "ui/invio.h"
 
 using namespace Qt::StringLiterals;
@@ -11,14 +9,9 @@ namespace bor {
 
 Giornata::Giornata() {
     scriviDitta(azienda);
-    modulo =
-        Modulo::avvia(rigaAvvio(7), azienda.percorsi(), {operatore, orologio, sistema, finestra, stampante});
-    aggiungiSchermi(finestra, *modulo);
     finestra.resize(1280, 720);
-    finestra.show();
-    finestra.activateWindow();
+    avvia();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&finestra));
-    finestra.mostra(Schermo::Borfte);
 }
 
 /// Turns the wheel over every widget of the screen in view, whatever has the focus: more down than up, so

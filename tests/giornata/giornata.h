@@ -3,24 +3,19 @@
 // cent with the sums that the test makes by itself.
 #pragma once
 
-#include "app/modulo.h"
 #include "giornata/dattilografa.h"
 #include "giornata/ditta.h"
 #include "giornata/fattura.h"
-#include "support/stampante_finta.h"
-#include "ui/finestra.h"
-
-#include <memory>
+#include "support/programmaintero.h"
 
 namespace bor {
 
-class Giornata : public testing::Test {
+class Giornata : public testing::Test, protected ProgrammaIntero {
 protected:
     static constexpr int fatture = 40;
 
     Giornata();
 
-    Vista& vista(Schermo schermo) { return *finestra.vista(schermo); }
     bool inVista(Schermo schermo) { return vista(schermo).isVisible(); }
 
     void scriviFattura(int numero);
@@ -41,13 +36,6 @@ protected:
     void controllaGiornale(const Archivio& archivio) const;
     void controllaMagazzino(const Archivio& archivio) const;
 
-    AziendaDiProva azienda;
-    OperatoreFinto operatore;
-    OrologioFermo orologio;
-    SistemaFinto sistema;
-    StampanteFinta stampante;
-    Finestra finestra;
-    std::unique_ptr<Modulo> modulo;
     std::mt19937 caso{20150131};
     Dattilografa mani{finestra, caso};
     std::vector<FatturaScritta> scritte;

@@ -1,14 +1,9 @@
 // What holds on every screen: letters, names, keys, the wheel, a key held down, Qt's own words.
-#include "app/modulo.h"
-#include "app/schermi.h"
 #include "archive/fpa.h"
-#include "common/avvio.h"
 #include "common/installazione.h"
-#include "support/azienda.h"
-#include "support/stampante_finta.h"
+#include "support/programmaintero.h"
 #include "ui/adattatori.h"
 #include "ui/campi.h"
-#include "ui/finestra.h"
 #include "ui/gesti.h"
 #include "ui/guida.h"
 
@@ -35,20 +30,15 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-class Schermi : public testing::Test {
+class Schermi : public testing::Test, protected ProgrammaIntero {
 protected:
     Schermi() {
         for (const QString& nome : {u"Alfa"_s, u"Beta"_s, u"Gamma"_s})
             azienda.cliente(nome);
         for (int i = 1; i <= 3; ++i)
             azienda.documento(documentoDi(i, QString::number(i), 100 * i, 22 * i));
-        modulo = Modulo::avvia(rigaAvvio(7), azienda.percorsi(),
-                               {operatore, orologio, sistema, finestra, stampante});
-        aggiungiSchermi(finestra, *modulo);
-        finestra.show();
-        finestra.activateWindow();
+        avvia();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&finestra));
-        finestra.mostra(Schermo::Borfte);
         tasto(finestra, Qt::Key_F2);
         tasto(finestra, Qt::Key_Return);
         tasto(finestra, Qt::Key_F10);
@@ -56,16 +46,8 @@ protected:
     Vista& mostra(Schermo schermo) {
         finestra.mostra(schermo);
         QApplication::processEvents();
-        return *finestra.vista(schermo);
+        return vista(schermo);
     }
-
-    AziendaDiProva azienda;
-    OperatoreFinto operatore;
-    OrologioFermo orologio;
-    SistemaFinto sistema;
-    StampanteFinta stampante;
-    Finestra finestra;
-    std::unique_ptr<Modulo> modulo;
 };
 
 /// In the order of README's table.
