@@ -2,6 +2,7 @@
 #include "common/codicifiscali.h"
 
 #include "archive/archivio.h"
+#include "archive/impostazioni.h"
 #include "common/numeri.h"
 #include "document/righeiva.h"
 
@@ -228,6 +229,9 @@ TEST(Dimostrativa, DaSempreGliStessiBytesConTotaliERateCheTornano) {
     Disco disco;
     Archivio archivio(percorsi, disco, 1);
     archivio.apri();
+    EXPECT_TRUE(caricaimpostazioni(archivio).generaPdf);
+    const QByteArray posta = leggiFile(una.path() + u"/suprok/suprok/boraz0.001/borlano.pdf"_s);
+    EXPECT_EQ(posta.count("{numero}"), 2) << "the subjects of a mail name the document";
     const int documenti = archivio.leggiTot(Conta::Fte).numero;
     EXPECT_EQ(documenti, 300);
     for (int n = 1; n <= documenti; ++n) {
