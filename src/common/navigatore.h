@@ -3,7 +3,7 @@
 
 namespace bor {
 
-enum class Schermo { Borfte, Borftem, Borsel, Borftex, Borftek, Borftea, Borftec, Borftepa };
+enum class Schermo { Borfte, Borftem, Borsel, Borftex, Borftek, Borftea, Borftec, Borftepa, Borftel };
 
 class Navigatore {
 public:

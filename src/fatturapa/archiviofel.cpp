@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -81,8 +83,18 @@ QString ArchivioFel::percorso() const {
     return m_archivio.reale(m_archivio.borlano(u"fel"));
 }
 
+void ArchivioFel::usa(FileFel file) {
+    m_file = std::move(file);
+    m_clienti.clear();
+    for (const QString& sezione : m_file.sezioni()) {
+        const QString chi = sezione.section(u' ', 2);
+        if (sezione.startsWith(prefissoCliente) && !chi.isEmpty() && !m_clienti.contains(chi))
+            m_clienti.insert(chi, sezione);
+    }
+}
+
 ArchivioFel::Stato ArchivioFel::leggi() {
-    m_file = FileFel();
+    usa(FileFel());
     QFile file(percorso());
     if (!file.exists())
         return Stato::Assente;
@@ -91,7 +103,7 @@ ArchivioFel::Stato ArchivioFel::leggi() {
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError || bytes.size() != file.size())
         return Stato::Illeggibile;
-    m_file = FileFel(bytes);
+    usa(FileFel(bytes));
     return Stato::Letto;
 }
 
@@ -104,7 +116,7 @@ bool ArchivioFel::cambia(const std::function<bool(FileFel&)>& come) {
         return true;
     if (!m_archivio.disco().scriviFile(percorso(), nuovo.bytes()))
         return false;
-    m_file = std::move(nuovo);
+    usa(std::move(nuovo));
     return true;
 }
 
@@ -122,12 +134,7 @@ NatureFel ArchivioFel::nature() const {
 QString ArchivioFel::sezioneCliente(int record, const Cli& cli) const {
     const QString chi = identita(cli);
     const QString propria = prefissoCliente + QString::number(record) + u' ' + chi;
-    if (chi.isEmpty() || m_file.haSezione(propria))
-        return propria;
-    for (const QString& sezione : m_file.sezioni())
-        if (sezione.startsWith(prefissoCliente) && sezione.endsWith(u' ' + chi))
-            return sezione;
-    return propria;
+    return chi.isEmpty() || m_file.haSezione(propria) ? propria : m_clienti.value(chi, propria);
 }
 
 ClienteFel ArchivioFel::cliente(int record, const Cli& cli) const {
@@ -170,23 +177,36 @@ bool ArchivioFel::salva(const Fte& fte, const DocumentoFel& documento) {
     });
 }
 
-QString ArchivioFel::progressivo(const Fte& fte, const std::function<bool(const QString&)>& occupato) {
-    const QString sezione = sezioneDocumento(fte);
-    QString dato;
-    const bool scritto = cambia([&](FileFel& file) {
-        dato = file.valore(sezione, u"file");
-        if (progressivoValido(dato))
-            return false;
-        dato = prossimoProgressivo(ultimoProgressivo(file));
-        while (!dato.isEmpty() && occupato(dato))
-            dato = prossimoProgressivo(dato);
-        if (dato.isEmpty())
-            return false;
-        file.metti(sezioneAzienda, u"contatore", dato);
-        file.metti(sezione, u"file", dato);
-        return true;
+QStringList ArchivioFel::progressivi(std::span<const Fte> documenti, const Occupato& occupato) {
+    QStringList dati;
+    const bool scritti = cambia([&](FileFel& file) {
+        std::optional<QString> ultimo;
+        for (const Fte& fte : documenti) {
+            const QString sezione = sezioneDocumento(fte);
+            dati.append(file.valore(sezione, u"file"));
+            if (progressivoValido(dati.last()))
+                continue;
+            QString dato = ultimo ? *ultimo : ultimoProgressivo(file);
+            do
+                dato = prossimoProgressivo(dato);
+            while (!dato.isEmpty() && occupato(dato));
+            dati.last() = dato;
+            if (dato.isEmpty())
+                break;
+            ultimo = dato;
+            file.metti(sezioneAzienda, u"contatore", dato);
+            file.metti(sezione, u"file", dato);
+        }
+        return ultimo.has_value();
     });
-    return scritto ? dato : QString();
+    if (!scritti)
+        dati.clear();
+    dati.resize(std::ssize(documenti));
+    return dati;
+}
+
+QString ArchivioFel::progressivo(const Fte& fte, const Occupato& occupato) {
+    return progressivi(std::span(&fte, 1), occupato).first();
 }
 
 } // namespace bor

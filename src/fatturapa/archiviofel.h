@@ -7,6 +7,7 @@
 #include "fatturapa/filefel.h"
 
 #include <functional>
+#include <span>
 
 namespace bor {
 
@@ -33,18 +34,23 @@ public:
     bool salva(int record, const Cli& cli, const ClienteFel& cliente);
     bool salva(const Fte& fte, const DocumentoFel& documento);
 
-    /// The progressive of the document's file: the one it has, or the next one, five characters of base 36,
-    /// stored before it is used so that no crash gives it out twice. `occupato` tells of a progressive whose
-    /// file exists already. Empty when it could not be stored or none is left.
-    QString progressivo(const Fte& fte, const std::function<bool(const QString&)>& occupato);
+    using Occupato = std::function<bool(const QString&)>;
+    /// The progressives of the documents' files, in their order: of each the one it has, or the next one,
+    /// five characters of base 36. All are stored in one write before any is used, so that no crash gives one
+    /// out twice. `occupato` tells of a progressive whose file exists already. Empty where none is left, and
+    /// all of them when they could not be stored.
+    QStringList progressivi(std::span<const Fte> documenti, const Occupato& occupato);
+    QString progressivo(const Fte& fte, const Occupato& occupato);
 
 private:
     bool cambia(const std::function<bool(FileFel&)>& come);
     QString sezioneCliente(int record, const Cli& cli) const;
     QString percorso() const;
+    void usa(FileFel file);
 
     Archivio& m_archivio;
     FileFel m_file;
+    QHash<QString, QString> m_clienti; ///< first section of each VAT number
 };
 
 /// The progressive that follows, "0000Z" to "00010"; empty behind "ZZZZZ". Any text that is no progressive

@@ -21,6 +21,7 @@ namespace {
 constexpr double sogliaBollo = 77.47;
 constexpr double importoBollo = 2;
 constexpr qsizetype caratteriCausale = 200;
+const QString elementoCollegata = u"FatturaElettronicaBody/DatiGenerali/DatiFattureCollegate/Data"_s;
 
 const QString dovePropri = u"nella maschera \"Fattura elettronica\""_s;
 
@@ -95,7 +96,7 @@ void componiDocumento(Composizione& c) {
     const DocumentoFel& propri = c.fonti.propri.documento;
     if (const QString numero = testoAscii(propri.collegatanumero).left(20); !numero.isEmpty())
         f.collegate.push_back({.numero = numero,
-                               .data = dataValida(propri.collegatadata).value_or(QDate()),
+                               .data = c.dataPropria(propri.collegatadata, elementoCollegata),
                                .item = {},
                                .commessa = {},
                                .cup = {},
@@ -185,6 +186,15 @@ QString Composizione::esigibilita() const {
     if (fonti.propri.cliente.splitpayment == u"SI")
         return u"S"_s;
     return fonti.documento.estremi.esig ? u"D"_s : u"I"_s;
+}
+
+QDate Composizione::dataPropria(const QString& testo, const QString& elemento) {
+    const QString netto = testo.trimmed();
+    const auto data = dataValida(completaData(netto));
+    const auto detta = [&](const Rilievo& r) { return r.elemento == elemento && r.valore == netto; };
+    if (!data && !netto.isEmpty() && std::ranges::none_of(rilievi, detta))
+        rifiuta(elemento, netto, u"La data non è valida."_s, u"Correggerla %1."_s.arg(dovePropri));
+    return data.value_or(QDate());
 }
 
 void Composizione::rifiuta(const QString& elemento, const QString& valore, const QString& motivo,

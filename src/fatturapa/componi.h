@@ -19,6 +19,8 @@ struct DatiFel {
     NatureFel nature;
     ClienteFel cliente;
     DocumentoFel documento;
+
+    friend bool operator==(const DatiFel&, const DatiFel&) = default;
 };
 
 struct FontiFel {

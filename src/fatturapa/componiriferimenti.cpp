@@ -14,6 +14,7 @@ namespace bor {
 namespace {
 
 constexpr qsizetype caratteriNumero = 20;
+const QString elementoGenerali = u"FatturaElettronicaBody/DatiGenerali"_s;
 
 QDate data(const QString& testo) {
     return dataValida(completaData(testo)).value_or(QDate());
@@ -60,14 +61,14 @@ void daiPropri(Composizione& c) {
     if (ordine.numero.isEmpty())
         ordine = NumeroData::da(c.fonti.documento.testata.trasporto.ordine);
     if (!propri.ordinedata.isEmpty())
-        ordine.data = data(propri.ordinedata);
+        ordine.data = c.dataPropria(propri.ordinedata, elementoGenerali + u"/DatiOrdineAcquisto/Data"_s);
     RiferimentoFel r;
     r.numero = ordine.numero;
     r.data = ordine.data;
     if (c.fattura.ordini.empty())
         metti(c.fattura.ordini, r);
     r.numero = testoAscii(propri.contrattonumero).left(caratteriNumero);
-    r.data = data(propri.contrattodata);
+    r.data = c.dataPropria(propri.contrattodata, elementoGenerali + u"/DatiContratto/Data"_s);
     if (c.fattura.contratti.empty())
         metti(c.fattura.contratti, r);
 }
@@ -109,7 +110,7 @@ void componiDdt(Composizione& c) {
     if (ddt.numero.isEmpty())
         return;
     if (!c.fonti.propri.documento.ddtdata.isEmpty())
-        ddt.data = data(c.fonti.propri.documento.ddtdata);
+        ddt.data = c.dataPropria(c.fonti.propri.documento.ddtdata, elementoGenerali + u"/DatiDDT/DataDDT"_s);
     if (!ddt.data.isValid())
         ddt.data = data(trasporto.inizio);
     if (ddt.data.isValid())

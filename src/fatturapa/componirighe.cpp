@@ -75,7 +75,7 @@ void mettiImporti(LineaFel& linea, const Riga& riga, double divisore) {
     linea.totale = ottoDecimali(scontato(linea.prezzo, linea.sconti) * linea.quantita.value_or(1));
 }
 
-LineaFel lineaDi(const Riga& riga, const IvaFel& iva, double divisore, const Composizione& c) {
+LineaFel lineaDi(const Riga& riga, const IvaFel& iva, double divisore, Composizione& c) {
     LineaFel linea;
     linea.codice = testoLatino(riga.codice);
     linea.codice2 = testoLatino(riga.codice2);
@@ -88,7 +88,8 @@ LineaFel lineaDi(const Riga& riga, const IvaFel& iva, double divisore, const Com
     const ClienteFel& cliente = c.fonti.propri.cliente;
     if (iva.natura == u"N3.5") {
         linea.intento = testoLatino(cliente.intento);
-        linea.intentodata = dataValida(cliente.intentoricezione).value_or(QDate());
+        linea.intentodata =
+            c.dataPropria(cliente.intentoricezione, elementoLinee + u"/AltriDatiGestionali"_s);
     }
     return linea;
 }

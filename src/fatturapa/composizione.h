@@ -32,6 +32,9 @@ struct Composizione {
     /// The sum of the document's four withholding amounts.
     double totaleRitenute() const;
     QString esigibilita() const;
+    /// A date that was typed for the element; none where it is empty. A text that is no date is refused,
+    /// once.
+    QDate dataPropria(const QString& testo, const QString& elemento);
 
     void rifiuta(const QString& elemento, const QString& valore, const QString& motivo,
                  const QString& rimedio);

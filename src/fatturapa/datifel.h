@@ -18,6 +18,8 @@ struct AziendaFel {
     QString tiporitenuta;    ///< "RT01" to "RT06"; empty: RT01 for a person, RT02 for a company
     QString causaleritenuta; ///< reason of the withholding, "A", "L1", ...
     QString allegapdf;       ///< tick: the PDF of the document goes into the file
+
+    friend bool operator==(const AziendaFel&, const AziendaFel&) = default;
 };
 
 struct ClienteFel {
@@ -26,6 +28,8 @@ struct ClienteFel {
     QString splitpayment;     ///< tick: the customer pays the tax to the state himself
     QString intento;          ///< protocol of the declaration of intent, "08060120341234567-000001"
     QString intentoricezione; ///< day of its receipt, "dd/mm/yyyy"
+
+    friend bool operator==(const ClienteFel&, const ClienteFel&) = default;
 };
 
 /// Dates are "dd/mm/yyyy". Empty is the proposal that the document itself makes.
@@ -45,6 +49,8 @@ struct DocumentoFel {
     QString tiporitenuta;
     QString causaleritenuta;
     QString modalita; ///< "MP01" to "MP23"
+
+    friend bool operator==(const DocumentoFel&, const DocumentoFel&) = default;
 };
 
 /// Nature of a VAT code, with its subcode ("N3.1"): index 1 to 24, empty where the suite's own digit will do.

@@ -8,6 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -54,11 +57,7 @@ DatiFel GeneratoreFel::datiPropri(const Documento& documento) const {
             m_propri.documento(fte)};
 }
 
-Composta GeneratoreFel::componi(const Documento& documento) const {
-    return componi(documento, datiPropri(documento).documento.file);
-}
-
-Composta GeneratoreFel::componi(const Documento& documento, const QString& progressivo) const {
+Composta GeneratoreFel::componi(const Documento& documento, const DatiFel& propri) const {
     Composta senza;
     if (!m_azienda)
         senza.rilievi.push_back(
@@ -71,30 +70,57 @@ Composta GeneratoreFel::componi(const Documento& documento, const QString& progr
         return senza;
     const std::optional<Fpa> pa =
         documento.recordfpa >= 1 ? leggiFpa(u"fpa"_s + testoDecimale(documento.recordfpa)) : std::nullopt;
-    const DatiFel propri = datiPropri(documento);
     return bor::componi({.documento = documento,
                          .azienda = *m_azienda,
                          .pa = pa ? &*pa : nullptr,
                          .propri = propri,
                          .tabelle = m_contesto.tabelle,
                          .valuta = m_contesto.valuta(),
-                         .progressivo = progressivo});
+                         .progressivo = propri.documento.file});
 }
 
-void GeneratoreFel::allega(const Documento& documento, Composta& composta) const {
+/// Path of this machine of the PDF that goes into the file; empty for none, with a hint where there should be
+/// one.
+QString GeneratoreFel::pdfDaAllegare(const Documento& documento, const DatiFel& propri,
+                                     std::vector<Rilievo>& rilievi) const {
     const QString nome = documento.estremi.pdf.trimmed();
-    if (m_propri.azienda().allegapdf != u"SI" || nome.isEmpty())
-        return;
-    QFile file(m_contesto.archivio.reale(nome));
-    if (!file.open(QIODevice::ReadOnly))
-        composta.rilievi.push_back(
-            avvisoAllegato(nome, u"Il PDF del documento non si trova e non è allegato."_s));
+    if (propri.azienda.allegapdf != u"SI" || nome.isEmpty())
+        return {};
+    const QFileInfo file(m_contesto.archivio.reale(nome));
+    if (!file.isFile() || !file.isReadable())
+        rilievi.push_back(avvisoAllegato(nome, u"Il PDF del documento non si trova e non è allegato."_s));
     else if (file.size() > pdfMassimo)
-        composta.rilievi.push_back(
+        rilievi.push_back(
             avvisoAllegato(nome, u"Il PDF del documento è troppo grande per essere allegato."_s));
     else
+        return file.filePath();
+    return {};
+}
+
+/// The bytes of the file, with the attachment.
+QByteArray GeneratoreFel::scrivi(const Documento& documento, const DatiFel& propri,
+                                 Composta& composta) const {
+    QFile pdf(pdfDaAllegare(documento, propri, composta.rilievi));
+    if (!pdf.fileName().isEmpty() && pdf.open(QIODevice::ReadOnly))
         composta.fattura.allegato = {
-            testoLatino(QFileInfo(file.fileName()).fileName()).left(caratteriNomeAllegato), file.readAll()};
+            testoLatino(QFileInfo(pdf.fileName()).fileName()).left(caratteriNomeAllegato), pdf.readAll()};
+    return scriviFattura(composta.fattura);
+}
+
+ProvaFel GeneratoreFel::prova(const Documento& documento, const DatiFel& propri) const {
+    // A document without a name yet is looked at under the first one that there is.
+    DatiFel conNome = propri;
+    if (conNome.documento.file.isEmpty())
+        conNome.documento.file = prossimoProgressivo({});
+    Composta composta = componi(documento, conNome);
+    ProvaFel prova{std::move(composta.fattura), {}, std::move(composta.rilievi)};
+    if (std::ranges::count(prova.rilievi, Gravita::Errore, &Rilievo::gravita) > 0)
+        return prova;
+    pdfDaAllegare(documento, propri, prova.rilievi);
+    prova.xml = scriviFattura(prova.fattura);
+    std::ranges::move(controllaXml(prova.xml, nomeFile(conNome.documento.file), m_contesto.orologio.oggi()),
+                      std::back_inserter(prova.rilievi));
+    return prova;
 }
 
 QString GeneratoreFel::nomeFile(const QString& progressivo) const {
@@ -105,19 +131,56 @@ QString GeneratoreFel::nomeFile(const QString& progressivo) const {
     return chi + u'_' + progressivo + u".xml"_s;
 }
 
+QString GeneratoreFel::percorsoDi(const QString& progressivo) const {
+    return m_cartella + u'/' + nomeFile(progressivo);
+}
+
+QString GeneratoreFel::percorso(const Documento& documento) const {
+    const QString progressivo = m_propri.documento(documento.coppia.fte).file;
+    return progressivo.isEmpty() || !m_azienda || m_cartella.isEmpty() ? QString() : percorsoDi(progressivo);
+}
+
+FileDocumento GeneratoreFel::suDisco(const Documento& documento) const {
+    QFile file(percorso(documento));
+    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly))
+        return FileDocumento::Assente;
+    const DatiFel propri = datiPropri(documento);
+    Composta composta = componi(documento, propri);
+    const bool attuale = !composta.rifiutata() && scrivi(documento, propri, composta) == file.readAll();
+    return attuale ? FileDocumento::Attuale : FileDocumento::Diverso;
+}
+
 EsitoFel GeneratoreFel::genera(const Documento& documento) {
-    // The progressive is given out only to a document that can go out.
-    Composta composta = componi(documento);
-    EsitoFel esito{EsitoFel::Stato::Rifiutata, {}, composta.rilievi};
-    if (composta.rifiutata())
-        return esito;
-    const auto percorso = [&](const QString& progressivo) {
-        return m_cartella + u'/' + nomeFile(progressivo);
-    };
-    const QString progressivo = m_propri.progressivo(
-        documento.coppia.fte, [&](const QString& p) { return QFile::exists(percorso(p)); });
-    esito.stato = EsitoFel::Stato::NonScritta;
+    return std::move(genera(std::span(&documento, 1)).front());
+}
+
+std::vector<EsitoFel> GeneratoreFel::genera(std::span<const Documento> documenti) {
+    // A progressive is given out only to a document that can go out.
+    std::vector<Composta> composte;
+    std::vector<Fte> daNominare;
+    for (const Documento& documento : documenti) {
+        composte.push_back(componi(documento, datiPropri(documento)));
+        if (!composte.back().rifiutata())
+            daNominare.push_back(documento.coppia.fte);
+    }
+    const QStringList progressivi = m_propri.progressivi(
+        daNominare, [this](const QString& progressivo) { return QFile::exists(percorsoDi(progressivo)); });
+    std::vector<EsitoFel> esiti;
+    qsizetype nominati = 0;
+    for (std::size_t i = 0; i < documenti.size(); ++i) {
+        if (composte[i].rifiutata())
+            esiti.push_back({EsitoFel::Stato::Rifiutata, {}, std::move(composte[i].rilievi)});
+        else
+            esiti.push_back(emetti(documenti[i], std::move(composte[i]), progressivi.value(nominati++)));
+    }
+    return esiti;
+}
+
+EsitoFel GeneratoreFel::emetti(const Documento& documento, Composta composta,
+                               const QString& progressivo) const {
+    EsitoFel esito{EsitoFel::Stato::NonScritta, {}, {}};
     if (progressivo.isEmpty()) {
+        esito.rilievi = std::move(composta.rilievi);
         esito.rilievi.push_back(
             rifiuto(u"Il nome del file non si è potuto assegnare: borlano.fel non si può scrivere."_s,
                     u"Controllare i permessi della cartella dell'azienda."_s));
@@ -125,9 +188,8 @@ EsitoFel GeneratoreFel::genera(const Documento& documento) {
     }
     if (composta.fattura.trasmissione.progressivo.isEmpty())
         composta.fattura.trasmissione.progressivo = progressivo;
-    allega(documento, composta);
-    const QByteArray xml = scriviFattura(composta.fattura);
-    esito.percorso = percorso(progressivo);
+    const QByteArray xml = scrivi(documento, datiPropri(documento), composta);
+    esito.percorso = percorsoDi(progressivo);
     esito.rilievi = std::move(composta.rilievi);
     std::ranges::move(controllaXml(xml, nomeFile(progressivo), m_contesto.orologio.oggi()),
                       std::back_inserter(esito.rilievi));
@@ -140,9 +202,11 @@ EsitoFel GeneratoreFel::genera(const Documento& documento) {
     return esito;
 }
 
-QString cartellaFatture(const Archivio& archivio, const Fpa& azienda, const QString& cartellaPdf) {
-    const QString propria = azienda.cartellaxml.trimmed();
-    return archivio.reale(propria.isEmpty() ? cartellaPdf : propria);
+GeneratoreFel GeneratoreFel::perAzienda(Contesto& contesto, const QString& cartellaPdf) {
+    GeneratoreFel generatore(contesto, {});
+    const QString propria = generatore.m_azienda ? generatore.m_azienda->cartellaxml.trimmed() : QString();
+    generatore.m_cartella = contesto.archivio.reale(propria.isEmpty() ? cartellaPdf : propria);
+    return generatore;
 }
 
 } // namespace bor

@@ -6,6 +6,8 @@
 #include "fatturapa/archiviofel.h"
 #include "fatturapa/componi.h"
 
+#include <span>
+
 namespace bor {
 
 /// What became of a document.
@@ -21,25 +23,55 @@ struct EsitoFel {
     std::vector<Rilievo> rilievi;
 };
 
+/// A document as it would go out.
+struct ProvaFel {
+    FatturaElettronica fattura;
+    QByteArray xml; ///< without the attachment; empty for a document that is refused
+    /// Of the composition and of the check of the file.
+    std::vector<Rilievo> rilievi;
+};
+
+/// What stands on disk of a document.
+enum class FileDocumento {
+    Assente,
+    Attuale, ///< what would be written now
+    Diverso  ///< document or data changed since it was written
+};
+
 class GeneratoreFel {
 public:
     /// Reads the company's data and the program's own. `cartella`: folder of this machine for the files.
     GeneratoreFel(Contesto& contesto, QString cartella);
+    /// For a screen: the files go into the company's folder of XML files, else into the one of the PDFs (a
+    /// DOS path).
+    static GeneratoreFel perAzienda(Contesto& contesto, const QString& cartellaPdf);
 
-    /// The invoice as it would go out now, for a screen; gives out no name and writes nothing.
-    Composta componi(const Documento& documento) const;
+    /// The invoice with these data of the program's own; gives out no name and writes nothing.
+    ProvaFel prova(const Documento& documento, const DatiFel& propri) const;
 
     /// Composes, checks and writes. A document keeps the name of its file; a new one gets the next.
     EsitoFel genera(const Documento& documento);
+    /// The same for many. All their names are stored in one write, before the first of them is used.
+    std::vector<EsitoFel> genera(std::span<const Documento> documenti);
+
+    /// Folder of this machine; empty when the company names none of the program.
+    const QString& cartella() const { return m_cartella; }
+    /// Of the document's file on this machine; empty as long as it has no name.
+    QString percorso(const Documento& documento) const;
+    FileDocumento suDisco(const Documento& documento) const;
 
     ArchivioFel& propri() { return m_propri; }
     DatiFel datiPropri(const Documento& documento) const;
 
 private:
-    Composta componi(const Documento& documento, const QString& progressivo) const;
+    Composta componi(const Documento& documento, const DatiFel& propri) const;
     std::optional<Fpa> leggiFpa(const QString& nome) const;
-    void allega(const Documento& documento, Composta& composta) const;
+    QString pdfDaAllegare(const Documento& documento, const DatiFel& propri,
+                          std::vector<Rilievo>& rilievi) const;
+    QByteArray scrivi(const Documento& documento, const DatiFel& propri, Composta& composta) const;
+    EsitoFel emetti(const Documento& documento, Composta composta, const QString& progressivo) const;
     QString nomeFile(const QString& progressivo) const;
+    QString percorsoDi(const QString& progressivo) const;
 
     Contesto& m_contesto;
     QString m_cartella;
@@ -47,9 +79,5 @@ private:
     ArchivioFel::Stato m_stato;
     std::optional<Fpa> m_azienda;
 };
-
-/// Folder of this machine for the files: the company's folder of XML files, else the one of the PDFs (a DOS
-/// path); empty when neither is a folder of the program.
-QString cartellaFatture(const Archivio& archivio, const Fpa& azienda, const QString& cartellaPdf);
 
 } // namespace bor

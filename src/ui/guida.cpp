@@ -28,6 +28,8 @@ QString capitolo(Schermo schermo) {
         return u"movimento"_s;
     case Schermo::Borftepa:
         return u"fattura-pa"_s;
+    case Schermo::Borftel:
+        return u"fattura-elettronica"_s;
     }
     return u"indice"_s;
 }

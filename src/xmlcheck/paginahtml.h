@@ -1,5 +1,6 @@
 // Puts a readable page together: headings, pairs of caption and value, tables. Only the view of invoices uses
-// it.
+// it. What no person reads to its end, more than 2,000 rows of a table or 4,000 items of a page, is cut
+// there, and the page says so.
 #pragma once
 
 #include "xmlcheck/letturaxml.h"
@@ -14,12 +15,7 @@ public:
     void sezione(const QString& testo) { aggiungi(testo, u"<h2>", u"</h2>\n"); }
     void paragrafo(const QString& testo) { aggiungi(testo, u"<p>", u"</p>\n"); }
     /// Caption and value of one line; nothing without a value.
-    void voce(const QString& nome, const QString& valore) {
-        if (valore.isEmpty())
-            return;
-        aggiungi(nome, u"<p><b>", u":</b> ");
-        aggiungi(valore, {}, u"</p>\n");
-    }
+    void voce(const QString& nome, const QString& valore);
     /// Columns whose name begins with ">" are numbers, aligned to the right.
     void tabella(const QStringList& colonne, const QList<QStringList>& righe);
 
@@ -28,11 +24,17 @@ public:
 private:
     /// Text between two pieces of markup; nothing without text.
     void aggiungi(const QString& testo, QStringView prima, QStringView dopo) {
-        if (!testo.isEmpty())
-            m_corpo.append(prima).append(testo.toHtmlEscaped()).append(dopo);
+        if (!testo.isEmpty() && !nonEntra())
+            m_corpo.append(prima).append(breve(testo)).append(dopo);
     }
+    /// True when the page is full; otherwise the item counts as part of it.
+    bool nonEntra();
+    /// The text as part of the page, cut where no element of the format is as long.
+    static QString breve(const QString& testo);
 
     QString m_corpo;
+    int m_voci = 0;
+    qsizetype m_fuori = 0; ///< items that did not fit
 };
 
 /// The parts of one invoice body.

@@ -25,12 +25,18 @@ DatiVersione datiVersione(Versione versione) {
             righeTracciato123()};
 }
 
-QString luogo(const char16_t* dove, const QString& padre, const QString& maschera) {
-    if (!dove)
-        return padre;
-    const QString testo = QString::fromUtf16(dove);
-    return testo.startsWith(u'@') ? u"nella maschera \"%1\", campo \"%2\""_s.arg(maschera, testo.mid(1))
-                                  : testo;
+/// Puts the place into a row of the table whose parent has its own already.
+void colloca(Elemento& elemento, const Elemento& padre, const QString& maschera) {
+    if (!elemento.riga.dove) {
+        elemento.dove = padre.dove;
+        elemento.campo = padre.campo;
+        return;
+    }
+    const QString testo = QString::fromUtf16(elemento.riga.dove);
+    elemento.campo = testo.startsWith(u'@') ? testo.mid(1) : QString();
+    elemento.dove = elemento.campo.isEmpty()
+                        ? testo
+                        : u"nella maschera \"%1\", campo \"%2\""_s.arg(maschera, elemento.campo);
 }
 
 /// Takes the rows deeper than `padre` off the front.
@@ -38,8 +44,8 @@ void aggiungiFigli(Elemento& padre, std::span<const RigaTracciato>& righe, const
     while (!righe.empty() && righe.front().livello > padre.riga.livello) {
         const RigaTracciato riga = righe.front();
         righe = righe.subspan(1);
-        padre.figli.push_back(
-            {riga, QString::fromUtf16(riga.elemento), luogo(riga.dove, padre.dove, maschera), {}});
+        padre.figli.push_back({riga, QString::fromUtf16(riga.elemento), {}, {}, {}});
+        colloca(padre.figli.back(), padre, maschera);
         aggiungiFigli(padre.figli.back(), righe, maschera);
     }
 }
@@ -50,6 +56,7 @@ Elemento costruisci(Versione versione) {
     Elemento radice{{0, u"FatturaElettronica", Volte::Una, Forma::Gruppo},
                     u"FatturaElettronica"_s,
                     u"generando di nuovo il file dalla maschera \"%1\""_s.arg(dati.maschera),
+                    {},
                     {}};
     aggiungiFigli(radice, righe, dati.maschera);
     return radice;
@@ -72,7 +79,9 @@ QStringView spazioNomi(Versione versione) {
     return datiVersione(versione).spazio;
 }
 
-QString doveSiCompila(Versione versione, const QString& percorso) {
+namespace {
+
+const Elemento& elementoDi(Versione versione, const QString& percorso) {
     const Elemento* elemento = &tracciato(versione);
     for (const QStringView passo : QStringView(percorso).split(u'/')) {
         const auto figlio = std::ranges::find(elemento->figli, senzaNumero(passo), &Elemento::nome);
@@ -80,7 +89,17 @@ QString doveSiCompila(Versione versione, const QString& percorso) {
             break;
         elemento = &*figlio;
     }
-    return elemento->dove;
+    return *elemento;
+}
+
+} // namespace
+
+QString doveSiCompila(Versione versione, const QString& percorso) {
+    return elementoDi(versione, percorso).dove;
+}
+
+QString campoDiMaschera(Versione versione, const QString& percorso) {
+    return elementoDi(versione, percorso).campo;
 }
 
 } // namespace bor

@@ -70,7 +70,8 @@ std::span<const RigaTracciato> righeTracciato123();
 struct Elemento {
     RigaTracciato riga;
     QString nome;
-    QString dove; ///< never empty
+    QString dove;  ///< never empty
+    QString campo; ///< caption of the form's field that `dove` speaks of; empty for another place
     std::vector<Elemento> figli;
 };
 
@@ -80,6 +81,8 @@ QStringView spazioNomi(Versione versione);
 
 /// Where the element of that path is entered; for an element that no layout knows, where its parent is.
 QString doveSiCompila(Versione versione, const QString& percorso);
+/// Caption of the field in the program's form for that version; empty for what is entered elsewhere.
+QString campoDiMaschera(Versione versione, const QString& percorso);
 
 /// The value, as it stands in the file with its blanks, has the form that the row asks.
 bool haForma(const RigaTracciato& riga, const QString& valore);

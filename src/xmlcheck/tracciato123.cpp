@@ -16,6 +16,7 @@ constexpr const char16_t* cliente = u"nell'anagrafica clienti della suite, che l
 constexpr const char16_t* testata = u"nella maschera \"Selezione cliente\", dati del trasporto";
 constexpr const char16_t* righe = u"nelle righe, maschera \"Estremi del documento\"";
 constexpr const char16_t* documento = u"nella maschera del documento (modifica dati fattura)";
+constexpr const char16_t* mascheraPa = u"nella maschera \"Fattura elettronica PA\"";
 constexpr const char16_t* scadenze = u"nelle scadenze della maschera del documento";
 constexpr const char16_t* esenzioni = u"nella tabella delle esenzioni IVA della suite";
 constexpr const char16_t* nonQui = u"nel file, o farlo correggere a chi lo ha emesso: la maschera \"Fattura elettronica\" non lo scrive";
@@ -44,7 +45,7 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {3, u"IdTrasmittente", Una, Gruppo},
     {4, u"IdPaese", Una, Lettere, 2, 2},
     {4, u"IdCodice", Una, Codice, 1, 28},
-    {3, u"ProgressivoInvio", Una, Ascii, 1, 10, u"@Numero progressivo invio"},
+    {3, u"ProgressivoInvio", Una, Ascii, 1, 10, mascheraPa},
     {3, u"FormatoTrasmissione", Una, Scelta, 0, 0, nullptr, u"FPA12 FPR12"},
     {3, u"CodiceDestinatario", Una, Maiuscole, 6, 7, u"@Codice destinatario"},
     {3, u"ContattiTrasmittente", AlPiuUna, Gruppo},
@@ -182,7 +183,7 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {4, u"ImportoTotaleDocumento", AlPiuUna, Importo, 2, 2},
     {4, u"Arrotondamento", AlPiuUna, Importo, 2, 2},
     {4, u"Causale", Libere, Latino, 1, 200, documento},
-    {4, u"Art73", AlPiuUna, Scelta, 0, 0, u"@Documento emesso ai sensi art.73 DPR 633/72", u"SI"},
+    {4, u"Art73", AlPiuUna, Scelta, 0, 0, mascheraPa, u"SI"},
     {3, u"DatiOrdineAcquisto", Libere, Gruppo, 0, 0, u"@Ordine"},
     {4, u"RiferimentoNumeroLinea", Libere, Intero, 1, 9999},
     {4, u"IdDocumento", Una, Ascii, 1, 20},
@@ -199,7 +200,7 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {4, u"CodiceCommessaConvenzione", AlPiuUna, Latino, 1, 100},
     {4, u"CodiceCUP", AlPiuUna, Ascii, 1, 15, u"@Codice CUP"},
     {4, u"CodiceCIG", AlPiuUna, Ascii, 1, 15, u"@Codice CIG"},
-    {3, u"DatiConvenzione", Libere, Gruppo, 0, 0, u"@Convenzione"},
+    {3, u"DatiConvenzione", Libere, Gruppo, 0, 0, mascheraPa},
     {4, u"RiferimentoNumeroLinea", Libere, Intero, 1, 9999},
     {4, u"IdDocumento", Una, Ascii, 1, 20},
     {4, u"Data", AlPiuUna, Data},
@@ -207,7 +208,7 @@ constexpr auto tabella = std::to_array<RigaTracciato>({
     {4, u"CodiceCommessaConvenzione", AlPiuUna, Latino, 1, 100},
     {4, u"CodiceCUP", AlPiuUna, Ascii, 1, 15, u"@Codice CUP"},
     {4, u"CodiceCIG", AlPiuUna, Ascii, 1, 15, u"@Codice CIG"},
-    {3, u"DatiRicezione", Libere, Gruppo, 0, 0, u"@Ricezione"},
+    {3, u"DatiRicezione", Libere, Gruppo, 0, 0, mascheraPa},
     {4, u"RiferimentoNumeroLinea", Libere, Intero, 1, 9999},
     {4, u"IdDocumento", Una, Ascii, 1, 20},
     {4, u"Data", AlPiuUna, Data},

@@ -8,11 +8,16 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
 
 namespace {
+
+constexpr int vociMassime = 4000;
+constexpr qsizetype righeMassime = 2000;
 
 QString tipoInParole(const QString& codice) {
     static const QHash<QString, QString> nomi = {{u"TD01"_s, u"Fattura"_s},
@@ -98,19 +103,42 @@ QString dataItaliana(const QString& testo) {
     return data.isValid() ? testoData(data) : testo;
 }
 
+bool PaginaHtml::nonEntra() {
+    const bool piena = m_voci >= vociMassime;
+    if (piena)
+        ++m_fuori;
+    else
+        ++m_voci;
+    return piena;
+}
+
+QString PaginaHtml::breve(const QString& testo) {
+    constexpr qsizetype massimo = 2000;
+    return (testo.size() > massimo ? testo.left(massimo) + u" (...)"_s : testo).toHtmlEscaped();
+}
+
+void PaginaHtml::voce(const QString& nome, const QString& valore) {
+    if (!valore.isEmpty() && !nonEntra())
+        m_corpo += u"<p><b>"_s + breve(nome) + u":</b> "_s + breve(valore) + u"</p>\n"_s;
+}
+
 void PaginaHtml::tabella(const QStringList& colonne, const QList<QStringList>& righe) {
-    if (righe.isEmpty())
+    if (righe.isEmpty() || m_voci >= vociMassime) {
+        m_fuori += righe.size();
         return;
+    }
     m_corpo += u"<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">\n<tr>";
     for (const QString& nome : colonne)
         m_corpo += u"<th>"_s + (nome.startsWith(u'>') ? nome.mid(1) : nome).toHtmlEscaped() + u"</th>"_s;
     m_corpo += u"</tr>\n";
-    for (const QStringList& riga : righe) {
+    m_fuori += std::max(righe.size() - righeMassime, qsizetype{0});
+    for (const QStringList& riga : righe.first(std::min(righe.size(), righeMassime))) {
+        if (nonEntra())
+            continue;
         m_corpo += u"<tr>";
         for (qsizetype i = 0; i < riga.size(); ++i) {
             const bool aDestra = colonne.value(i).startsWith(u'>');
-            m_corpo +=
-                (aDestra ? u"<td align=\"right\">"_s : u"<td>"_s) + riga[i].toHtmlEscaped() + u"</td>"_s;
+            m_corpo += (aDestra ? u"<td align=\"right\">"_s : u"<td>"_s) + breve(riga[i]) + u"</td>"_s;
         }
         m_corpo += u"</tr>\n";
     }
@@ -118,8 +146,13 @@ void PaginaHtml::tabella(const QStringList& colonne, const QList<QStringList>& r
 }
 
 QString PaginaHtml::html(const QString& nomePagina) const {
+    const QString fine =
+        m_fuori == 0
+            ? QString()
+            : u"<p>La pagina non mostra tutto: altre %1 voci del file restano fuori.</p>\n"_s.arg(m_fuori);
     return u"<!DOCTYPE html>\n<html lang=\"it\"><head><meta charset=\"utf-8\"><title>"_s +
-           nomePagina.toHtmlEscaped() + u"</title></head>\n<body>\n"_s + m_corpo + u"</body></html>\n"_s;
+           nomePagina.toHtmlEscaped() + u"</title></head>\n<body>\n"_s + m_corpo + fine +
+           u"</body></html>\n"_s;
 }
 
 void mostraDocumento(PaginaHtml& pagina, const Nodo& corpo) {

@@ -9,6 +9,9 @@
 #include <QDir>
 #include <QSet>
 
+#include <algorithm>
+#include <vector>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -83,6 +86,26 @@ TEST(ArchivioFel, UnProgressivoNonEMaiDatoDueVolte) {
     p.azienda.scrivi(u"borlano.fel"_s, testo.replace("contatore=0000B", "contatore=rotto!"));
     EXPECT_EQ(p.fel.progressivo(documentoCon(4), mai), u"0000C")
         << "the documents know better than the counter";
+}
+
+TEST(ArchivioFel, MoltiProgressiviSiScrivonoInUnaVoltaSola) {
+    AziendaDiProva azienda;
+    DiscoGuasto disco;
+    ContestoDiProva contesto(azienda, disco);
+    ArchivioFel fel(contesto.archivio);
+    ASSERT_EQ(fel.progressivo(documentoCon(2), mai), u"00001");
+    const std::vector<Fte> molti = {documentoCon(1), documentoCon(2), documentoCon(3), documentoCon(1)};
+    disco.annota = true;
+    const auto riscritture = [&] {
+        return std::ranges::count(disco.operazioni, Operazione::Tipo::Sostituzione, &Operazione::tipo);
+    };
+    EXPECT_EQ(fel.progressivi(molti, mai), (QStringList{u"00002"_s, u"00001"_s, u"00003"_s, u"00002"_s}));
+    EXPECT_EQ(riscritture(), 1);
+    EXPECT_EQ(fel.progressivi(molti, mai).first(), u"00002");
+    EXPECT_EQ(riscritture(), 1) << "nothing new, nothing written";
+    disco.guasto = disco.scritture + 1;
+    EXPECT_EQ(fel.progressivi(std::vector{documentoCon(3), documentoCon(4)}, mai), (QStringList{{}, {}}))
+        << "none is used that is not on disk";
 }
 
 TEST(ArchivioFel, SenzaScritturaNessunProgressivoENullaDiCambiato) {

@@ -35,6 +35,22 @@ TEST(VistaFattura, ITestiDelFileNonSonoMaiMarcatura) {
     EXPECT_FALSE(pagina.contains(u"\" onload"_s));
 }
 
+TEST(VistaFattura, UnFileSmisuratoFinisceDoveLoDice) {
+    QByteArray smisurato = fatturaBuona();
+    const qsizetype inizio = smisurato.indexOf("<DettaglioLinee>");
+    const qsizetype fine = smisurato.indexOf("</DettaglioLinee>") + 17;
+    const QByteArray linea = smisurato.sliced(inizio, fine - inizio);
+    QByteArray lunga = linea;
+    lunga.replace("Viti e", QByteArray(100'000, 'x'));
+    smisurato.insert(inizio, lunga + linea.repeated(5'000));
+    const QString pagina = vistaFattura(smisurato);
+    EXPECT_LT(pagina.count(u"<tr>"_s), 2'010);
+    EXPECT_LT(pagina.count(u'x'), 3'000);
+    EXPECT_TRUE(pagina.contains(u"altre 3003 voci del file restano fuori"_s));
+    EXPECT_TRUE(pagina.contains(u"Riepilogo IVA"_s)) << "what follows the lines is there";
+    EXPECT_FALSE(vistaFattura(fatturaBuona()).contains(u"restano fuori"_s));
+}
+
 TEST(VistaFattura, DiUnAltroFileDiceCheNonEUnaFattura) {
     for (const QByteArray& altro :
          {QByteArray(), QByteArray("<a/>"), QByteArray("%PDF-1.4"), QByteArray(5'000'001, 'x')})

@@ -14,9 +14,10 @@ struct Emissione {
     int documento = 0; ///< record number; 0 for all live documents
 };
 
-/// Writes the files, one document after the other, and gives each one's findings to `racconta`; a document
+using Racconto = std::function<void(const resoconto::RilieviFile&)>;
+
+/// Writes the files, a hundred documents at a time, and gives each one's findings to `racconta`; a document
 /// that was refused comes under its number and day. A reason when nothing could be begun, else empty.
-QString emetti(const Emissione& richiesta,
-               const std::function<void(const resoconto::RilieviFile&)>& racconta);
+QString emetti(const Emissione& richiesta, const Racconto& racconta);
 
 } // namespace bor::emette
