@@ -19,7 +19,7 @@ const std::map<std::string, Cartelle> frecceStrumenti = {
     {"borcrea", {"common", "archive", "document", "posting"}},
     {"borverifica", {"common", "archive", "document"}},
     {"borefattura", {"common", "archive", "document", "xmlcheck", "fatturapa", "borxmlcheck"}},
-    {"borxmlcheck", {"common", "xmlcheck"}},
+    {"borxmlcheck", {"common", "xmlcheck", "ui"}},
     {"borxpdf", {"common"}},
     {"lanciatore", {"common", "archive", "ui"}},
     {"tour", {"common", "ui", "app", "borcrea"}},

@@ -15,7 +15,7 @@ _borlano() {
     borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --version" ;;
     borverifica) opzioni="--unita --azienda --json --aiuto --version" ;;
     borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --version" ;;
-    borxmlcheck) opzioni="--json --mostra --aiuto --version" ;;
+    borxmlcheck) opzioni="--json --mostra --html --aiuto --version" ;;
     borxpdf) opzioni="--anteprima --version" ;;
     *) return ;;
     esac

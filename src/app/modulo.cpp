@@ -3,6 +3,7 @@
 #include "common/avvio.h"
 #include "document/avvisi.h"
 #include "output/generapdf.h"
+#include "output/layout.h"
 #include "output/stampafattura.h"
 
 namespace bor {
@@ -29,6 +30,7 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
       m_registrazioni(m_contesto, m_borftec),
       m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)),
       m_borftepa(m_contesto, m_documento),
+      m_borftel(m_contesto, m_documento, m_sospese, [this] { return caricaTestiPdf(m_archivio).cartella(); }),
       m_bozze(m_contesto, m_documento, {m_borftem, m_borftea, m_borftex, m_borftek}, m_sospese.cartella()) {
     m_navigatore.affida(m_bozze);
     m_sessione.codiceazienda = codiceazienda;
@@ -54,7 +56,8 @@ ComandiEsterni Modulo::comandi(Stampante& stampante) {
                         bor::anteprima(m_documento, m_contesto);
                 },
             .scegliPdf = [this] { bor::scegliPdf(m_documento, m_contesto); },
-            .fatturaPa = [this] { m_contesto.navigatore.mostra(Schermo::Borftepa); }};
+            .fatturaPa = [this] { m_contesto.navigatore.mostra(Schermo::Borftepa); },
+            .fatturaElettronica = [this] { m_contesto.navigatore.mostra(Schermo::Borftel); }};
 }
 
 } // namespace bor

@@ -12,6 +12,7 @@
 #include "document/documento.h"
 #include "document/righeinsospeso.h"
 #include "einvoice/borftepa.h"
+#include "fatturapa/borftel.h"
 #include "posting/borftec.h"
 #include "posting/registrazionicontabili.h"
 #include "register/borfte.h"
@@ -45,6 +46,7 @@ public:
     Borftek& borftek() { return m_borftek; }
     Borftec& borftec() { return m_borftec; }
     Borftepa& borftepa() { return m_borftepa; }
+    Borftel& borftel() { return m_borftel; }
     CustodeBozze& bozze() { return m_bozze; }
     Documento& documento() { return m_documento; }
 
@@ -72,6 +74,7 @@ private:
     RegistrazioniContabili m_registrazioni;
     Borftea m_borftea;
     Borftepa m_borftepa;
+    Borftel m_borftel;
     CustodeBozze m_bozze;
 };
 

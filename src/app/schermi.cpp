@@ -8,6 +8,7 @@
 #include "ui/vistaborftea.h"
 #include "ui/vistaborftec.h"
 #include "ui/vistaborftek.h"
+#include "ui/vistaborftel.h"
 #include "ui/vistaborftem.h"
 #include "ui/vistaborftepa.h"
 #include "ui/vistaborftex.h"
@@ -35,6 +36,7 @@ void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
     aggiungiIntestato(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
     aggiungiIntestato(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
     aggiungiIntestato(Schermo::Borftepa, new VistaBorftepa(modulo.borftepa()));
+    aggiungiIntestato(Schermo::Borftel, new VistaBorftel(modulo.borftel()));
 }
 
 } // namespace bor

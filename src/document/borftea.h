@@ -37,6 +37,7 @@ public:
         Anteprima,
         Testata,
         FatturaPa,
+        FatturaElettronica,
         ScegliPdf,
         ApriPdf
     };
@@ -120,6 +121,7 @@ private:
     void righe();
     void elimina();
     void testata();
+    void fatturaElettronica();
 
     Contesto& m_contesto;
     Documento& m_documento;

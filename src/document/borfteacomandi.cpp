@@ -32,6 +32,8 @@ bool Borftea::abilitato(Comando comando) const {
         return static_cast<bool>(m_comandi.anteprima);
     case Comando::FatturaPa:
         return !nuovo() && aUnUfficio(m_documento) && m_comandi.fatturaPa;
+    case Comando::FatturaElettronica:
+        return !nuovo() && m_comandi.fatturaElettronica;
     case Comando::ScegliPdf:
         return static_cast<bool>(m_comandi.scegliPdf);
     case Comando::ApriPdf:
@@ -64,6 +66,8 @@ void Borftea::esegui(Comando comando) {
         return testata();
     case Comando::FatturaPa:
         return m_comandi.fatturaPa();
+    case Comando::FatturaElettronica:
+        return fatturaElettronica();
     case Comando::ScegliPdf:
         return m_comandi.scegliPdf();
     case Comando::ApriPdf:
@@ -132,6 +136,15 @@ void Borftea::righe() {
 
 void Borftea::testata() {
     m_contesto.navigatore.mostra(Schermo::Borftem);
+}
+
+void Borftea::fatturaElettronica() {
+    if (!modificato())
+        return m_comandi.fatturaElettronica();
+    m_contesto.operatore.messaggio(
+        u"Il documento ha modifiche non ancora registrate, e la fattura elettronica esce dal documento "
+        "registrato. Salvatelo (F10): nel registro F9 apre la fattura elettronica del documento scelto."_s,
+        u"Attenzione"_s, Icona::Esclamazione);
 }
 
 } // namespace bor

@@ -15,6 +15,8 @@ struct ComandiEsterni {
     std::function<void()> scegliPdf;
     /// Opens the data of the electronic invoice.
     std::function<void()> fatturaPa;
+    /// Opens today's electronic invoice of the document as it is stored.
+    std::function<void()> fatturaElettronica;
 };
 
 } // namespace bor

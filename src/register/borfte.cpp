@@ -181,6 +181,11 @@ void Borfte::apriDocumento(int riga) {
         apriRecord(m_elenco.record(riga));
 }
 
+void Borfte::fatturaElettronica(int riga) {
+    if (m_riordino.fermo() && m_elenco.record(riga) > 0)
+        apriRecord(m_elenco.record(riga), Schermo::Borftel);
+}
+
 void Borfte::riapriUltimo() {
     if (!m_riordino.fermo())
         return;
@@ -209,7 +214,7 @@ int Borfte::rigaCorrente() const {
     return m_visua == Visua::DallUltima ? std::max(m_elenco.quante() - 1, 0) : 0;
 }
 
-void Borfte::apriRecord(int record) {
+void Borfte::apriRecord(int record, Schermo schermo) {
     const Fte fte = m_contesto.archivio.fte.leggi(record);
     if (fte.annullata == 1) {
         m_contesto.operatore.messaggio(u"Fattura annullata"_s, titoloAttenzione, Icona::Esclamazione);
@@ -222,7 +227,7 @@ void Borfte::apriRecord(int record) {
     m_documento = {};
     m_documento.recordfattura = record;
     m_documento.recordcliente = fte.cliente;
-    m_contesto.navigatore.mostra(Schermo::Borftea);
+    m_contesto.navigatore.mostra(schermo);
 }
 
 void Borfte::leggiConteggio() {

@@ -46,6 +46,8 @@ public:
     void apri(int riga, Colonna colonna);
     /// Enter on a row: its document.
     void apriDocumento(int riga);
+    /// The electronic invoice of a row's document.
+    void fatturaElettronica(int riga);
     /// The document saved last in this run.
     void riapriUltimo();
     /// Leaves in the list the documents that answer to the text, as `CercaFatture` tells.
@@ -91,7 +93,7 @@ private:
         int colore;
     };
 
-    void apriRecord(int record);
+    void apriRecord(int record, Schermo schermo = Schermo::Borftea);
     void leggiConteggio();
     void caricalista();
     ElencoFatture::Passa filtroScelto();

@@ -105,6 +105,9 @@ void Legami::etichetta(QLabel* etichetta, Leggi leggi) {
 }
 
 void Legami::visibile(QWidget* widget, std::function<bool()> leggi) {
+    // What is not shown takes no room, from the first layout on.
+    if (!leggi())
+        widget->hide();
     altro([widget, leggi] { widget->setVisible(leggi()); });
 }
 

@@ -228,6 +228,10 @@ void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
         3, u"Fattura"_s, u"fattura"_s, u"F2"_s, [this] { m_form.nuovoDocumento(0); }, fermo);
     comando(
         4, u"Nota di credito"_s, u"notacredito"_s, u"F3"_s, [this] { m_form.nuovoDocumento(1); }, fermo);
+    layout->addSpacing(8);
+    comando(
+        8, u"Elettronica"_s, u"elettronica"_s, u"F9"_s,
+        [this] { m_form.fatturaElettronica(m_elenco->currentIndex().row()); }, fermo);
     comando(5, u"Per data"_s, u"perdata"_s, u"F7"_s, per(TipoRiordino::PerData), scelta);
     comando(6, u"Per protocollo"_s, u"perprotocollo"_s, u"F8"_s, per(TipoRiordino::PerProtocollo), scelta);
     comando(7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, per(TipoRiordino::PerNumero), scelta);

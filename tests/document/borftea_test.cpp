@@ -57,15 +57,35 @@ protected:
                  documento,
                  registrazioni,
                  sospese,
-                 {.stampa = {}, .anteprima = {}, .scegliPdf = {}, .fatturaPa = [] {}}};
+                 {.stampa = {},
+                  .anteprima = {},
+                  .scegliPdf = {},
+                  .fatturaPa = [] {},
+                  .fatturaElettronica = [this] { ++fattureElettroniche; }}};
+    int fattureElettroniche = 0; ///< times that the electronic invoice was asked for
     bool stampato = true;
-    Borftea conStampa{
-        contesto.contesto,
-        documento,
-        registrazioni,
-        sospese,
-        {.stampa = [this] { return stampato; }, .anteprima = {}, .scegliPdf = {}, .fatturaPa = {}}};
+    Borftea conStampa{contesto.contesto,
+                      documento,
+                      registrazioni,
+                      sospese,
+                      {.stampa = [this] { return stampato; },
+                       .anteprima = {},
+                       .scegliPdf = {},
+                       .fatturaPa = {},
+                       .fatturaElettronica = {}}};
 };
+
+TEST_F(DocumentForm, LaFatturaElettronicaEsceSoloDalDocumentoRegistrato) {
+    nuovo();
+    EXPECT_FALSE(form.abilitato(Comando::FatturaElettronica));
+    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    form.esegui(Comando::FatturaElettronica);
+    EXPECT_EQ(fattureElettroniche, 1);
+    form.cambia(u"8"_s, &Estremi::numero);
+    form.esegui(Comando::FatturaElettronica);
+    EXPECT_EQ(fattureElettroniche, 1);
+    EXPECT_TRUE(testi().last().contains(u"modifiche non ancora registrate"_s));
+}
 
 TEST_F(DocumentForm, NuovoDocumento_NumeriDateECliente) {
     azienda.documento(documentoDi(cliente, u"41"_s, 10, 2.2));

@@ -172,6 +172,11 @@ TEST_F(RegistroTest, ApreDocumentiEPdf) {
     EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftea});
     EXPECT_EQ(documento.recordfattura, 1);
     EXPECT_EQ(documento.recordcliente, cliente);
+    form().fatturaElettronica(1);
+    form().fatturaElettronica(0);
+    EXPECT_EQ(prova().navigatore.mostrati, (QList{Schermo::Borftea, Schermo::Borftel}))
+        << "a deleted document has none";
+    EXPECT_EQ(documento.recordfattura, 1);
 }
 
 TEST_F(RegistroTest, UnDocumentoNuovoVuoleUnCliente) {

@@ -44,6 +44,8 @@ protected:
         tasto(finestra, Qt::Key_F10);
     }
     Vista& mostra(Schermo schermo) {
+        if (schermo == Schermo::Borftel)
+            modulo->documento().recordfattura = 1; // only a stored document has one
         finestra.mostra(schermo);
         QApplication::processEvents();
         return vista(schermo);
@@ -51,9 +53,9 @@ protected:
 };
 
 /// In the order of README's table.
-constexpr std::array tuttiGliSchermi = {Schermo::Borfte,  Schermo::Borftem, Schermo::Borsel,
-                                        Schermo::Borftea, Schermo::Borftex, Schermo::Borftek,
-                                        Schermo::Borftec, Schermo::Borftepa};
+constexpr std::array tuttiGliSchermi = {Schermo::Borfte,  Schermo::Borftem,  Schermo::Borsel,
+                                        Schermo::Borftea, Schermo::Borftex,  Schermo::Borftek,
+                                        Schermo::Borftec, Schermo::Borftepa, Schermo::Borftel};
 
 TEST_F(Schermi, OgniComandoHaLaSuaLettera) {
     for (const Schermo schermo : tuttiGliSchermi) {
@@ -290,8 +292,8 @@ TEST_F(Schermi, AncheQtParlaItaliano) {
 TEST_F(Schermi, InCimaSiLeggeDiChiEIlDocumento) {
     modulo->documento().estremi.numero = u"12"_s;
     modulo->documento().testata.cliente.sede = {.ragione1 = u"Alfa & <b>C."_s, .citta = u"Lodi"_s};
-    for (const Schermo schermo :
-         {Schermo::Borftea, Schermo::Borftex, Schermo::Borftek, Schermo::Borftec, Schermo::Borftepa}) {
+    for (const Schermo schermo : {Schermo::Borftea, Schermo::Borftex, Schermo::Borftek, Schermo::Borftec,
+                                  Schermo::Borftepa, Schermo::Borftel}) {
         Vista& vista = mostra(schermo);
         auto* riga = controllo<QLabel>(vista, u"intestazione"_s);
         EXPECT_TRUE(riga->isVisibleTo(&vista));

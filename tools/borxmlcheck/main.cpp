@@ -2,8 +2,11 @@
 // refuse in each file, or one file as a readable page. Ends with the number of files with findings.
 #include "borxmlcheck/resoconto.h"
 #include "common/versione.h"
+#include "ui/aspetto.h"
+#include "ui/finestrafattura.h"
 #include "xmlcheck/vistafattura.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDate>
@@ -12,6 +15,7 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +24,9 @@ namespace {
 void scrivi(std::FILE* dove, const QString& testo) {
     std::fputs(qUtf8Printable(testo), dove);
 }
+
+/// One byte more than is allowed tells that there are too many.
+constexpr qint64 daLeggere = 5'000'001;
 
 /// The files as given; for a folder all its XML files, by name.
 QStringList fileDi(const QStringList& percorsi) {
@@ -45,10 +52,24 @@ bor::resoconto::RilieviFile controlla(const QString& percorso) {
         return {percorso,
                 {{.motivo = u"Il file non si può leggere (%1)."_s.arg(file.errorString()),
                   .rimedio = u"Controllare il nome e i permessi del file."_s}}};
-    // One byte more than is allowed tells that there are too many.
-    constexpr qint64 daLeggere = 5'000'001;
     return {percorso,
             bor::controllaXml(file.read(daLeggere), QFileInfo(percorso).fileName(), QDate::currentDate())};
+}
+
+const QString opzioneMostra = u"mostra"_s;
+const QString opzioneHtml = u"html"_s;
+
+/// A window is asked for, and there is a display for it.
+bool conFinestra(int argc, char** argv) {
+    bool mostra = false;
+    for (int i = 1; i < argc; ++i) {
+        const QString argomento = QString::fromLocal8Bit(argv[i]);
+        if (argomento == u"--"_s + opzioneHtml)
+            return false;
+        mostra = mostra || argomento.startsWith(u"--"_s + opzioneMostra);
+    }
+    return mostra &&
+           (!qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"));
 }
 
 int mostra(const QString& percorso) {
@@ -57,14 +78,22 @@ int mostra(const QString& percorso) {
         scrivi(stderr, u"%1: il file non si può leggere (%2).\n"_s.arg(percorso, file.errorString()));
         return bor::resoconto::esitoErrore;
     }
-    scrivi(stdout, bor::vistaFattura(file.readAll()));
-    return 0;
+    const QByteArray contenuto = file.read(daLeggere);
+    auto* applicazione = qobject_cast<QApplication*>(QCoreApplication::instance());
+    if (!applicazione) {
+        scrivi(stdout, bor::vistaFattura(contenuto));
+        return 0;
+    }
+    bor::applicaAspetto(*applicazione);
+    (new bor::FinestraFattura(contenuto, QFileInfo(percorso).absoluteFilePath()))->show();
+    return QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication applicazione(argc, argv);
+    const std::unique_ptr<QCoreApplication> applicazione(
+        conFinestra(argc, argv) ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
     QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser riga;
     riga.setApplicationDescription(
@@ -73,9 +102,15 @@ int main(int argc, char** argv) {
         u"prima dell'invio. Il codice di uscita è il numero dei file con rilievi (al massimo 254)."_s);
     const QCommandLineOption aiuto({u"h"_s, u"help"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s);
     const QCommandLineOption json(u"json"_s, u"Scrive i rilievi in JSON."_s);
-    const QCommandLineOption pagina(u"mostra"_s, u"Scrive la fattura come pagina HTML da leggere."_s,
-                                    u"file"_s);
-    riga.addOptions({aiuto, json, pagina, {u"version"_s, u"Mostra la versione."_s}});
+    const QCommandLineOption pagina(
+        opzioneMostra,
+        u"Apre la fattura in una finestra, da leggere e stampare; senza uno schermo la scrive come HTML."_s,
+        u"file"_s);
+    riga.addOptions({aiuto,
+                     json,
+                     pagina,
+                     {opzioneHtml, u"Con --mostra: scrive la pagina HTML anche dove c'è uno schermo."_s},
+                     {u"version"_s, u"Mostra la versione."_s}});
     riga.addPositionalArgument(u"file"_s, u"I file XML da controllare, o cartelle di file XML."_s,
                                u"file..."_s);
     if (!riga.parse(QCoreApplication::arguments())) {

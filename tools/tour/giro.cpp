@@ -40,8 +40,13 @@ void Giro::vaiSu(const QString& nome) {
     QApplication::processEvents();
 }
 
+QWidget& Giro::davanti() {
+    QWidget* dialogo = QApplication::activeModalWidget();
+    return dialogo ? *dialogo : m_finestra;
+}
+
 void Giro::tasto(Qt::Key quale, Qt::KeyboardModifiers modi) {
-    QTest::keyClick(m_finestra.windowHandle(), quale, modi);
+    QTest::keyClick(davanti().windowHandle(), quale, modi);
     QApplication::processEvents();
 }
 
@@ -61,7 +66,7 @@ void Giro::riga(const QString& testo) {
 
 void Giro::foto(const QString& nome) {
     QApplication::processEvents();
-    if (!m_finestra.grab().save(m_cartella.filePath(nome + u".png"_s)))
+    if (!davanti().grab().save(m_cartella.filePath(nome + u".png"_s)))
         fallito(u"non si può scrivere "_s + nome);
 }
 

@@ -32,6 +32,8 @@ public:
 
 private:
     QWidget* controllo(const QString& nome);
+    /// The window that the keys go to: a dialog over the program's own, or that one.
+    QWidget& davanti();
     void fallito(const QString& motivo);
 
     Finestra& m_finestra;

@@ -112,6 +112,21 @@ void fatturaPa(Giro& giro) {
     giro.tasto(Qt::Key_Escape);
 }
 
+/// Today's electronic invoice of the document that has the cursor.
+void fatturaElettronica(Giro& giro) {
+    giro.tasto(Qt::Key_F9);
+    giro.foto(u"fattura-elettronica"_s);
+    giro.tasto(Qt::Key_2, Qt::ControlModifier);
+    giro.foto(u"fattura-elettronica-righe"_s);
+    giro.tasto(Qt::Key_3, Qt::ControlModifier);
+    giro.foto(u"fattura-elettronica-azienda"_s);
+    giro.tasto(Qt::Key_F7);
+    giro.foto(u"fattura-elettronica-lettura"_s);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_F10);
+    giro.tasto(Qt::Key_Escape);
+}
+
 } // namespace
 
 void percorri(Giro& giro) {
@@ -123,6 +138,7 @@ void percorri(Giro& giro) {
     fatturaNuova(giro);
     fatturaEsistente(giro);
     fatturaPa(giro);
+    fatturaElettronica(giro);
 }
 
 } // namespace bor::tour
