@@ -20,6 +20,25 @@ BottoneComando* BarraComandi::comando(const QString& nome, const QString& testo,
     return bottone;
 }
 
+BarraProspetti::BarraProspetti(Legami& legami, const QString& nome)
+    : m_legami(legami), m_layout(new QHBoxLayout(this)) {
+    setAccessibleName(nome);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(4);
+}
+
+BottoneComando* BarraProspetti::prospetto(const QString& nome, const QString& testo, const QString& tasto,
+                                          std::function<bool()> inVista,
+                                          const std::function<void()>& mostra) {
+    auto* bottone = new BottoneComando(nome, testo, {}, QKeySequence(tasto));
+    bottone->setCheckable(true);
+    bottone->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_legami.altro([bottone, inVista = std::move(inVista)] { bottone->setChecked(inVista()); });
+    connect(bottone, &QToolButton::clicked, this, mostra);
+    m_layout->addWidget(bottone);
+    return bottone;
+}
+
 void BarraComandi::spazio() {
     constexpr int punti = 24;
     m_layout->insertSpacing(m_layout->count() - 1, punti);

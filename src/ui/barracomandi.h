@@ -26,4 +26,17 @@ private:
     QHBoxLayout* m_layout;
 };
 
+/// The row of buttons above the panels that share one place: that of the panel in view is down.
+class BarraProspetti : public QWidget {
+public:
+    BarraProspetti(Legami& legami, const QString& nome);
+
+    BottoneComando* prospetto(const QString& nome, const QString& testo, const QString& tasto,
+                              std::function<bool()> inVista, const std::function<void()>& mostra);
+
+private:
+    Legami& m_legami;
+    QHBoxLayout* m_layout;
+};
+
 } // namespace bor

@@ -1,5 +1,7 @@
 #include "ui/vistaborftea.h"
 
+#include "ui/barracomandi.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QGridLayout>
@@ -64,19 +66,12 @@ QWidget* VistaBorftea::creaProspetti(const BancoTea& banco) {
 }
 
 QWidget* VistaBorftea::creaScelta() {
-    auto* barra = new QWidget;
-    barra->setAccessibleName(u"Prospetti del documento"_s);
-    auto* linea = new QHBoxLayout(barra);
-    linea->setContentsMargins(0, 0, 0, 0);
-    linea->setSpacing(4);
+    auto* barra = new BarraProspetti(legami, u"Prospetti del documento"_s);
     const auto aggiungi = [&](const QString& nome, const QString& testo, const QString& tasto,
                               Prospetto prospetto) {
-        auto* bottone = new BottoneComando(nome, testo, {}, QKeySequence(tasto));
-        bottone->setCheckable(true);
-        bottone->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        legami.altro([this, bottone, prospetto] { bottone->setChecked(m_form.prospetto() == prospetto); });
-        connect(bottone, &QToolButton::clicked, this, [this, prospetto] { mostraProspetto(prospetto); });
-        linea->addWidget(bottone);
+        barra->prospetto(
+            nome, testo, tasto, [this, prospetto] { return m_form.prospetto() == prospetto; },
+            [this, prospetto] { mostraProspetto(prospetto); });
     };
     aggiungi(u"comando2"_s, u"Dettaglio imponibili"_s, u"Ctrl+1"_s, Prospetto::RigheIva);
     aggiungi(u"comando4"_s, u"Ritenute d'acconto"_s, u"Ctrl+2"_s, Prospetto::Ritenute);

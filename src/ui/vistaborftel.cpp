@@ -53,23 +53,16 @@ QWidget* VistaBorftel::creaStato() {
 }
 
 QWidget* VistaBorftel::creaScelta() {
-    auto* barra = new QWidget;
-    barra->setAccessibleName(u"Prospetti della fattura elettronica"_s);
-    auto* linea = new QHBoxLayout(barra);
-    linea->setContentsMargins(0, 0, 0, 0);
-    linea->setSpacing(4);
+    auto* barra = new BarraProspetti(legami, u"Prospetti della fattura elettronica"_s);
     const auto aggiungi = [&](const QString& nome, const QString& testo, const QString& tasto,
                               Prospetto prospetto) {
-        auto* bottone = new BottoneComando(nome, testo, {}, QKeySequence(tasto));
-        bottone->setCheckable(true);
-        bottone->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        auto* bottone = barra->prospetto(
+            nome, testo, tasto, [this, prospetto] { return m_form.prospetto() == prospetto; },
+            [this, prospetto] { mostraProspetto(prospetto); });
         legami.altro([this, bottone, prospetto] {
-            bottone->setChecked(m_form.prospetto() == prospetto);
             bottone->setStyleSheet(m_form.grave(prospetto) ? u"color: #B00020; font-weight: 600;"_s
                                                            : QString());
         });
-        connect(bottone, &QToolButton::clicked, this, [this, prospetto] { mostraProspetto(prospetto); });
-        linea->addWidget(bottone);
     };
     aggiungi(u"prospetto(0)"_s, u"Destinatario e documento"_s, u"Ctrl+1"_s, Prospetto::Documento);
     aggiungi(u"prospetto(1)"_s, u"Righe e riepilogo"_s, u"Ctrl+2"_s, Prospetto::Righe);
