@@ -1,6 +1,7 @@
 #include "xmlcheck/controlloxml.h"
 
 #include "xmlcheck/controllifattura.h"
+#include "xmlcheck/doppioni.h"
 
 #include <QRegularExpression>
 
@@ -31,9 +32,8 @@ Rilievo rilievoDelNome(const QString& nome, Versione versione) {
         versione == Versione::V10
             ? u"dopo \"_\" viene il campo \"Numero\" della maschera \"Fattura elettronica PA\", il resto dai "
               "quadri azienda del \"Kit Fatture elettroniche PA\"."_s
-            : u"la maschera \"Fattura elettronica\" gliene dà uno buono, con paese e codice dei quadri "
-              u"azienda "
-              "del \"Kit Fatture elettroniche PA\"."_s;
+            : u"la maschera \"Fattura elettronica\" gliene dà uno buono, con paese e codice dei "
+              "quadri azienda del \"Kit Fatture elettroniche PA\"."_s;
     return {.valore = nome,
             .motivo =
                 u"Il nome del file deve essere paese e codice fiscale, \"_\" e da 1 a 5 lettere o cifre, "
@@ -123,7 +123,8 @@ const Nodo* discendente(const Nodo& nodo, std::initializer_list<QStringView> pas
     return n;
 }
 
-std::vector<Rilievo> controllaXml(const QByteArray& contenuto, const QString& nomeFile, QDate oggi) {
+std::vector<Rilievo> controllaXml(const QByteArray& contenuto, const QString& nomeFile, QDate oggi,
+                                  Doppioni* doppioni) {
     LetturaXml lettura = leggiXml(contenuto);
     std::size_t altri = 0;
     const auto versione = lettura.radice ? versioneDi(*lettura.radice) : std::nullopt;
@@ -131,6 +132,8 @@ std::vector<Rilievo> controllaXml(const QByteArray& contenuto, const QString& no
     if (versione) {
         Controllo c{*versione, oggi, lettura.rilievi};
         controllaFattura(c, *lettura.radice);
+        if (doppioni)
+            doppioni->controlla(c, *lettura.radice, nomeFile);
         altri = c.altri;
     } else if (lettura.radice) {
         lettura.rilievi.push_back(

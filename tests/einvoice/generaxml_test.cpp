@@ -100,6 +100,24 @@ TEST(FatturaXml, RigheEsentiConESenzaNatura) {
     confronta(f, u"esenti"_s);
 }
 
+TEST(FatturaXml, CodiciOltreLeRigheDelDocumento) {
+    FatturaDiProva f;
+    f.tabelle.esenzioni[14] = {u"Art. 74"_s, u"Regime del margine"_s.leftJustified(100) + u'4'};
+    f.documento.ddd[0].iva = 26;
+    f.documento.ddd[1] = f.documento.ddd[2] = f.documento.ddd[0];
+    f.documento.ddd[1].iva = 27; // a row of the table without a nature of its own
+    f.documento.ddd[2].iva = 29; // no row
+    f.form.attiva();
+    f.form.genera();
+    QStringList linee;
+    for (const QString& linea : QString::fromLatin1(f.xml()).split(u"</DettaglioLinee>"_s).first(3))
+        linee << linea.section(u"</PrezzoTotale>"_s, 1).simplified();
+    EXPECT_EQ(linee, (QStringList{u"<AliquotaIVA>00.00</AliquotaIVA> <Natura>N5</Natura>"_s,
+                                  u"<AliquotaIVA>00.00</AliquotaIVA> <Natura>N1</Natura>"_s,
+                                  u"<AliquotaIVA>00.00</AliquotaIVA>"_s}));
+    EXPECT_TRUE(f.xml().contains("<ImponibileImporto>300.00</ImponibileImporto>")) << "all under code 1";
+}
+
 TEST(FatturaXml, RateConBonificoEIban) {
     FatturaDiProva f;
     f.tipoPagamento(u'1');

@@ -1,11 +1,13 @@
 // What the check of electronic invoices says of a good file, of files with one fault each, and of garbage.
 #include "common/codicifiscali.h"
 #include "xmlcheck/controlloxml.h"
+#include "xmlcheck/doppioni.h"
 #include "xmlcheck/letturaxml.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QStringList>
 
 #include <algorithm>
 #include <chrono>
@@ -200,6 +202,33 @@ TEST(ControlloXml, IPercorsiDiconoQualeFraLeSorelle) {
     EXPECT_EQ(r.figli[1].percorso(), u"b"_s);
     EXPECT_EQ(r.figli[2].figli[2].figli[0].percorso(), u"a[2]/c[2]/b"_s);
     EXPECT_EQ(r.figli[2].testo, u"x y"_s);
+}
+
+TEST(ControlloXml, DueFattureConLoStessoNumeroNellAnno) {
+    Doppioni doppioni;
+    const auto codici = [&](const QString& nome, const QByteArray& contenuto) {
+        QStringList trovati;
+        for (const Rilievo& r : controllaXml(contenuto, nome, {}, &doppioni))
+            trovati << r.codice + u' ' + r.elemento.section(u'/', -1);
+        return trovati.join(u',');
+    };
+    const QByteArray buona = fatturaBuona();
+    const auto con = [&](const char* prima, const char* dopo) {
+        return QByteArray(buona).replace(prima, dopo);
+    };
+    EXPECT_EQ(codici(u"IT01234567897_1.xml"_s, buona), QString());
+    EXPECT_EQ(codici(u"IT01234567897_2.xml"_s, con("<Data>2015-03-31", "<Data>2015-04-01")),
+              u"00404 Numero"_s);
+    EXPECT_EQ(codici(u"IT01234567897_3.xml"_s, con("<Data>2015-03-31", "<Data>2014-03-31")), QString());
+    EXPECT_EQ(codici(u"IT01234567897_4.xml"_s, con("12/PA", "13/PA")), QString());
+    EXPECT_EQ(codici(u"IT01234567897_5.xml"_s, con("TD01", "TD04")), QString());
+    EXPECT_EQ(codici(u"IT01234567897_6.xml"_s, con("TD01", "TD04")), u"00404 Numero"_s);
+    const qsizetype corpo = buona.indexOf("<FatturaElettronicaBody>");
+    const QByteArray dueVolte =
+        con("12/PA", "14/PA")
+            .insert(corpo,
+                    con("12/PA", "14/PA").mid(corpo, buona.indexOf("</p:FatturaElettronica>") - corpo));
+    EXPECT_EQ(codici(u"IT01234567897_7.xml"_s, dueVolte), u"00409 Numero"_s);
 }
 
 TEST(CodiciFiscali, LeCifreDiControlloTornano) {

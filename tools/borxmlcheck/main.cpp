@@ -4,6 +4,7 @@
 #include "common/versione.h"
 #include "ui/aspetto.h"
 #include "ui/finestrafattura.h"
+#include "xmlcheck/doppioni.h"
 #include "xmlcheck/vistafattura.h"
 
 #include <QApplication>
@@ -46,14 +47,14 @@ QStringList fileDi(const QStringList& percorsi) {
     return file;
 }
 
-bor::resoconto::RilieviFile controlla(const QString& percorso) {
+bor::resoconto::RilieviFile controlla(const QString& percorso, bor::Doppioni& doppioni) {
     QFile file(percorso);
     if (!file.open(QIODevice::ReadOnly))
         return {percorso,
                 {{.motivo = u"Il file non si può leggere (%1)."_s.arg(file.errorString()),
                   .rimedio = u"Controllare il nome e i permessi del file."_s}}};
-    return {percorso,
-            bor::controllaXml(file.read(daLeggere), QFileInfo(percorso).fileName(), QDate::currentDate())};
+    return {percorso, bor::controllaXml(file.read(daLeggere), QFileInfo(percorso).fileName(),
+                                        QDate::currentDate(), &doppioni)};
 }
 
 const QString opzioneMostra = u"mostra"_s;
@@ -130,8 +131,9 @@ int main(int argc, char** argv) {
         return bor::resoconto::esitoErrore;
     }
     bor::resoconto::Resoconto resoconto(riga.isSet(json));
+    bor::Doppioni doppioni;
     for (const QString& percorso : fileDi(riga.positionalArguments()))
-        scrivi(stdout, resoconto.aggiungi(controlla(percorso)));
+        scrivi(stdout, resoconto.aggiungi(controlla(percorso, doppioni)));
     scrivi(stdout, resoconto.chiudi());
     return resoconto.esito();
 }
