@@ -108,6 +108,11 @@ QString decimali(const Cifre& n) {
     return testo;
 }
 
+/// Most numbers of a document: no digit of theirs is beyond the fifteenth.
+bool intero(double x) {
+    return std::fabs(x) < 1e15 && x == std::trunc(x);
+}
+
 QString componi(double x, int posti, QChar punto, bool migliaia) {
     Cifre n = cifreDi(x);
     arrotondaCifre(n, posti);
@@ -157,8 +162,7 @@ double valorevirgola(QStringView testo) {
 }
 
 QString testoDecimale(double x) {
-    // Most numbers of a document are whole.
-    if (std::fabs(x) < 1e15 && x == std::trunc(x))
+    if (intero(x))
         return QString::number(static_cast<qint64>(x));
     const Cifre n = cifreDi(x);
     if (n.cifre.isEmpty())
@@ -185,6 +189,8 @@ QString testoStampa(double x) {
 }
 
 QString testoFisso(double x, int decimaliVoluti) {
+    if (intero(x) && decimaliVoluti > 0)
+        return QString::number(static_cast<qint64>(x)) + u'.' + QString(decimaliVoluti, u'0');
     return componi(x, decimaliVoluti, u'.', false);
 }
 

@@ -11,15 +11,23 @@ namespace bor {
 
 class ElementiXml {
 public:
-    explicit ElementiXml(QXmlStreamWriter& scrittore) : m_scrittore(scrittore) {}
+    /// `testo` is what the writer writes into.
+    ElementiXml(QXmlStreamWriter& scrittore, QString& testo) : m_scrittore(scrittore), m_testo(testo) {}
 
     template <class F>
     void blocco(const QString& nome, F contenuto) {
+        aCapo();
         m_scrittore.writeStartElement(nome);
+        ++m_livello;
         contenuto();
+        --m_livello;
+        aCapo();
         m_scrittore.writeEndElement();
     }
-    void testo(const QString& nome, const QString& valore) { m_scrittore.writeTextElement(nome, valore); }
+    void testo(const QString& nome, const QString& valore) {
+        aCapo();
+        m_scrittore.writeTextElement(nome, valore);
+    }
     /// Only when there is something.
     void sePieno(const QString& nome, const QString& valore) {
         if (!valore.isEmpty())
@@ -35,7 +43,15 @@ public:
     }
 
 private:
+    /// The writer's own indent takes as long as all the rest. No characters at all still end a start tag.
+    void aCapo() {
+        m_scrittore.writeCharacters(QString());
+        m_testo.append(u'\n').resize(m_testo.size() + 2 * m_livello, u' ');
+    }
+
     QXmlStreamWriter& m_scrittore;
+    QString& m_testo;
+    int m_livello = 1; ///< elements still open
 };
 
 void scriviTestata(ElementiXml& xml, const FatturaElettronica& f);

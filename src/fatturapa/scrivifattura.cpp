@@ -30,16 +30,12 @@ QString testoDecimali(double x, int minimi, int massimi) {
 }
 
 QByteArray scriviFattura(const FatturaElettronica& f) {
-    QByteArray bytes;
-    bytes.reserve(64 * 1024);
-    QXmlStreamWriter scrittore(&bytes);
-    scrittore.setAutoFormatting(true);
-    scrittore.setAutoFormattingIndent(2);
-    scrittore.writeStartDocument();
+    QString testo;
+    QXmlStreamWriter scrittore(&testo);
     scrittore.writeNamespace(spazioFattura.toString(), u"p"_s);
     scrittore.writeStartElement(spazioFattura.toString(), u"FatturaElettronica"_s);
     scrittore.writeAttribute(u"versione"_s, f.trasmissione.pubblica ? u"FPA12"_s : u"FPR12"_s);
-    ElementiXml xml(scrittore);
+    ElementiXml xml(scrittore, testo);
     scriviTestata(xml, f);
     xml.blocco(u"FatturaElettronicaBody"_s, [&] {
         scriviDatiGenerali(xml, f);
@@ -48,9 +44,9 @@ QByteArray scriviFattura(const FatturaElettronica& f) {
         if (f.allegato)
             scriviAllegato(xml, *f.allegato);
     });
-    scrittore.writeEndElement();
+    scrittore.writeCharacters(u"\n"_s);
     scrittore.writeEndDocument();
-    return bytes;
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + testo.toUtf8();
 }
 
 } // namespace bor

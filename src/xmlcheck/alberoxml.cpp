@@ -3,10 +3,8 @@
 #include "xmlcheck/riparazionexml.h"
 
 #include <QStringList>
-#include <libxml/tree.h>
 
 #include <algorithm>
-#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
@@ -14,113 +12,113 @@ namespace bor {
 
 namespace {
 
-QString testoDi(const xmlChar* caratteri) {
-    return QString::fromUtf8(reinterpret_cast<const char*>(caratteri));
+bool bianchi(const std::string& testo) {
+    return testo.find_first_not_of(" \t\r\n") == std::string::npos;
 }
 
-class Copiatore {
-public:
-    explicit Copiatore(std::vector<Rilievo>* segnati) : m_segnati(segnati) {}
-
-    void copia(const xmlNode* sorgente, Nodo& nodo) {
-        nodo.nome = nome(sorgente).testo;
-        nodo.spazio = spazio(sorgente->ns);
-        nodo.riga = static_cast<int>(xmlGetLineNo(sorgente));
-        const std::size_t elementi = xmlChildElementCount(const_cast<xmlNode*>(sorgente));
-        copiaTesto(sorgente, nodo, elementi > 0);
-        for (const xmlAttr* a = sorgente->properties; a; a = a->next)
-            nodo.attributi.push_back(
-                {testoDi(a->name), spazio(a->ns), a->children ? testoDi(a->children->content) : QString()});
-        if (m_segnati)
-            raccogliSegni(nodo);
-        nodo.figli.resize(elementi);
-        if (elementi > 0)
-            copiaFigli(sorgente, nodo);
-    }
-
-private:
-    /// The parser keeps each name once: it is made a text once, and its address tells it from the others.
-    struct Nome {
-        QString testo;
-        const Nodo* padre = nullptr; ///< the element whose children are being counted
-        int volte = 0;
-    };
-
-    Nome& nome(const xmlNode* nodo) {
-        Nome& trovato = m_nomi[nodo->name];
-        if (trovato.testo.isEmpty())
-            trovato.testo = testoDi(nodo->name);
-        return trovato;
-    }
-
-    QString spazio(const xmlNs* spazio) {
-        if (!spazio)
-            return {};
-        QString& trovato = m_spazi[spazio];
-        if (trovato.isEmpty())
-            trovato = testoDi(spazio->href);
-        return trovato;
-    }
-
-    static void copiaTesto(const xmlNode* sorgente, Nodo& nodo, bool fraElementi) {
-        for (const xmlNode* n = sorgente->children; n; n = n->next)
-            if ((n->type == XML_TEXT_NODE || n->type == XML_CDATA_SECTION_NODE) &&
-                !(fraElementi && xmlIsBlankNode(n)))
-                nodo.testo += testoDi(n->content);
-    }
-
-    /// Sisters of one name get their numbers in two passes: looking at all of them for each takes minutes on
-    /// a hostile file.
-    void copiaFigli(const xmlNode* sorgente, Nodo& nodo) {
-        const auto perOgniFiglio = [&](auto fai) {
-            std::size_t posto = 0;
-            for (const xmlNode* n = sorgente->children; n; n = n->next)
-                if (n->type == XML_ELEMENT_NODE)
-                    fai(n, nodo.figli[posto++]);
-        };
-        perOgniFiglio([&](const xmlNode* n, Nodo& figlio) {
-            Nome& suo = nome(n);
-            if (suo.padre != &nodo)
-                suo = {suo.testo, &nodo, 0};
-            figlio.numero = ++suo.volte;
-            figlio.padre = &nodo;
-        });
-        perOgniFiglio([&](const xmlNode* n, Nodo& figlio) {
-            if (nome(n).volte == 1)
-                figlio.numero = 0;
-        });
-        perOgniFiglio([&](const xmlNode* n, Nodo& figlio) { copia(n, figlio); });
-    }
-
-    void raccogliSegni(Nodo& nodo) {
-        std::vector<Rilievo> trovati;
-        for (const Segno segno : segni) {
-            const QChar c(static_cast<char16_t>(segno));
-            if (!nodo.testo.contains(c))
-                continue;
-            nodo.testo.remove(c);
-            trovati.push_back(rilievoDelSegno(segno));
-        }
-        for (Rilievo& r : trovati) {
-            r.elemento = nodo.percorso();
-            r.riga = nodo.riga;
-            r.valore = nodo.testo.trimmed();
-            r.codice = u"00200"_s;
-            m_segnati->push_back(std::move(r));
-        }
-    }
-
-    std::vector<Rilievo>* m_segnati;
-    std::unordered_map<const xmlChar*, Nome> m_nomi;
-    std::unordered_map<const xmlNs*, QString> m_spazi;
-};
+const Nodo* conta(const Nodo& nodo, int& ancora) {
+    if (ancora-- == 0)
+        return &nodo;
+    for (const Nodo& figlio : nodo.figli)
+        if (const Nodo* trovato = conta(figlio, ancora))
+            return trovato;
+    return nullptr;
+}
 
 } // namespace
 
-std::unique_ptr<Nodo> copiaAlbero(const xmlNode* radice, std::vector<Rilievo>* segnati) {
-    auto copia = std::make_unique<Nodo>();
-    Copiatore(segnati).copia(radice, *copia);
-    return copia;
+void AlberoXml::apri(const char* nome, const char* spazio, int riga) {
+    if (!m_aperti.empty() && bianchi(m_aperti.back().testo))
+        m_aperti.back().testo.clear();
+    m_aperti.push_back(
+        {{.nome = parola(nome), .spazio = parola(spazio), .testo = {}, .riga = riga}, m_elementi++, {}});
+}
+
+void AlberoXml::attributo(const char* nome, const char* spazio, const QString& valore) {
+    m_aperti.back().nodo.attributi.push_back({parola(nome), parola(spazio), valore});
+}
+
+void AlberoXml::testo(const char* caratteri, std::size_t quanti) {
+    if (!m_aperti.empty())
+        m_aperti.back().testo.append(caratteri, quanti);
+}
+
+/// An element's children stay where they are once it is closed; what they point to is set then.
+void AlberoXml::chiudi() {
+    if (m_aperti.empty())
+        return;
+    Aperto chiuso = std::move(m_aperti.back());
+    m_aperti.pop_back();
+    Nodo& nodo = chiuso.nodo;
+    if (nodo.figli.empty() || !bianchi(chiuso.testo))
+        nodo.testo = QString::fromStdString(chiuso.testo);
+    numeraFigli(nodo);
+    for (Nodo& figlio : nodo.figli)
+        for (Nodo& nipote : figlio.figli)
+            nipote.padre = &figlio;
+    if (!m_aperti.empty()) {
+        m_aperti.back().nodo.figli.push_back(std::move(nodo));
+        return;
+    }
+    m_radice = std::make_unique<Nodo>(std::move(nodo));
+    for (Nodo& figlio : m_radice->figli)
+        figlio.padre = m_radice.get();
+}
+
+std::unique_ptr<Nodo> AlberoXml::albero() {
+    while (!m_aperti.empty())
+        chiudi();
+    return std::move(m_radice);
+}
+
+QString AlberoXml::parola(const char* utf8) {
+    if (!utf8)
+        return {};
+    QString& trovata = m_parole[utf8];
+    if (trovata.isNull())
+        trovata = QString::fromUtf8(utf8);
+    return trovata;
+}
+
+/// In one go: looking at all sisters for each takes minutes on a hostile file.
+void AlberoXml::numeraFigli(Nodo& nodo) {
+    if (nodo.figli.size() < 2)
+        return;
+    for (Nodo& figlio : nodo.figli) {
+        Sorelle& sorelle = m_sorelle[figlio.nome.constData()];
+        if (++sorelle.quante == 1) {
+            sorelle.prima = &figlio;
+            continue;
+        }
+        sorelle.prima->numero = 1;
+        figlio.numero = sorelle.quante;
+    }
+    for (const Nodo& figlio : nodo.figli)
+        m_sorelle[figlio.nome.constData()] = {};
+}
+
+const Nodo* nodoDiOrdine(const Nodo& radice, int ordine) {
+    return ordine < 0 ? nullptr : conta(radice, ordine);
+}
+
+void raccogliSegni(Nodo& nodo, std::vector<Rilievo>& rilievi) {
+    std::vector<Rilievo> trovati;
+    for (const Segno segno : segni) {
+        const QChar c(static_cast<char16_t>(segno));
+        if (!nodo.testo.contains(c))
+            continue;
+        nodo.testo.remove(c);
+        trovati.push_back(rilievoDelSegno(segno));
+    }
+    for (Rilievo& r : trovati) {
+        r.elemento = nodo.percorso();
+        r.riga = nodo.riga;
+        r.valore = nodo.testo.trimmed();
+        r.codice = u"00200"_s;
+        rilievi.push_back(std::move(r));
+    }
+    for (Nodo& figlio : nodo.figli)
+        raccogliSegni(figlio, rilievi);
 }
 
 const Nodo* Nodo::figlio(QStringView nomeFiglio) const {

@@ -1,4 +1,5 @@
 // What each form of the layout takes, and how it is told.
+#include "common/numeri.h"
 #include "xmlcheck/tracciato.h"
 
 #include <QDate>
@@ -145,7 +146,7 @@ bool bic(QStringView testo) {
 }
 
 bool percento(const RigaTracciato& riga, QStringView testo) {
-    return decimale(riga, testo, 3, false) && testo.toDouble() <= 100;
+    return decimale(riga, testo, 3, false) && bor::valore(testo) <= 100;
 }
 
 /// Digits of a quantity before the point: the older format gives more of them, and two decimals.

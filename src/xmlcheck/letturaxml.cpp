@@ -3,7 +3,6 @@
 #include "xmlcheck/alberoxml.h"
 #include "xmlcheck/riparazionexml.h"
 
-#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
@@ -43,7 +42,7 @@ private:
 struct ErroreSintassi {
     int codice = 0;
     int riga = 0;
-    const xmlNode* nodo = nullptr; ///< where the parser stood; lives as long as the document
+    int elemento = -1; ///< where the parser stood: number of the element in the order of the file
     QString aperto;
     QString chiuso;
 };
@@ -51,6 +50,8 @@ struct ErroreSintassi {
 /// One run of the parser.
 struct Analisi {
     const Limite& limite;
+    bool soloIntero; ///< a file with an error is of no use
+    AlberoXml albero;
     std::vector<ErroreSintassi> errori;
     int elementi = 0;
     bool interrotta = false;
@@ -59,40 +60,17 @@ struct Analisi {
 const QString rigenera = u"Generare di nuovo il file, o chiederlo di nuovo a chi lo ha emesso."_s;
 const QString codiceForma = u"00200"_s;
 
-QString testoDi(const void* caratteri) {
-    return QString::fromUtf8(static_cast<const char*>(caratteri));
+const char* utf8(const void* caratteri) {
+    return static_cast<const char*>(caratteri);
 }
 
-bool stessoNome(const xmlNode* a, const xmlNode* b) {
-    return a->type == XML_ELEMENT_NODE && b->type == XML_ELEMENT_NODE && xmlStrEqual(a->name, b->name);
+QString percorsoDi(const Nodo* radice, int elemento) {
+    const Nodo* nodo = radice ? nodoDiOrdine(*radice, elemento) : nullptr;
+    return nodo ? nodo->percorso() : QString();
 }
 
-QString conNumero(const QString& nome, int numero) {
-    return u"%1[%2]"_s.arg(nome).arg(numero);
-}
-
-/// Name, with its number from 1 where it has sisters of that name.
-QString passo(const xmlNode* nodo) {
-    int prima = 0;
-    int dopo = 0;
-    for (const xmlNode* n = nodo->prev; n; n = n->prev)
-        prima += stessoNome(n, nodo) ? 1 : 0;
-    for (const xmlNode* n = nodo->next; n && dopo == 0; n = n->next)
-        dopo += stessoNome(n, nodo) ? 1 : 0;
-    const QString nome = testoDi(nodo->name);
-    return prima + dopo > 0 ? conNumero(nome, prima + 1) : nome;
-}
-
-QString percorsoDi(const xmlNode* nodo) {
-    QString percorso;
-    for (; nodo && nodo->type == XML_ELEMENT_NODE && nodo->parent && nodo->parent->type == XML_ELEMENT_NODE;
-         nodo = nodo->parent)
-        percorso = percorso.isEmpty() ? passo(nodo) : passo(nodo) + u'/' + percorso;
-    return percorso;
-}
-
-Rilievo rilievoDi(const ErroreSintassi& errore) {
-    Rilievo r{.elemento = percorsoDi(errore.nodo), .riga = errore.riga, .codice = codiceForma};
+Rilievo rilievoDi(const ErroreSintassi& errore, const Nodo* radice) {
+    Rilievo r{.elemento = percorsoDi(radice, errore.elemento), .riga = errore.riga, .codice = codiceForma};
     switch (errore.codice) {
     case XML_ERR_TAG_NAME_MISMATCH:
         r.valore = u"</%1>"_s.arg(errore.chiuso);
@@ -116,13 +94,13 @@ Rilievo rilievoDi(const ErroreSintassi& errore) {
 }
 
 /// One finding for each wrong end tag, but only the first of the other errors, from which the rest follow.
-std::vector<Rilievo> rilieviDi(const std::vector<ErroreSintassi>& errori) {
+std::vector<Rilievo> rilieviDi(const std::vector<ErroreSintassi>& errori, const Nodo* radice) {
     std::vector<Rilievo> rilievi;
     bool altri = false;
     for (const ErroreSintassi& errore : errori) {
         const bool chiusura = errore.codice == XML_ERR_TAG_NAME_MISMATCH;
         if (chiusura || !altri)
-            rilievi.push_back(rilievoDi(errore));
+            rilievi.push_back(rilievoDi(errore, radice));
         altri = altri || !chiusura;
     }
     return rilievi;
@@ -133,41 +111,70 @@ struct Contesti {
     void operator()(xmlDoc* documento) const { xmlFreeDoc(documento); }
 };
 
-void raccogliErrore(void* chi, xmlError* errore) {
-    const auto* contesto = static_cast<const xmlParserCtxt*>(chi);
-    auto& errori = static_cast<Analisi*>(contesto->_private)->errori;
-    if (errore->level != XML_ERR_WARNING && errori.size() < erroriMassimi)
-        errori.push_back(
-            {errore->code, errore->line, contesto->node, testoDi(errore->str1), testoDi(errore->str2)});
+Analisi& analisiDi(void* contesto) {
+    return *static_cast<Analisi*>(static_cast<xmlParserCtxt*>(contesto)->_private);
 }
 
-/// Stops the parser at the element where its time is over.
-void iniziaElemento(void* chi, const xmlChar* nome, const xmlChar* prefisso, const xmlChar* spazio,
-                    int quantiSpazi, const xmlChar** spazi, int quantiAttributi, int predefiniti,
-                    const xmlChar** attributi) {
+void raccogliErrore(void* contesto, xmlError* errore) {
+    Analisi& analisi = analisiDi(contesto);
+    if (errore->level != XML_ERR_WARNING && analisi.errori.size() < erroriMassimi)
+        analisi.errori.push_back({errore->code, errore->line, analisi.albero.aperto(),
+                                  QString::fromUtf8(errore->str1), QString::fromUtf8(errore->str2)});
+    if (analisi.soloIntero && !analisi.errori.empty())
+        xmlStopParser(static_cast<xmlParserCtxt*>(contesto));
+}
+
+/// The parser gives each attribute as name, prefix, namespace, and both ends of its value, in which "&" is
+/// still written by its number.
+void aggiungiAttributi(AlberoXml& albero, const xmlChar** attributi, int quanti) {
+    constexpr int passo = 5;
+    for (int i = 0; i < quanti * passo; i += passo) {
+        const QByteArrayView valore(utf8(attributi[i + 3]), utf8(attributi[i + 4]));
+        albero.attributo(utf8(attributi[i]), utf8(attributi[i + 2]),
+                         QString::fromUtf8(valore).replace(u"&#38;"_s, u"&"_s));
+    }
+}
+
+/// Stops the parser where its time is over.
+void iniziaElemento(void* chi, const xmlChar* nome, const xmlChar*, const xmlChar* spazio, int,
+                    const xmlChar**, int quantiAttributi, int, const xmlChar** attributi) {
     constexpr int ogniTanti = 64; // asking for the time takes longer than an element
     auto* contesto = static_cast<xmlParserCtxt*>(chi);
-    auto& analisi = *static_cast<Analisi*>(contesto->_private);
+    Analisi& analisi = analisiDi(chi);
     if (analisi.elementi++ % ogniTanti == 0 && analisi.limite.passato()) {
         analisi.interrotta = true;
         xmlStopParser(contesto);
         return;
     }
-    xmlSAX2StartElementNs(chi, nome, prefisso, spazio, quantiSpazi, spazi, quantiAttributi, predefiniti,
-                          attributi);
+    analisi.albero.apri(utf8(nome), utf8(spazio), contesto->input->line);
+    aggiungiAttributi(analisi.albero, attributi, quantiAttributi);
+}
+
+void fineElemento(void* chi, const xmlChar*, const xmlChar*, const xmlChar*) {
+    analisiDi(chi).albero.chiudi();
+}
+
+void testo(void* chi, const xmlChar* caratteri, int quanti) {
+    analisiDi(chi).albero.testo(utf8(caratteri), static_cast<std::size_t>(quanti));
 }
 
 /// Parses without network and without replacing entities, recovering where it can.
-std::unique_ptr<xmlDoc, Contesti> analizza(const QByteArray& utf8, Analisi& analisi) {
+void analizza(const QByteArray& contenuto, Analisi& analisi) {
     const std::unique_ptr<xmlParserCtxt, Contesti> contesto(xmlNewParserCtxt());
     if (!contesto)
-        return nullptr;
+        return;
     contesto->_private = &analisi;
-    contesto->sax->serror = raccogliErrore;
-    contesto->sax->startElementNs = iniziaElemento;
-    return std::unique_ptr<xmlDoc, Contesti>(
-        xmlCtxtReadMemory(contesto.get(), utf8.constData(), static_cast<int>(utf8.size()), nullptr, "UTF-8",
-                          XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_BIG_LINES));
+    xmlSAXHandler& sax = *contesto->sax;
+    sax.serror = raccogliErrore;
+    sax.startElementNs = iniziaElemento;
+    sax.endElementNs = fineElemento;
+    sax.characters = sax.ignorableWhitespace = sax.cdataBlock = testo;
+    sax.comment = nullptr;
+    sax.processingInstruction = nullptr;
+    sax.reference = nullptr;
+    const std::unique_ptr<xmlDoc, Contesti> vuoto(
+        xmlCtxtReadMemory(contesto.get(), contenuto.constData(), static_cast<int>(contenuto.size()), nullptr,
+                          "UTF-8", XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_BIG_LINES));
 }
 
 Rilievo nonLetto(const QString& motivo) {
@@ -213,13 +220,12 @@ std::optional<Rilievo> troppo(const QByteArray& contenuto) {
 bool leggiIntero(const QByteArray& contenuto, const Limite& limite, LetturaXml& lettura) {
     if (!diUtf8(contenuto))
         return false;
-    Analisi analisi{limite, {}};
-    const auto documento = analizza(contenuto, analisi);
+    Analisi analisi{.limite = limite, .soloIntero = true};
+    analizza(contenuto, analisi);
     if (analisi.interrotta)
         lettura.rilievi.push_back(tempoScaduto());
-    else if (const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr;
-             radice && analisi.errori.empty())
-        lettura.radice = copiaAlbero(radice, nullptr);
+    else if (analisi.errori.empty())
+        lettura.radice = analisi.albero.albero();
     return analisi.interrotta || lettura.radice;
 }
 
@@ -229,15 +235,16 @@ void leggiRiparato(const QByteArray& contenuto, const Limite& limite, LetturaXml
         lettura.rilievi.push_back(nonLetto(u"Il file ha troppi caratteri errati e non è stato letto."_s));
         return;
     }
-    Analisi analisi{limite, {}};
-    const auto documento = analizza(riparato.testo.toUtf8(), analisi);
+    Analisi analisi{.limite = limite, .soloIntero = false};
+    analizza(riparato.testo.toUtf8(), analisi);
     if (analisi.interrotta) {
         lettura.rilievi.push_back(tempoScaduto());
         return;
     }
-    lettura.rilievi = rilieviDi(analisi.errori);
-    if (const xmlNode* radice = documento ? xmlDocGetRootElement(documento.get()) : nullptr)
-        lettura.radice = copiaAlbero(radice, &lettura.rilievi);
+    lettura.radice = analisi.albero.albero();
+    lettura.rilievi = rilieviDi(analisi.errori, lettura.radice.get());
+    if (lettura.radice)
+        raccogliSegni(*lettura.radice, lettura.rilievi);
 }
 
 } // namespace
