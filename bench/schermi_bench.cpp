@@ -120,6 +120,7 @@ void Pavimento_CampoDaSolo(benchmark::State& stato) {
     QWidget finestra;
     auto* layout = new QVBoxLayout(&finestra);
     auto* campo = new QLineEdit;
+    campo->setFixedWidth(120);
     layout->addWidget(campo);
     finestra.resize(1280, 720);
     finestra.show();
