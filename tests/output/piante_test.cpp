@@ -238,6 +238,16 @@ TEST_F(VociTest, DiUnaFattura) {
                                              u"FATTURA"_s, u"n1"_s, u"n2"_s}));
 }
 
+TEST_F(VociTest, CampiMaiScrittiNonSonoQuadratini) {
+    documento.cliente = vuoto<Cli>();
+    documento.cliente.abi.set(u"01234");
+    for (const Pianta* pianta : {&piantaFattura(), &piantaParcella()}) {
+        const QString tutti = testi(*pianta, 1, 99).join(u'|');
+        EXPECT_TRUE(tutti.contains(u"|.01234..|"_s)) << qPrintable(tutti);
+        EXPECT_FALSE(tutti.contains(QChar::Null));
+    }
+}
+
 TEST_F(VociTest, DiUnaParcella) {
     documento.coppia.fte.parcella = 1;
     documento.testata.pratica.descrizione = {u"d1"_s, u"d2"_s, u"d3"_s, u"d4"_s};
