@@ -72,10 +72,10 @@ QString rilievoInBreve(const Rilievo& rilievo) {
     QStringList parti;
     if (const auto trovata = linea.match(rilievo.elemento); trovata.hasMatch())
         parti << u"Riga %1:"_s.arg(trovata.captured(1));
+    if (rilievo.gravita == Gravita::Avviso)
+        parti << u"Avviso."_s;
     if (!rilievo.codice.isEmpty())
-        parti << u"Scarto %1."_s.arg(rilievo.codice);
-    else if (rilievo.gravita == Gravita::Avviso)
-        parti << u"Avviso:"_s;
+        parti << scartoDi(rilievo);
     parti << rilievo.motivo;
     if (!rilievo.valore.isEmpty())
         parti << u"(\"%1\")"_s.arg(rilievo.valore.left(60));

@@ -8,6 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
+QString scartoDi(const Rilievo& rilievo) {
+    if (rilievo.codice.isEmpty())
+        return {};
+    const bool avviso = rilievo.gravita == Gravita::Avviso;
+    return (avviso ? u"Possibile scarto %1."_s : u"Scarto %1."_s).arg(rilievo.codice);
+}
+
 QString testoRilievo(const Rilievo& rilievo) {
     QString testo = rilievo.gravita == Gravita::Avviso ? u"Avviso. "_s : QString();
     if (rilievo.riga > 0)
@@ -16,7 +23,7 @@ QString testoRilievo(const Rilievo& rilievo) {
     if (!rilievo.valore.isEmpty())
         testo += u"  Valore: "_s + rilievo.valore + u'\n';
     if (!rilievo.codice.isEmpty())
-        testo += u"  Scarto %1.\n"_s.arg(rilievo.codice);
+        testo += u"  "_s + scartoDi(rilievo) + u'\n';
     return testo + u"  "_s + rilievo.motivo + u"\n  "_s + rilievo.rimedio + u'\n';
 }
 

@@ -24,6 +24,9 @@ struct Rilievo {
     Gravita gravita = Gravita::Errore;
 };
 
+/// "Scarto 00423.", of a hint "Possibile scarto 00301."; empty without a code.
+QString scartoDi(const Rilievo& rilievo);
+
 /// The finding as a paragraph of a few lines.
 QString testoRilievo(const Rilievo& rilievo);
 

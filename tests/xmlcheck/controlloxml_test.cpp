@@ -231,6 +231,17 @@ TEST(ControlloXml, DueFattureConLoStessoNumeroNellAnno) {
     EXPECT_EQ(codici(u"IT01234567897_7.xml"_s, dueVolte), u"00409 Numero"_s);
 }
 
+TEST(ControlloXml, UnAvvisoSiDiceAvviso) {
+    QByteArray contenuto = fatturaBuona();
+    contenuto.replace("RSSMRA80A01H501U", "RSSMRA80A01H501X").replace("12/PA", "PA");
+    const auto rilievi = controllaXml(contenuto, nomeBuono);
+    ASSERT_EQ(rilievi.size(), 2U) << tutti(rilievi);
+    EXPECT_EQ(contoRilievi(rilievi), u"1 rilievo, 1 avviso"_s);
+    EXPECT_TRUE(testoRilievo(rilievi[0]).startsWith(u"Avviso. Riga"_s));
+    EXPECT_TRUE(testoRilievo(rilievi[0]).contains(u"Possibile scarto 00302."_s));
+    EXPECT_TRUE(testoRilievo(rilievi[1]).contains(u"  Scarto 00425."_s));
+}
+
 TEST(CodiciFiscali, LeCifreDiControlloTornano) {
     EXPECT_TRUE(partitaIvaValida(u"01234567897"));
     EXPECT_FALSE(partitaIvaValida(u"01234567898"));
