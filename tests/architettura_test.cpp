@@ -16,12 +16,13 @@ using Cartelle = std::set<std::string>;
 
 /// What each program of tools/ may include.
 const std::map<std::string, Cartelle> frecceStrumenti = {
+    {"borcopia", {"common", "archive", "borverifica"}},
     {"borcrea", {"common", "archive", "document", "posting"}},
     {"borverifica", {"common", "archive", "document"}},
     {"borefattura", {"common", "archive", "document", "xmlcheck", "fatturapa", "borxmlcheck"}},
     {"borxmlcheck", {"common", "xmlcheck", "ui"}},
     {"borxpdf", {"common"}},
-    {"lanciatore", {"common", "archive", "ui"}},
+    {"lanciatore", {"common", "archive", "borcopia", "ui"}},
     {"tour", {"common", "ui", "app", "borcrea"}},
 };
 

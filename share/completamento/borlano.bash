@@ -12,6 +12,7 @@ _borlano() {
     local parola=${COMP_WORDS[COMP_CWORD]} prima=${COMP_WORDS[COMP_CWORD - 1]} opzioni unita="" i
     case ${COMP_WORDS[0]##*/} in
     lanciatore) opzioni="--unita --azienda --dimostrazione --help --version" ;;
+    borcopia) opzioni="--unita --azienda --in --conserva --verifica --ripristina --elenca --avanzamento --aiuto --version" ;;
     borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --version" ;;
     borverifica) opzioni="--unita --azienda --json --aiuto --version" ;;
     borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --version" ;;
@@ -23,9 +24,9 @@ _borlano() {
         [ "${COMP_WORDS[i]}" = --unita ] && unita=${COMP_WORDS[i + 1]}
     done
     case $prima in
-    --unita | --sorgente | --cartella) mapfile -t COMPREPLY < <(compgen -d -- "$parola") ;;
+    --unita | --sorgente | --cartella | --in) mapfile -t COMPREPLY < <(compgen -d -- "$parola") ;;
     --azienda) mapfile -t COMPREPLY < <(compgen -W "$(_borlano_aziende "$unita")" -- "$parola") ;;
-    --documenti | --documento) COMPREPLY=() ;;
+    --documenti | --documento | --conserva) COMPREPLY=() ;;
     *)
         if [[ $parola == -* ]]; then
             mapfile -t COMPREPLY < <(compgen -W "$opzioni" -- "$parola")
@@ -35,4 +36,4 @@ _borlano() {
         ;;
     esac
 }
-complete -o filenames -F _borlano lanciatore borcrea borverifica borefattura borxmlcheck borxpdf
+complete -o filenames -F _borlano lanciatore borcopia borcrea borverifica borefattura borxmlcheck borxpdf

@@ -64,7 +64,7 @@ void Raffica::fallisci(EsitoRaffica esito) {
     m_blocco.reset();
 }
 
-EsitoRaffica Raffica::esegui() {
+EsitoRaffica Raffica::esegui(const std::function<void()>& seguito) {
     if (riuscita() && !m_diario.voci.empty()) {
         if (m_file.scrivi(m_diario) && scriviTutto()) {
             // A log that could not be emptied names writes that are all on disk: the next burst finds nothing
@@ -75,6 +75,8 @@ EsitoRaffica Raffica::esegui() {
             fallisci(EsitoRaffica::NonScritta);
         }
     }
+    if (riuscita() && seguito)
+        seguito();
     m_blocco.reset();
     return m_esito;
 }

@@ -7,6 +7,7 @@
 #include "archive/recupero.h"
 
 #include <cstring>
+#include <functional>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -90,7 +91,9 @@ public:
 
     /// Writes what was planned, each record once and in the order of its first `scrivi`; records one behind
     /// the other go together. Gives the lock back.
-    EsitoRaffica esegui();
+    /// `seguito` runs behind a burst that succeeded and still under its lock, for a whole file that belongs
+    /// to the records: whoever takes the lock next finds both, or neither.
+    EsitoRaffica esegui(const std::function<void()>& seguito = {});
 
     Archivio& archivio() { return m_archivio; }
 

@@ -81,9 +81,13 @@ Percorsi::Percorsi(QString radiceCorrente, QString radiceC)
     : m_radiceCorrente(QDir::cleanPath(radiceCorrente)), m_radiceC(QDir::cleanPath(radiceC)) {}
 
 Percorsi Percorsi::predefiniti() {
+    return predefiniti(QDir::currentPath());
+}
+
+Percorsi Percorsi::predefiniti(const QString& radiceCorrente) {
     const QString radiceC =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/borfte/c");
-    return {QDir::currentPath(), radiceC};
+    return {radiceCorrente, radiceC};
 }
 
 void Percorsi::creaRadiceC() const {
@@ -116,14 +120,23 @@ std::optional<QString> Percorsi::dos(const QString& reale) const {
     return c ? std::optional(QStringLiteral("c:") + *c) : std::nullopt;
 }
 
-QString Percorsi::cartellaBozze(double codiceazienda) const {
+/// What a company is called among the user's data.
+QString Percorsi::nomeUtente(double codiceazienda) const {
     // Two drives may hold a company of the same code.
     constexpr qsizetype cifre = 16;
     const QString unita = QFileInfo(m_radiceCorrente).canonicalFilePath();
     const QByteArray impronta =
         QCryptographicHash::hash(unita.toUtf8(), QCryptographicHash::Sha256).toHex().first(cifre);
-    return QFileInfo(m_radiceC).path() + QStringLiteral("/bozze/") + codiceATreCifre(codiceazienda) + u'-' +
-           QString::fromLatin1(impronta);
+    return codiceATreCifre(codiceazienda) + u'-' + QString::fromLatin1(impronta);
+}
+
+QString Percorsi::cartellaBozze(double codiceazienda) const {
+    return QFileInfo(m_radiceC).path() + QStringLiteral("/bozze/") + nomeUtente(codiceazienda);
+}
+
+QString Percorsi::promemoria(double codiceazienda) const {
+    return QFileInfo(m_radiceC).path() + QStringLiteral("/aziende/") + nomeUtente(codiceazienda) +
+           QStringLiteral(".ini");
 }
 
 QString cartellaAzienda(double codiceazienda) {

@@ -18,6 +18,8 @@ public:
     /// The working directory as current drive, and for c: a folder of the user's own data ("borfte/c" under
     /// the XDG data directory).
     static Percorsi predefiniti();
+    /// The same with another folder as current drive.
+    static Percorsi predefiniti(const QString& radiceCorrente);
     /// Makes the folder of drive c: when it is missing.
     void creaRadiceC() const;
 
@@ -33,8 +35,13 @@ public:
     /// Folder of this machine, existing or not, for what the user has typed and not yet stored in a company
     /// of the current drive. It lies beside drive c:, among the user's own data.
     QString cartellaBozze(double codiceazienda) const;
+    /// File of this machine, existing or not, for what the user's programs remember about such a company:
+    /// when it was checked, where its copies go. It lies among the user's own data too.
+    QString promemoria(double codiceazienda) const;
 
 private:
+    QString nomeUtente(double codiceazienda) const;
+
     QString m_radiceCorrente;
     QString m_radiceC;
 };

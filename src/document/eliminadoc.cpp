@@ -97,6 +97,7 @@ bool eliminadoc(Documento& documento, const Contesto& contesto, Registrazioni& r
         return false;
     const auto scelta = scegli(documento, contesto);
     EsitoRaffica esito = EsitoRaffica::NonLetta;
+    bool righe = true;
     int movimento = 0;
     if (scelta) {
         const Attesa attesa(contesto.operatore);
@@ -109,15 +110,15 @@ bool eliminadoc(Documento& documento, const Contesto& contesto, Registrazioni& r
         }
         if (scelta->movimento)
             movimento = storna(documento, raffica, registrazioni);
-        esito = raffica.esegui();
+        esito = raffica.esegui([&] {
+            documento.coppia.fte.annullata = 1;
+            // Behind the burst: a document that is still live keeps its lines.
+            righe = eliminaRighe(documento, contesto.archivio, sospese);
+        });
     }
     avvisaRecuperi(contesto);
-    if (esito == EsitoRaffica::Riuscita) {
-        documento.coppia.fte.annullata = 1;
-        // Outside the burst and so behind it: a document that is still live keeps its lines.
-        if (!eliminaRighe(documento, contesto.archivio, sospese))
-            esito = EsitoRaffica::NonScritta;
-    }
+    if (!righe)
+        esito = EsitoRaffica::NonScritta;
     if (esito != EsitoRaffica::Riuscita) {
         avvisaNonRegistrato(contesto, esito);
         return false;

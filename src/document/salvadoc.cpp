@@ -78,12 +78,21 @@ void ricordaNumero(Tot& contatore, const QString& numero) {
 struct Registrato {
     EsitoRaffica esito = EsitoRaffica::Riuscita;
     int record = 0;
-    CoppiaFte coppia;
+    bool righe = true;           ///< the lines file is written too; a new document has none yet
     bool righeMagazzino = false; ///< the archive holds warehouse rows
 };
 
-/// Writes the records and counts them.
-Registrato scriviRecord(const Documento& documento, const Contesto& contesto) {
+bool scriviRighe(const Documento& documento, const Contesto& contesto, RigheInSospeso& sospese) {
+    if (documento.coppia.fte.nfile == 0.0F)
+        return true;
+    if (!scrividoc(documento, contesto.archivio))
+        return false;
+    sospese.dimentica(documento);
+    return true;
+}
+
+/// Writes the records and counts them, and behind them the lines of a document that is not new.
+Registrato scriviDocumento(Documento& documento, const Contesto& contesto, RigheInSospeso& sospese) {
     const Attesa attesa(contesto.operatore);
     Archivio& archivio = contesto.archivio;
     Raffica raffica(archivio, nomeDocumento(documento));
@@ -91,29 +100,22 @@ Registrato scriviRecord(const Documento& documento, const Contesto& contesto) {
     const bool nuovo = documento.recordfattura == 0;
     Registrato r;
     r.record = nuovo ? raffica.prossimo(contatore) : documento.recordfattura;
-    r.coppia = riempiRecord(documento, timbro(contesto.orologio.adesso(), r.record));
+    CoppiaFte coppia = riempiRecord(documento, timbro(contesto.orologio.adesso(), r.record));
     r.righeMagazzino = raffica.leggiTot(Conta::Mag).numero >= 1;
-    assegnaNfile(r.coppia.fte, contatore);
+    assegnaNfile(coppia.fte, contatore);
     contatore.modificato = 1;
     if (nuovo) {
         contatore.numero = static_cast<std::int16_t>(r.record);
         ricordaNumero(contatore, documento.estremi.numero);
     }
-    raffica.scrivi(archivio.fte, r.record, r.coppia.fte);
-    raffica.scrivi(archivio.f2e, r.record, r.coppia.f2e);
+    raffica.scrivi(archivio.fte, r.record, coppia.fte);
+    raffica.scrivi(archivio.f2e, r.record, coppia.f2e);
     raffica.scriviTot(Conta::Fte, contatore);
-    r.esito = raffica.esegui();
+    r.esito = raffica.esegui([&] {
+        documento.coppia = coppia;
+        r.righe = nuovo || scriviRighe(documento, contesto, sospese);
+    });
     return r;
-}
-
-bool scriviRighe(const Documento& documento, const Contesto& contesto, RigheInSospeso& sospese) {
-    if (documento.coppia.fte.nfile == 0.0F)
-        return true;
-    const Attesa attesa(contesto.operatore);
-    if (!scrividoc(documento, contesto.archivio))
-        return false;
-    sospese.dimentica(documento);
-    return true;
 }
 
 /// Asks whether the warehouse rows are to follow the lines, and replaces them.
@@ -143,10 +145,9 @@ EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazion
     };
 
     const bool nuovo = documento.recordfattura == 0;
-    const Registrato registrato = scriviRecord(documento, contesto);
+    const Registrato registrato = scriviDocumento(documento, contesto, sospese);
     if (registrato.esito != EsitoRaffica::Riuscita)
         return nonRegistrato(registrato.esito);
-    documento.coppia = registrato.coppia;
     avvisaRecuperi(contesto);
 
     if (nuovo) {
@@ -157,7 +158,7 @@ EsitoSalva salvadoc(Documento& documento, const Contesto& contesto, Registrazion
         documento.recordfattura = registrato.record;
         return {DopoSalva::Movimento, std::nullopt, false};
     }
-    if (!scriviRighe(documento, contesto, sospese))
+    if (!registrato.righe)
         return nonRegistrato(EsitoRaffica::NonScritta);
     if (registrato.righeMagazzino) {
         const EsitoRaffica esito = aggiornaMagazzino(documento, contesto, registrazioni);

@@ -432,6 +432,9 @@ TEST_F(VerificaTest, FileOstiliNonLoFermano) {
 
 int esito(const QString& unita, const QStringList& altri = {}, QByteArray* uscita = nullptr) {
     QProcess programma;
+    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+    ambiente.insert(u"XDG_DATA_HOME"_s, unita + u"/utente"_s);
+    programma.setProcessEnvironment(ambiente);
     programma.start(QStringLiteral(BORVERIFICA),
                     QStringList{u"--unita"_s, unita, u"--azienda"_s, u"7"_s} + altri);
     programma.waitForFinished();

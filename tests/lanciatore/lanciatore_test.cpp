@@ -1,3 +1,4 @@
+#include "archive/promemoria.h"
 #include "lanciatore/scelta.h"
 
 #include <gtest/gtest.h>
@@ -6,8 +7,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -201,6 +204,45 @@ TEST(SceltaAzienda, SenzaAziendeInvioCreaLaDimostrativa) {
     QTest::keyClick(&finestra, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([&] { return pagine->currentIndex() == 0; }));
     EXPECT_EQ(finestra.findChild<QTreeWidget*>(u"elenco"_s)->topLevelItem(0)->text(0), u"001"_s);
+}
+
+TEST(SceltaAzienda, LaCopiaVaAvantiDietroLaFinestraESiPuoInterrompere) {
+    const Unita unita;
+    const QTemporaryDir programmi;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(programmi.filePath(u"dati"_s)));
+    // Waits for the file "via", then notes the copy as the tool does; a signal ends it with nothing done.
+    programma(programmi.filePath(u"borcopia"_s),
+              "trap 'exit 2' TERM\necho avanzamento 40\nwhile [ ! -e \"$6/via\" ]; do sleep 0.02; done\n"
+              "printf 'azienda=12\\nquando=2026-11-23T17:00:00Z\\nerrori=1\\n' > "
+              "\"$2/Suprok/suprok/boraz0.012/borlano.cop\"\necho /copie/x.tar.zst\n");
+    SceltaAzienda finestra(unita.radice(), programmi.path(), [](const Percorsi&, int) { return true; });
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    auto* elenco = finestra.findChild<QTreeWidget*>(u"elenco"_s);
+    auto* copia = finestra.findChild<QPushButton*>(u"copia"_s);
+    auto* annulla = finestra.findChild<QPushButton*>(u"annullaCopia"_s);
+    auto* avanzamento = finestra.findChild<QProgressBar*>(u"avanzamentoCopia"_s);
+    auto* esito = finestra.findChild<QLabel*>(u"esitoCopia"_s);
+    EXPECT_EQ(elenco->topLevelItem(1)->text(2), u"mai"_s);
+    QTest::keyClick(elenco, Qt::Key_Down);
+
+    finestra.copia(programmi.path());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return avanzamento->value() == 40; }));
+    EXPECT_FALSE(copia->isEnabled());
+    QTest::mouseClick(annulla, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return copia->isEnabled(); }));
+    EXPECT_TRUE(esito->text().contains(u"interrotta"_s)) << qPrintable(esito->text());
+    EXPECT_EQ(elenco->topLevelItem(1)->text(2), u"mai"_s);
+
+    scrivi(programmi.filePath(u"via"_s), {});
+    finestra.copia(programmi.path());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return copia->isEnabled(); }));
+    EXPECT_TRUE(esito->text().endsWith(u"/copie/x.tar.zst"_s)) << qPrintable(esito->text());
+    EXPECT_EQ(
+        elenco->topLevelItem(1)->text(2),
+        QDateTime(QDate(2026, 11, 23), QTime(17, 0), Qt::UTC).toLocalTime().toString(u"dd/MM/yyyy HH:mm") +
+            u" (errori: 1)"_s);
+    EXPECT_EQ(Promemoria(Percorsi::predefiniti(unita.radice()), 12).cartellaCopie(), programmi.path());
 }
 
 } // namespace bor::lancia

@@ -3,7 +3,6 @@
 #include "archive/fpa.h"
 #include "common/numeri.h"
 
-#include <QDir>
 #include <QHash>
 #include <QRegularExpression>
 
@@ -33,7 +32,7 @@ struct Confronto {
     bool esiste(const QString& nome) const { return file.contains(nome.toLower()); }
 };
 
-Confronto confrontoPer(const Archivio& archivio) {
+Confronto confrontoPer(const Archivio& archivio, const ElencoFile& file) {
     Confronto c{archivio, {}, {}, {}, {}, {}};
     const int clienti = inUso(archivio, Conta::Cli, archivio.cli);
     c.clientiEliminati.resize(static_cast<std::size_t>(clienti) + 1);
@@ -41,9 +40,8 @@ Confronto confrontoPer(const Archivio& archivio) {
         c.clientiEliminati[static_cast<std::size_t>(n)] = cli.eliminato == 1;
         return true;
     });
-    const QDir cartella(archivio.reale(archivio.file(u"")));
-    for (const QFileInfo& f : cartella.entryInfoList(QDir::Files | QDir::Hidden))
-        c.file.insert(f.fileName().toLower(), f.size());
+    for (auto f = file.constKeyValueBegin(); f != file.constKeyValueEnd(); ++f)
+        c.file.insert(f->first.toLower(), f->second);
     return c;
 }
 
@@ -164,8 +162,8 @@ void verificaOrfani(Confronto& c) {
 
 } // namespace
 
-Discordanze verificaDocumenti(const Archivio& archivio) {
-    Confronto c = confrontoPer(archivio);
+Discordanze verificaDocumenti(const Archivio& archivio, const ElencoFile& file) {
+    Confronto c = confrontoPer(archivio, file);
     const int documenti = inUso(archivio, Conta::Fte, archivio.fte);
     const int conF2e = inUso(archivio, Conta::Fte, archivio.f2e);
     std::vector<F2e> code(static_cast<std::size_t>(documenti));

@@ -1,7 +1,8 @@
-// Reads a company's archive and prints what in it does not agree; writes nothing. Ends with 0 when nothing is
-// wrong, 1 when there are errors or warnings, 2 when the archive cannot be read.
+// Reads a company's archive and prints what in it does not agree; writes nothing into it. Ends with 0 when
+// nothing is wrong, 1 when there are errors or warnings, 2 when the archive cannot be read.
 #include "borverifica/verifica.h"
 
+#include "archive/promemoria.h"
 #include "common/versione.h"
 
 #include <QCommandLineParser>
@@ -9,8 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -28,18 +27,15 @@ void stampa(const bor::verifica::Discordanze& trovate, int codice, Forma forma) 
         else
             uscita << d.testo() << u"\n        "_s << testo(d.rimedio) << '\n';
     }
-    const auto quante = [&trovate](bor::verifica::Gravita gravita) {
-        return std::ranges::count(trovate, gravita, &bor::verifica::Discordanza::gravita);
-    };
     if (forma == Forma::Testo)
         uscita << u"Azienda %1: %2 errori, %3 avvisi, %4 informazioni.\n"_s.arg(codice)
-                      .arg(quante(bor::verifica::Gravita::Errore))
-                      .arg(quante(bor::verifica::Gravita::Avviso))
-                      .arg(quante(bor::verifica::Gravita::Informazione));
+                      .arg(quante(trovate, bor::verifica::Gravita::Errore))
+                      .arg(quante(trovate, bor::verifica::Gravita::Avviso))
+                      .arg(quante(trovate, bor::verifica::Gravita::Informazione));
 }
 
 Esito verificaAzienda(const QString& unita, int codice, Forma forma) {
-    const bor::Percorsi percorsi(QDir(unita).absolutePath(), QString());
+    const bor::Percorsi percorsi = bor::Percorsi::predefiniti(QDir(unita).absolutePath());
     bor::Disco disco;
     bor::Archivio archivio(percorsi, disco, codice);
     const QString tot = archivio.reale(archivio.borlano(u"tot"));
@@ -57,10 +53,10 @@ Esito verificaAzienda(const QString& unita, int codice, Forma forma) {
     }
     const bor::verifica::Discordanze trovate = bor::verifica::verificaArchivio(archivio);
     stampa(trovate, codice, forma);
-    const bool inOrdine = std::ranges::all_of(trovate, [](const bor::verifica::Discordanza& d) {
-        return d.gravita == bor::verifica::Gravita::Informazione;
-    });
-    return inOrdine ? InOrdine : ConDiscordanze;
+    const int errori = quante(trovate, bor::verifica::Gravita::Errore);
+    const int avvisi = quante(trovate, bor::verifica::Gravita::Avviso);
+    bor::Promemoria(percorsi, codice).segnaVerifica({QDateTime::currentDateTime(), errori, avvisi});
+    return errori + avvisi == 0 ? InOrdine : ConDiscordanze;
 }
 
 } // namespace
@@ -69,9 +65,9 @@ int main(int argc, char** argv) {
     const QCoreApplication programma(argc, argv);
     QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"Legge l'archivio di un'azienda e dice che cosa non concorda, senza scrivere nulla. Da usare quando "
-        u"nessuno sta registrando documenti."_s);
+    parser.setApplicationDescription(u"Legge l'archivio di un'azienda e dice che cosa non concorda, senza "
+                                     u"scrivervi nulla. Da usare quando "
+                                     u"nessuno sta registrando documenti."_s);
     parser.addOptions({{u"unita"_s, u"Cartella che fa da radice dell'unità."_s, u"cartella"_s, u"."_s},
                        {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
                        {u"version"_s, u"Mostra la versione."_s},

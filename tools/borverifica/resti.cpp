@@ -1,7 +1,6 @@
 #include "archive/recupero.h"
 #include "borverifica/verifica.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -49,13 +48,14 @@ Discordanze verificaDiario(const Archivio& archivio) {
 
 } // namespace
 
-Discordanze verificaResti(const Archivio& archivio) {
+Discordanze verificaResti(const Archivio& archivio, const ElencoFile& file) {
     Discordanze trovate = verificaDiario(archivio);
     // What replaces a file is written beside it first, under its name and six letters.
     static const QRegularExpression provvisorio(u"^(borlano\\.[^.]{3}|[fp][0-9]+|fpa[0-9]+)\\.[a-z]{6}$"_s,
                                                 QRegularExpression::CaseInsensitiveOption);
-    const QDir cartella(archivio.reale(archivio.file(u"")));
-    for (const QString& nome : cartella.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+    QStringList nomi = file.keys();
+    nomi.sort();
+    for (const QString& nome : nomi) {
         if (provvisorio.match(nome).hasMatch())
             trovate.append(
                 {Gravita::Avviso, nome, u"è rimasto da una scrittura interrotta"_s, Rimedio::MettiDaParte});

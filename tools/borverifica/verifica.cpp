@@ -1,9 +1,11 @@
 #include "borverifica/verifica.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -26,10 +28,26 @@ QByteArray Discordanza::json() const {
     return QJsonDocument(oggetto).toJson(QJsonDocument::Compact);
 }
 
+ElencoFile elencoFile(const Archivio& archivio) {
+    ElencoFile file;
+    const QDir cartella(archivio.reale(archivio.file(u"")));
+    for (const QFileInfo& f : cartella.entryInfoList(QDir::Files | QDir::Hidden))
+        file.insert(f.fileName(), f.size());
+    return file;
+}
+
 Discordanze verificaArchivio(const Archivio& archivio) {
-    return verificaContatori(archivio) + verificaDocumenti(archivio) + verificaMovimenti(archivio) +
+    return verificaArchivio(archivio, elencoFile(archivio));
+}
+
+Discordanze verificaArchivio(const Archivio& archivio, const ElencoFile& file) {
+    return verificaContatori(archivio) + verificaDocumenti(archivio, file) + verificaMovimenti(archivio) +
            verificaConti(archivio) + verificaMagazzino(archivio) + verificaIndici(archivio) +
-           verificaNumerazione(archivio) + verificaResti(archivio);
+           verificaNumerazione(archivio) + verificaResti(archivio, file);
+}
+
+int quante(const Discordanze& discordanze, Gravita gravita) {
+    return static_cast<int>(std::ranges::count(discordanze, gravita, &Discordanza::gravita));
 }
 
 QStringList nonLeggibili(const Archivio& archivio) {

@@ -5,6 +5,7 @@
 #include "archive/archivio.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -60,12 +61,19 @@ struct Discordanza {
 
 using Discordanze = QList<Discordanza>;
 
+/// How many of them there are.
+int quante(const Discordanze& discordanze, Gravita gravita);
+
 /// Each counter of `tot` against the length of the files that it counts.
 Discordanze verificaContatori(const Archivio& archivio);
 
+/// The files of the company's folder: their lengths by their names.
+using ElencoFile = QHash<QString, qint64>;
+ElencoFile elencoFile(const Archivio& archivio);
+
 /// Documents: their customer, their detail-lines file, their second half, and the electronic invoice data.
 /// Lines files that no live document has, and the counter of their numbers.
-Discordanze verificaDocumenti(const Archivio& archivio);
+Discordanze verificaDocumenti(const Archivio& archivio, const ElencoFile& file);
 
 /// Live documents and live journal movements, by the stamp that ties them.
 Discordanze verificaMovimenti(const Archivio& archivio);
@@ -81,7 +89,7 @@ Discordanze verificaConti(const Archivio& archivio);
 Discordanze verificaMagazzino(const Archivio& archivio);
 
 /// What an interrupted program left: a recovery log that is not empty, files half written.
-Discordanze verificaResti(const Archivio& archivio);
+Discordanze verificaResti(const Archivio& archivio, const ElencoFile& file);
 
 /// Indexes of customer names and barcodes: their order, and entries that point nowhere.
 Discordanze verificaIndici(const Archivio& archivio);
@@ -91,6 +99,8 @@ Discordanze verificaNumerazione(const Archivio& archivio);
 
 /// All of them.
 Discordanze verificaArchivio(const Archivio& archivio);
+/// The same where only the files `borlano.` are in the folder, and `file` tells which others belong there.
+Discordanze verificaArchivio(const Archivio& archivio, const ElencoFile& file);
 
 /// The files that are there but could not be opened.
 QStringList nonLeggibili(const Archivio& archivio);

@@ -70,6 +70,13 @@ Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& un
             {u"--unita"_s, unita, u"--azienda"_s, QString::number(codiceDimostrazione), installato(u"demo")}};
 }
 
+Comando comandoCopia(const QString& cartellaProgrammi, const QString& unita, int codiceazienda,
+                     const QString& cartella) {
+    return {cartellaProgrammi + u"/borcopia"_s,
+            {u"--unita"_s, unita, u"--azienda"_s, QString::number(codiceazienda), u"--in"_s, cartella,
+             u"--avanzamento"_s}};
+}
+
 bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi) {
     const auto posto = percorsi.reale(radiceSuite.toString() + u"borxpdf"_s);
     if (!posto)

@@ -39,6 +39,10 @@ Comando comandoModulo(const QString& cartellaProgrammi, int codiceazienda);
 /// Makes the demo company on the drive.
 Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& unita);
 
+/// Copies a company of the drive into a folder of this machine, and tells how far it is.
+Comando comandoCopia(const QString& cartellaProgrammi, const QString& unita, int codiceazienda,
+                     const QString& cartella);
+
 /// Puts the PDF tool where the module calls it, in the suite's folder, unless one is there. False when that
 /// failed: everything but PDF files then works.
 bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi);

@@ -1,6 +1,9 @@
 #include "lanciatore/scelta.h"
 
+#include "archive/promemoria.h"
+#include "borcopia/appunti.h"
 #include "common/testo.h"
+#include "lanciatore/pannellocopia.h"
 #include "ui/adattatori.h"
 #include "ui/guida.h"
 
@@ -24,6 +27,7 @@ namespace {
 
 constexpr int colonnaCodice = 0;
 constexpr int colonnaNome = 1;
+constexpr int colonnaCopia = 2;
 
 QLabel* titolo(const QString& testo) {
     auto* label = new QLabel(testo);
@@ -43,10 +47,18 @@ QPushButton* bottone(const QString& nome, const QString& testo, const QString& i
     return nuovo;
 }
 
+QString testoCopia(const std::optional<copia::Appunti>& copia) {
+    if (!copia)
+        return u"mai"_s;
+    const QString quando = copia->quando.toLocalTime().toString(u"dd/MM/yyyy HH:mm");
+    return copia->errori == 0 ? quando : u"%1 (errori: %2)"_s.arg(quando).arg(copia->errori);
+}
+
 } // namespace
 
 SceltaAzienda::SceltaAzienda(const QString& unita, const QString& cartellaProgrammi, Apri apri)
-    : m_percorsi(unita, QString()), m_cartellaProgrammi(cartellaProgrammi), m_apri(std::move(apri)) {
+    : m_percorsi(Percorsi::predefiniti(unita)), m_cartellaProgrammi(cartellaProgrammi),
+      m_apri(std::move(apri)) {
     setWindowTitle(u"Borlano - Aziende"_s);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_pagine = new QStackedWidget;
@@ -57,6 +69,7 @@ SceltaAzienda::SceltaAzienda(const QString& unita, const QString& cartellaProgra
     disposizione->setSpacing(12);
     disposizione->addWidget(costruisciTestata());
     disposizione->addWidget(m_pagine, 1);
+    disposizione->addWidget(costruisciCopia());
     disposizione->addWidget(costruisciComandi());
     resize(620, 420);
 
@@ -99,12 +112,14 @@ QWidget* SceltaAzienda::costruisciElenco() {
     m_elenco = new QTreeWidget;
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Aziende"_s);
-    m_elenco->setHeaderLabels({u"Codice"_s, u"Azienda"_s});
+    m_elenco->setHeaderLabels({u"Codice"_s, u"Azienda"_s, u"Ultima copia"_s});
     m_elenco->setRootIsDecorated(false);
     m_elenco->setUniformRowHeights(true);
     m_elenco->setAlternatingRowColors(true);
     m_elenco->setAllColumnsShowFocus(true);
-    m_elenco->header()->setSectionResizeMode(colonnaCodice, QHeaderView::ResizeToContents);
+    m_elenco->header()->setStretchLastSection(false);
+    m_elenco->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_elenco->header()->setSectionResizeMode(colonnaNome, QHeaderView::Stretch);
     m_elenco->setStyleSheet(u"QTreeWidget::item { padding: 5px 8px; }"_s);
     connect(m_elenco, &QTreeWidget::itemDoubleClicked, this, &SceltaAzienda::apriScelta);
     return m_elenco;
@@ -127,6 +142,19 @@ QWidget* SceltaAzienda::costruisciInvito() {
     disposizione->addWidget(m_crea, 0, Qt::AlignHCenter);
     disposizione->addStretch();
     return invito;
+}
+
+QWidget* SceltaAzienda::costruisciCopia() {
+    auto* riga = new QWidget;
+    m_copiaBottone = bottone(u"copia"_s, u"Copia di &sicurezza..."_s, u"salva"_s,
+                             u"Copia l'azienda scelta, anche mentre altri ci lavorano (Alt+S)"_s);
+    connect(m_copiaBottone, &QPushButton::clicked, this, &SceltaAzienda::chiediCopia);
+    m_copia = new PannelloCopia(m_cartellaProgrammi, [this] { aggiorna(); });
+    auto* disposizione = new QHBoxLayout(riga);
+    disposizione->setContentsMargins(0, 0, 0, 0);
+    disposizione->addWidget(m_copiaBottone);
+    disposizione->addWidget(m_copia, 1);
+    return riga;
 }
 
 QWidget* SceltaAzienda::costruisciComandi() {
@@ -154,7 +182,7 @@ QWidget* SceltaAzienda::costruisciComandi() {
 }
 
 void SceltaAzienda::cambiaUnita(const QString& unita) {
-    m_percorsi = Percorsi(unita, QString());
+    m_percorsi = Percorsi::predefiniti(unita);
     const QString nome = QDir::toNativeSeparators(m_percorsi.radiceCorrente());
     m_unita->setText(u"Unità: "_s + nome);
     m_unita->setToolTip(nome);
@@ -167,7 +195,11 @@ void SceltaAzienda::aggiorna() {
     m_elenco->clear();
     for (const Azienda& azienda : elencaAziende(m_percorsi)) {
         const QString nome = azienda.nome.isEmpty() ? u"(senza nome)"_s : azienda.nome;
-        auto* riga = new QTreeWidgetItem(m_elenco, {zeriDavanti(QString::number(azienda.codice), 3), nome});
+        const auto copia =
+            copia::ultimaCopia(m_percorsi.reale(cartellaAzienda(azienda.codice)).value_or(QString()));
+        auto* riga = new QTreeWidgetItem(
+            m_elenco, {zeriDavanti(QString::number(azienda.codice), 3), nome, testoCopia(copia)});
+        riga->setToolTip(colonnaCopia, copia ? copia->file + u", da "_s + copia->computer : QString());
         riga->setData(colonnaCodice, Qt::UserRole, azienda.codice);
         riga->setToolTip(colonnaNome, nome);
         if (azienda.codice == scelta)
@@ -176,6 +208,7 @@ void SceltaAzienda::aggiorna() {
     const bool vuoto = m_elenco->topLevelItemCount() == 0;
     m_pagine->setCurrentIndex(vuoto ? 1 : 0);
     m_apriBottone->setDisabled(vuoto);
+    m_copiaBottone->setDisabled(vuoto || m_copia->inCorso());
     (vuoto ? m_crea : m_apriBottone)->setDefault(true);
     if (vuoto) {
         m_crea->setFocus();
@@ -186,14 +219,18 @@ void SceltaAzienda::aggiorna() {
     m_elenco->setFocus();
 }
 
-void SceltaAzienda::apriScelta() {
+std::optional<int> SceltaAzienda::scelta() const {
     const QTreeWidgetItem* riga = m_elenco->currentItem();
-    if (!riga)
+    return riga ? std::optional(riga->data(colonnaCodice, Qt::UserRole).toInt()) : std::nullopt;
+}
+
+void SceltaAzienda::apriScelta() {
+    const auto codice = scelta();
+    if (!codice)
         return;
-    const int codice = riga->data(colonnaCodice, Qt::UserRole).toInt();
-    if (const QString motivo = ostacolo(m_percorsi, codice); !motivo.isEmpty())
+    if (const QString motivo = ostacolo(m_percorsi, *codice); !motivo.isEmpty())
         QMessageBox::critical(this, u"Attenzione"_s, motivo);
-    else if (!m_apri(m_percorsi, codice))
+    else if (!m_apri(m_percorsi, *codice))
         QMessageBox::critical(this, u"Attenzione"_s,
                               u"Il programma non si avvia: manca borfte in "_s + m_cartellaProgrammi);
 }
@@ -210,6 +247,34 @@ void SceltaAzienda::mostraGuida() {
     OperatoreQt operatore;
     operatore.usa(this);
     apriGuida(sistema, operatore, u"primo-avvio"_s);
+}
+
+void SceltaAzienda::chiediCopia() {
+    const auto codice = scelta();
+    if (!codice)
+        return;
+    const QString prima = Promemoria(m_percorsi, *codice).cartellaCopie();
+    const QString cartella = QFileDialog::getExistingDirectory(this, u"Cartella in cui mettere la copia"_s,
+                                                               prima.isEmpty() ? QDir::homePath() : prima);
+    if (!cartella.isEmpty())
+        copia(cartella);
+}
+
+void SceltaAzienda::copia(const QString& cartella) {
+    const auto codice = scelta();
+    if (!codice || m_copia->inCorso())
+        return;
+    Promemoria(m_percorsi, *codice).segnaCartellaCopie(cartella);
+    m_copiaBottone->setEnabled(false);
+    m_copia->avvia(m_percorsi.radiceCorrente(), *codice, cartella);
+}
+
+void SceltaAzienda::reject() {
+    if (!m_copia->inCorso() ||
+        QMessageBox::question(this, u"Copia di sicurezza"_s,
+                              u"La copia non è finita. La interrompo? Non ne resta nulla."_s,
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes)
+        QDialog::reject();
 }
 
 void SceltaAzienda::creaDimostrazione() {

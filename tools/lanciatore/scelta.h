@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 class QPushButton;
@@ -14,6 +15,8 @@ class QStackedWidget;
 class QTreeWidget;
 
 namespace bor::lancia {
+
+class PannelloCopia;
 
 class SceltaAzienda : public QDialog {
 public:
@@ -25,15 +28,23 @@ public:
 
     void cambiaUnita(const QString& unita);
     void aggiorna();
+    /// Starts the copy of the chosen company into a folder of this machine, unless one is being made.
+    void copia(const QString& cartella);
+
+    /// Asks first while a copy is being made.
+    void reject() override;
 
 private:
     QWidget* costruisciTestata();
     QWidget* costruisciElenco();
     QWidget* costruisciInvito();
+    QWidget* costruisciCopia();
     QWidget* costruisciComandi();
     void apriScelta();
     void chiediUnita();
     void mostraGuida();
+    void chiediCopia();
+    std::optional<int> scelta() const;
     void creaDimostrazione();
     void finitaDimostrazione(bool riuscita);
 
@@ -46,6 +57,8 @@ private:
     QTreeWidget* m_elenco = nullptr;
     QPushButton* m_crea = nullptr;
     QPushButton* m_apriBottone = nullptr;
+    QPushButton* m_copiaBottone = nullptr;
+    PannelloCopia* m_copia = nullptr;
 };
 
 } // namespace bor::lancia

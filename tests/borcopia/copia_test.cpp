@@ -1,0 +1,263 @@
+// A copy of a company: what is in it, what comes back, and that nothing half done or damaged passes for
+// whole.
+#include "archive/diario.h"
+#include "archive/promemoria.h"
+#include "borcopia/copiatore.h"
+#include "borcopia/elencocopie.h"
+#include "borcopia/nastro.h"
+#include "borcopia/ripristino.h"
+#include "support/azienda.h"
+#include "support/processo.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <QSaveFile>
+
+#include <csignal>
+#include <functional>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace bor::copia {
+namespace {
+
+using Contenuto = QMap<QString, QByteArray>;
+
+void scrivi(const QString& percorso, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(percorso).path());
+    QSaveFile file(percorso);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit());
+}
+
+QByteArray leggi(const QString& percorso) {
+    QFile file(percorso);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Every file below a folder.
+Contenuto contenuto(const QString& cartella) {
+    Contenuto file;
+    QDirIterator voce(cartella, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (voce.hasNext()) {
+        const QString percorso = voce.next();
+        file[percorso.mid(cartella.size() + 1)] = leggi(percorso);
+    }
+    return file;
+}
+
+bool avanti(int) {
+    return true;
+}
+
+/// A customer, two invoices with their lines files, settings of all companies, lines in the user's own data.
+class CopiaTest : public testing::Test {
+protected:
+    CopiaTest() {
+        azienda.cliente(u"Rossi"_s);
+        for (int n = 1; n <= 2; ++n) {
+            CoppiaFte coppia = documentoDi(1, QString::number(n), 100, 22);
+            coppia.fte.nfile = static_cast<float>(n);
+            azienda.documento(coppia);
+            azienda.scrivi(u"f%1"_s.arg(n), QByteArray(300000, char('0' + n)));
+        }
+        Archivio a(azienda.percorsi(), disco, 7);
+        a.apri();
+        Tot tot = a.leggiTot(Conta::Fte);
+        tot.progressivo = 2;
+        a.scriviTot(Conta::Fte, tot);
+        azienda.scrivi(u"borlano.int"_s, "Officina Citt\xe0\r\n");
+        scrivi(azienda.percorso(u"sotto/nota.txt"_s), "nota");
+        scrivi(azienda.radice() + u"borlano.eur"_s, "1,1936.27,0,0,2\r\n");
+        scrivi(azienda.radice() + u"borxpdf.ini"_s, "password=segreta\r\n");
+        scrivi(azienda.percorsi().cartellaBozze(7) + u"/5.righe"_s, "righe");
+    }
+    EsitoCopia crea(const Avanzamento& avanzamento = avanti) const {
+        return creaCopia(azienda.percorsi(), 7, copie.path(), avanzamento);
+    }
+    EsitoLetturaCopia torna(const QString& copia, const QString& cartella) const {
+        return ripristina(copia, Percorsi(cartella, copie.filePath(u"utente/c"_s)), avanti);
+    }
+    QStringList nellaCartella() const { return QDir(copie.path()).entryList(QDir::Files | QDir::Hidden); }
+    QString errore(const QString& copia) const { return verificaCopia(copia, avanti).lettura.errore; }
+
+    AziendaDiProva azienda;
+    Disco disco;
+    QTemporaryDir copie;
+};
+
+TEST_F(CopiaTest, TornaTuttoQuelloCheEDellAziendaENullaDAltri) {
+    const EsitoCopia copia = crea();
+    ASSERT_EQ(copia.errore, QString());
+    const EsitoVerifica letta = verificaCopia(copia.percorso, avanti);
+    EXPECT_EQ(letta.lettura.errore, QString());
+    EXPECT_EQ(letta.errori(), 0) << qPrintable(letta.discordanze.value(0).testo());
+    EXPECT_EQ(letta.lettura.appunti.nome, u"Officina Città"_s);
+
+    const QTemporaryDir nuova;
+    ASSERT_EQ(torna(copia.percorso, nuova.path()).errore, QString());
+    Contenuto atteso = contenuto(azienda.percorso({}).chopped(1));
+    atteso.remove(u"borlano.rip"_s);
+    EXPECT_TRUE(atteso.contains(u"sotto/nota.txt"_s));
+    EXPECT_EQ(contenuto(nuova.filePath(u"suprok/suprok/boraz0.007"_s)), atteso);
+    EXPECT_EQ(QDir(nuova.filePath(u"suprok/suprok"_s)).entryList(QDir::Files), QStringList{u"borlano.eur"_s});
+    EXPECT_EQ(QDir(nuova.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"suprok"_s});
+    const Percorsi percorsi(nuova.path(), copie.filePath(u"utente/c"_s));
+    EXPECT_EQ(leggi(percorsi.cartellaBozze(7) + u"/5.righe"_s), "righe");
+
+    EXPECT_TRUE(torna(copia.percorso, nuova.path()).errore.contains(u"non è vuota"_s));
+    EXPECT_EQ(contenuto(nuova.filePath(u"suprok/suprok/boraz0.007"_s)), atteso);
+}
+
+TEST_F(CopiaTest, QuelloCheCambiaDuranteLaLetturaECopiatoComEAllaFine) {
+    int volte = 0;
+    const EsitoCopia copia = crea([&](int) {
+        if (++volte == 3) {
+            azienda.scrivi(u"f1"_s, "nuove");
+            azienda.scrivi(u"f3"_s, "altre");
+            QFile::remove(azienda.percorso(u"f2"_s));
+            azienda.cliente(u"Bianchi"_s);
+        }
+        return true;
+    });
+    ASSERT_EQ(copia.errore, QString());
+    ASSERT_GT(volte, 3);
+    const QTemporaryDir nuova;
+    ASSERT_EQ(torna(copia.percorso, nuova.path()).errore, QString());
+    Contenuto atteso = contenuto(azienda.percorso({}).chopped(1));
+    atteso.remove(u"borlano.rip"_s);
+    EXPECT_EQ(atteso[u"f1"_s], "nuove");
+    EXPECT_EQ(contenuto(nuova.filePath(u"suprok/suprok/boraz0.007"_s)), atteso);
+}
+
+TEST_F(CopiaTest, UnaRegistrazioneRimastaAMetaEPrimaCompletata) {
+    const QByteArray prima = azienda.leggi(u"borlano.fte"_s).first(sizeof(Fte));
+    QByteArray dopo = prima;
+    dopo[5] = '9';
+    azienda.scrivi(u"borlano.rip"_s, codifica({u"fattura 9"_s, {{3, 1, prima, dopo}}}));
+    const EsitoCopia copia = crea();
+    EXPECT_EQ(copia.errore, QString());
+    EXPECT_EQ(copia.avvisi.filter(u"fattura 9"_s).size(), 1);
+    const QTemporaryDir nuova;
+    ASSERT_EQ(torna(copia.percorso, nuova.path()).errore, QString());
+    EXPECT_TRUE(leggi(nuova.filePath(u"suprok/suprok/boraz0.007/borlano.fte"_s)).startsWith(dopo));
+}
+
+TEST_F(CopiaTest, InterrottaPienaOUccisaNonLasciaNullaCheParaIntero) {
+    for (const int quando : {0, 2, 5})
+        EXPECT_TRUE(
+            crea([volte = quando](int) mutable { return volte-- > 0; }).errore.contains(u"interrotta"_s));
+    EXPECT_TRUE(nellaCartella().isEmpty());
+
+    const auto conPocoPosto = [this] {
+        const rlimit limite{500, 500};
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+        const QString errore = crea().errore;
+        ::_exit(errore.contains(u"non accetta file così grandi"_s) && nellaCartella().isEmpty() ? 7 : 1);
+    };
+    EXPECT_EQ(inProcesso(conPocoPosto), 7);
+
+    inProcesso([this] {
+        crea([volte = 3](int) mutable {
+            if (--volte == 0)
+                ::raise(SIGKILL);
+            return true;
+        });
+    });
+    EXPECT_EQ(nellaCartella().size(), 1);
+    EXPECT_TRUE(elencaCopie(copie.path()).isEmpty());
+    EXPECT_EQ(crea().errore, QString());
+    EXPECT_EQ(nellaCartella().size(), 1);
+    EXPECT_EQ(elencaCopie(copie.path(), 7).size(), 1);
+}
+
+TEST_F(CopiaTest, UnaCopiaTagliataOGuastaNonPassa) {
+    const QString buona = crea().percorso;
+    const QByteArray bytes = leggi(buona);
+    const QString altra = copie.filePath(u"altra"_s);
+    for (qsizetype n = 0; n < bytes.size(); n += 97) {
+        scrivi(altra, bytes.first(n));
+        EXPECT_NE(errore(altra), QString()) << n;
+        QByteArray guasta = bytes;
+        guasta[n] = static_cast<char>(guasta[n] ^ 0x10);
+        scrivi(altra, guasta);
+        // A bit of the packing that changes nothing of what is packed does no harm.
+        const QTemporaryDir nuova;
+        if (torna(altra, nuova.path()).errore.isEmpty())
+            EXPECT_EQ(errore(altra), QString()) << n;
+        else
+            EXPECT_TRUE(QDir(nuova.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
+                << n;
+    }
+}
+
+TEST_F(CopiaTest, NessunNomePortaFuoriDallaCartella) {
+    for (const QString& nome : {u"../fuori"_s, u"/tmp/fuori"_s, u"suprok/suprok/../../../fuori"_s,
+                                u"suprok/suprok/a\\b"_s, u"altro"_s}) {
+        QFile file(copie.filePath(u"ostile"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        NastroScritto nastro(file.handle());
+        ASSERT_TRUE(nastro.inizia({nome, 3, 0}) && nastro.scrivi("abc") && nastro.chiudi());
+        const QTemporaryDir nuova;
+        EXPECT_TRUE(
+            torna(file.fileName(), nuova.filePath(u"qui"_s)).errore.contains(u"non è di una copia"_s));
+        EXPECT_EQ(contenuto(nuova.path()), Contenuto());
+    }
+}
+
+TEST_F(CopiaTest, SiEliminanoSoloLeProprieCopiePiuVecchie) {
+    for (int n = 0; n < 4; ++n)
+        ASSERT_EQ(crea().errore, QString());
+    AziendaDiProva altraUnita;
+    altraUnita.cliente(u"Verdi"_s);
+    const QString altrui = creaCopia(altraUnita.percorsi(), 7, copie.path(), avanti).percorso;
+    const QString falsa = copie.filePath(u"boraz0.007_2001-01-01_000000.tar.zst"_s);
+    scrivi(falsa, "no copy");
+    const QList<CopiaInElenco> tutte = elencaCopie(copie.path(), 7);
+    ASSERT_EQ(tutte.size(), 6);
+    EXPECT_EQ(sfoltisci(copie.path(), 7, azienda.percorsi().radiceCorrente(), 2).size(), 2);
+    const QList<CopiaInElenco> rimaste = elencaCopie(copie.path(), 7);
+    EXPECT_EQ(rimaste.size(), 4);
+    EXPECT_EQ(rimaste.first().percorso, tutte.first().percorso);
+    EXPECT_TRUE(QFile::exists(altrui) && QFile::exists(falsa));
+}
+
+TEST_F(CopiaTest, IlProgrammaDiceComEAndataERicordaLUltima) {
+    const QString unita = azienda.percorsi().radiceCorrente();
+    const auto borcopia = [&](const QStringList& argomenti) {
+        QProcess processo;
+        QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+        ambiente.insert(u"XDG_DATA_HOME"_s, copie.filePath(u"dati"_s));
+        processo.setProcessEnvironment(ambiente);
+        processo.start(QStringLiteral(BOR_BIN_DIR "/borcopia"), argomenti);
+        EXPECT_TRUE(processo.waitForFinished());
+        return processo.exitCode();
+    };
+    const QStringList comune{u"--unita"_s, unita, u"--azienda"_s, u"7"_s, u"--in"_s, copie.path()};
+    EXPECT_EQ(borcopia(comune), 0);
+    EXPECT_EQ(borcopia(comune + QStringList{u"--conserva"_s, u"1"_s}), 0);
+    const QList<CopiaInElenco> copiate = elencaCopie(copie.path(), 7);
+    ASSERT_EQ(copiate.size(), 1);
+    const auto ultima = ultimaCopia(azienda.percorso({}).chopped(1));
+    ASSERT_TRUE(ultima);
+    EXPECT_EQ(ultima->file, copiate.first().percorso);
+
+    CoppiaFte senzaCliente = documentoDi(99, u"3"_s, 1, 0);
+    azienda.documento(senzaCliente);
+    EXPECT_EQ(borcopia(comune + QStringList{u"--conserva"_s, u"1"_s}), 1);
+    EXPECT_EQ(elencaCopie(copie.path(), 7).size(), 2) << "the last one without errors stays";
+    EXPECT_EQ(borcopia({u"--verifica"_s, copiate.first().percorso}), 0);
+    EXPECT_EQ(borcopia({u"--ripristina"_s, copiate.first().percorso, u"--in"_s, copie.path()}), 2);
+    for (const QStringList& sbagliati :
+         {QStringList{u"--unita"_s, unita}, comune + QStringList{u"--conserva"_s, u"0"_s},
+          QStringList{u"--unita"_s, copie.path(), u"--in"_s, copie.path()}})
+        EXPECT_EQ(borcopia(sbagliati), 2);
+}
+
+} // namespace
+} // namespace bor::copia
