@@ -1,5 +1,6 @@
 #include "app/modulo.h"
 #include "app/schermi.h"
+#include "common/avvertenze.h"
 #include "common/avvio.h"
 #include "ui/adattatori.h"
 #include "ui/aspetto.h"
@@ -18,6 +19,7 @@ int main(int argc, char* argv[]) {
     // What no launcher started ends before it asks for a display or touches a folder.
     if (controllaAvvio(riga).esito == EsitoAvvio::Rifiutato)
         return 0;
+    raccogliAvvertenze();
     QApplication applicazione(argc, argv);
     applicaAspetto(applicazione);
 

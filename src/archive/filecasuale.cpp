@@ -1,5 +1,6 @@
 #include "archive/filecasuale.h"
 
+#include "archive/blocchi.h"
 #include "archive/disco.h"
 
 #include <QFile>
@@ -19,20 +20,6 @@ namespace {
 
 constexpr auto attesaMassima = std::chrono::seconds(5);
 constexpr auto passo = std::chrono::milliseconds(5);
-
-enum class EsitoBlocco { Preso, Occupato, Impossibile };
-
-/// Takes or gives back (`F_UNLCK`) a lock of this open file on one byte.
-EsitoBlocco blocca(int descrittore, short tipo, qint64 posizione) {
-    struct flock richiesta {};
-    richiesta.l_type = tipo;
-    richiesta.l_whence = SEEK_SET;
-    richiesta.l_start = posizione;
-    richiesta.l_len = 1;
-    if (::fcntl(descrittore, F_OFD_SETLK, &richiesta) == 0)
-        return EsitoBlocco::Preso;
-    return errno == EACCES || errno == EAGAIN ? EsitoBlocco::Occupato : EsitoBlocco::Impossibile;
-}
 
 int apriDescrittore(const QByteArray& nome, Apertura apertura) {
     if (apertura == Apertura::SolaLettura)

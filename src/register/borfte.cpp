@@ -68,6 +68,14 @@ void Borfte::esci() {
     m_contesto.navigatore.termina();
 }
 
+Diagnosi Borfte::informazioni() const {
+    return diagnosi(m_contesto.archivio, m_contesto.sessione.codiceazienda);
+}
+
+QString Borfte::testoInformazioni(const Diagnosi& diagnosi) const {
+    return testoAssistenza(diagnosi, m_contesto.archivio);
+}
+
 void Borfte::rileggi() {
     if (m_riordino.inCorso())
         return;

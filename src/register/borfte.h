@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "archive/diagnosi.h"
 #include "document/documento.h"
 #include "register/comandoriordino.h"
 #include "register/elencofatture.h"
@@ -76,6 +77,10 @@ public:
     /// Nothing is chosen after a stored preference that names none.
     std::optional<Selvis> selvis() const { return m_selvis; }
     std::optional<Visua> visua() const { return m_visua; }
+    /// Of the company and this run, taken now.
+    Diagnosi informazioni() const;
+    /// The same as a text for who helps, without names and amounts.
+    QString testoInformazioni(const Diagnosi& diagnosi) const;
     const ComandoRiordino& statoRiordino() const { return m_riordino; }
     /// Called while a reorder runs, so that the bar is drawn.
     void suAvanzamento(std::function<void()> funzione) { m_riordino.suAvanzamento(std::move(funzione)); }

@@ -4,10 +4,13 @@
 #include "register/borfte.h"
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
+#include "ui/finestrainformazioni.h"
 #include "ui/griglia.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -17,6 +20,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStandardPaths>
 #include <QTableView>
 
 #include <array>
@@ -192,6 +196,11 @@ QWidget* VistaBorfte::creaComandi() {
     });
     layout->addWidget(avanzamento, 1);
     layout->addStretch();
+    auto* informazioni = new BottoneComando(u"informazioni"_s, u"Informazioni"_s, u"informazioni"_s,
+                                            QKeySequence(u"Ctrl+I"_s));
+    legami.comando(informazioni, [this] { mostraInformazioni(); });
+    legami.abilitato(informazioni, [&riordino] { return !riordino.inCorso(); });
+    layout->addWidget(informazioni);
     auto* scritta = new QLabel(u"Ver. N."_s + versione());
     scritta->setObjectName(u"xx_versione"_s);
     layout->addWidget(scritta, 0, Qt::AlignBottom);
@@ -235,6 +244,13 @@ void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
     comando(5, u"Per data"_s, u"perdata"_s, u"F7"_s, per(TipoRiordino::PerData), scelta);
     comando(6, u"Per protocollo"_s, u"perprotocollo"_s, u"F8"_s, per(TipoRiordino::PerProtocollo), scelta);
     comando(7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, per(TipoRiordino::PerNumero), scelta);
+}
+
+void VistaBorfte::mostraInformazioni() {
+    const Diagnosi diagnosi = m_form.informazioni();
+    const QString documenti = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString cartella = QFileInfo(documenti).isDir() ? documenti : QDir::homePath();
+    (new FinestraInformazioni(diagnosi, m_form.testoInformazioni(diagnosi), cartella, this))->open();
 }
 
 void VistaBorfte::creaScorciatoie() {

@@ -32,6 +32,7 @@ private:
     QWidget* creaComandi();
     void creaBottoni(QHBoxLayout* layout);
     void creaScorciatoie();
+    void mostraInformazioni();
     void aggiornaElenco();
     void mostraUltima();
 

@@ -3,7 +3,13 @@
 #include "ui/gesti.h"
 #include "ui/vistaborfte.h"
 
+#include <QClipboard>
+#include <QDialog>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPushButton>
 #include <QTableView>
+#include <QTemporaryDir>
 
 namespace bor {
 namespace {
@@ -53,6 +59,22 @@ TEST_F(VistaRegistroTest, DallaTastieraSiSceglieSiOrdinaESiApre) {
     tasto(*vista, Qt::Key_Return);
     EXPECT_EQ(prova->navigatore.mostrati, QList{Schermo::Borftea});
     EXPECT_EQ(documento.recordfattura, 4);
+}
+
+TEST_F(VistaRegistroTest, LeInformazioniDiventanoUnTestoPerLAssistenza) {
+    const QTemporaryDir casa;
+    qputenv("HOME", QFile::encodeName(casa.path()));
+    tasto(*vista, Qt::Key_I, Qt::ControlModifier);
+    auto* finestra = vista->findChild<QDialog*>(QStringLiteral("finestraInformazioni"));
+    ASSERT_TRUE(finestra && finestra->isVisible());
+    foto(*finestra, QStringLiteral("informazioni"));
+    QTest::mouseClick(finestra->findChild<QPushButton*>(QStringLiteral("assistenza")), Qt::LeftButton);
+    QFile file(casa.filePath(QStringLiteral("assistenza-borlano.txt")));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString testo = QString::fromUtf8(file.readAll());
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), testo);
+    EXPECT_TRUE(testo.contains(azienda.percorso({}).chopped(1)));
+    EXPECT_FALSE(testo.contains(QStringLiteral("Rossi")));
 }
 
 TEST_F(VistaRegistroTest, FiltroEOpzioniRiempionoDiNuovo) {
