@@ -1,14 +1,13 @@
 #include "ui/aspetto.h"
 
 #include "common/installazione.h"
+#include "common/italiano.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -17,11 +16,9 @@ namespace bor {
 namespace {
 
 /// Qt's own words, in its boxes and menus, and its names of days and months.
-void parlaItaliano(QApplication& applicazione) {
+void parlaItaliano() {
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-    auto* italiano = new QTranslator(&applicazione);
-    if (italiano->load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(italiano);
+    traduciQt();
 }
 
 /// By these the desktop knows which menu entry a window belongs to.
@@ -38,7 +35,7 @@ void presenta() {
 
 void applicaAspetto(QApplication& applicazione) {
     presenta();
-    parlaItaliano(applicazione);
+    parlaItaliano();
     applicazione.setStyle(QStyleFactory::create(u"Fusion"_s));
     QPalette tinte;
     tinte.setColor(QPalette::Window, QColor(0xEE, 0xF1, 0xF5));

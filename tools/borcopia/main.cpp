@@ -6,9 +6,8 @@
 #include "borcopia/elencocopie.h"
 #include "borcopia/ripristino.h"
 #include "common/percorsi.h"
-#include "common/versione.h"
+#include "common/rigacomando.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -204,26 +203,17 @@ void descriviOpzioni(QCommandLineParser& parser) {
          {u"ripristina"_s, u"Ripristina una copia nella cartella di --in, che dev'essere vuota."_s,
           u"copia"_s},
          {u"elenca"_s, u"Elenca le copie che sono nella cartella di --in."_s},
-         {u"avanzamento"_s, u"Per altri programmi: dice a che punto è, da 0 a 100, una riga alla volta."_s},
-         {u"version"_s, u"Mostra la versione."_s},
-         {{u"h"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s}});
+         {u"avanzamento"_s, u"Per altri programmi: dice a che punto è, da 0 a 100, una riga alla volta."_s}});
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     const QCoreApplication programma(argc, argv);
-    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     descriviOpzioni(parser);
-    if (!parser.parse(QCoreApplication::arguments()))
-        return rifiuta(parser.errorText());
-    if (parser.isSet(u"version"_s))
-        parser.showVersion();
-    if (parser.isSet(u"aiuto"_s)) {
-        QTextStream(stdout) << parser.helpText();
-        return Fatto;
-    }
+    if (const auto esito = bor::leggiRigaComando(parser, NonFatto))
+        return *esito;
     for (const int segnale : {SIGINT, SIGTERM, SIGHUP})
         std::signal(segnale, ferma);
     return Comando(parser).esegui();

@@ -3,9 +3,8 @@
 #include "borverifica/verifica.h"
 
 #include "archive/promemoria.h"
-#include "common/versione.h"
+#include "common/rigacomando.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -63,32 +62,18 @@ Esito verificaAzienda(const QString& unita, int codice, Forma forma) {
 
 int main(int argc, char** argv) {
     const QCoreApplication programma(argc, argv);
-    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Legge l'archivio di un'azienda e dice che cosa non concorda, senza "
                                      u"scrivervi nulla. Da usare quando "
                                      u"nessuno sta registrando documenti."_s);
     parser.addOptions({{u"unita"_s, u"Cartella che fa da radice dell'unità."_s, u"cartella"_s, u"."_s},
                        {u"azienda"_s, u"Codice dell'azienda, da 0 a 999."_s, u"codice"_s, u"1"_s},
-                       {u"version"_s, u"Mostra la versione."_s},
-                       {u"json"_s, u"Per altri programmi: un oggetto JSON per riga, uno per rilievo."_s},
-                       {{u"h"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s}});
-    if (!parser.parse(QCoreApplication::arguments())) {
-        QTextStream(stderr) << parser.errorText() << '\n';
+                       {u"json"_s, u"Per altri programmi: un oggetto JSON per riga, uno per rilievo."_s}});
+    if (const auto esito = bor::leggiRigaComando(parser, Illeggibile))
+        return *esito;
+    const auto codice = bor::numeroOpzione(parser, u"azienda"_s, 0, 999);
+    if (!codice)
         return Illeggibile;
-    }
-    if (parser.isSet(u"version"_s))
-        parser.showVersion();
-    if (parser.isSet(u"aiuto"_s)) {
-        QTextStream(stdout) << parser.helpText();
-        return InOrdine;
-    }
-    bool valido = false;
-    const int codice = parser.value(u"azienda"_s).toInt(&valido);
-    if (!valido || codice < 0 || codice > 999) {
-        QTextStream(stderr) << u"--azienda: serve un numero da 0 a 999.\n"_s;
-        return Illeggibile;
-    }
-    return verificaAzienda(parser.value(u"unita"_s), codice,
+    return verificaAzienda(parser.value(u"unita"_s), *codice,
                            parser.isSet(u"json"_s) ? Forma::Json : Forma::Testo);
 }

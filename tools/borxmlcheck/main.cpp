@@ -1,14 +1,13 @@
 // Checks electronic invoices of either version before they are sent: prints what the receiving system would
 // refuse in each file, or one file as a readable page. Ends with the number of files with findings.
 #include "borxmlcheck/resoconto.h"
-#include "common/versione.h"
+#include "common/rigacomando.h"
 #include "ui/aspetto.h"
 #include "ui/finestrafattura.h"
 #include "xmlcheck/doppioni.h"
 #include "xmlcheck/vistafattura.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDate>
 #include <QDirIterator>
@@ -95,35 +94,22 @@ int mostra(const QString& percorso) {
 int main(int argc, char** argv) {
     const std::unique_ptr<QCoreApplication> applicazione(
         conFinestra(argc, argv) ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
-    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser riga;
     riga.setApplicationDescription(
         u"Dice che cosa il sistema di interscambio rifiuterebbe in una fattura elettronica, del 2014 o di "
         u"oggi, "
         u"prima dell'invio. Il codice di uscita è il numero dei file con rilievi (al massimo 254)."_s);
-    const QCommandLineOption aiuto({u"h"_s, u"help"_s, u"aiuto"_s}, u"Mostra questo aiuto."_s);
     const QCommandLineOption json(u"json"_s, u"Scrive i rilievi in JSON."_s);
     const QCommandLineOption pagina(
         opzioneMostra,
         u"Apre la fattura in una finestra, da leggere e stampare; senza uno schermo la scrive come HTML."_s,
         u"file"_s);
-    riga.addOptions({aiuto,
-                     json,
-                     pagina,
-                     {opzioneHtml, u"Con --mostra: scrive la pagina HTML anche dove c'è uno schermo."_s},
-                     {u"version"_s, u"Mostra la versione."_s}});
+    riga.addOptions(
+        {json, pagina, {opzioneHtml, u"Con --mostra: scrive la pagina HTML anche dove c'è uno schermo."_s}});
     riga.addPositionalArgument(u"file"_s, u"I file XML da controllare, o cartelle di file XML."_s,
                                u"file..."_s);
-    if (!riga.parse(QCoreApplication::arguments())) {
-        scrivi(stderr, riga.errorText() + u'\n');
-        return bor::resoconto::esitoErrore;
-    }
-    if (riga.isSet(u"version"_s))
-        riga.showVersion();
-    if (riga.isSet(aiuto)) {
-        scrivi(stdout, riga.helpText());
-        return 0;
-    }
+    if (const auto esito = bor::leggiRigaComando(riga, bor::resoconto::esitoErrore))
+        return *esito;
     if (riga.isSet(pagina))
         return mostra(riga.value(pagina));
     if (riga.positionalArguments().isEmpty()) {
