@@ -59,7 +59,17 @@ bor::resoconto::RilieviFile controlla(const QString& percorso, bor::Doppioni& do
 const QString opzioneMostra = u"mostra"_s;
 const QString opzioneHtml = u"html"_s;
 
-/// A window is asked for, and there is a display for it.
+const QString senzaSchermo = u"offscreen"_s;
+
+/// A display that is named but does not answer counts as none.
+void preparaSchermo() {
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    const QByteArray wayland = qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "" : "wayland;";
+    qputenv("QT_QPA_PLATFORM", wayland + "xcb;" + senzaSchermo.toLatin1());
+}
+
+/// A window is asked for, and there should be a display for it.
 bool conFinestra(int argc, char** argv) {
     bool mostra = false;
     for (int i = 1; i < argc; ++i) {
@@ -80,7 +90,7 @@ int mostra(const QString& percorso) {
     }
     const QByteArray contenuto = file.read(daLeggere);
     auto* applicazione = qobject_cast<QApplication*>(QCoreApplication::instance());
-    if (!applicazione) {
+    if (!applicazione || QGuiApplication::platformName() == senzaSchermo) {
         scrivi(stdout, bor::vistaFattura(contenuto));
         return 0;
     }
@@ -92,8 +102,11 @@ int mostra(const QString& percorso) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::unique_ptr<QCoreApplication> applicazione(
-        conFinestra(argc, argv) ? new QApplication(argc, argv) : new QCoreApplication(argc, argv));
+    const bool finestra = conFinestra(argc, argv);
+    if (finestra)
+        preparaSchermo();
+    const std::unique_ptr<QCoreApplication> applicazione(finestra ? new QApplication(argc, argv)
+                                                                  : new QCoreApplication(argc, argv));
     QCommandLineParser riga;
     riga.setApplicationDescription(
         u"Dice che cosa il sistema di interscambio rifiuterebbe in una fattura elettronica, del 2014 o di "
