@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <algorithm>
 #include <atomic>
@@ -28,9 +29,18 @@ int quanteCopie() {
     return volute > 0 ? volute : 8;
 }
 
+/// The archive has room for some 2,700 of these documents: so many a copy.
+constexpr int documentiPerCopia = 24;
+
+/// How many documents both programs have stored, and how many they may.
+struct Conto {
+    std::atomic<int> registrati = 0;
+    std::atomic<int> permessi = documentiPerCopia;
+};
+
 /// Stores new documents, opens each again and stores it with other lines until it is told to stop; its
 /// document is then the one whose net to pay stands in its lines.
-void lavora(const AziendaDiProva& azienda, int chi, std::atomic<int>& registrati) {
+void lavora(const AziendaDiProva& azienda, int chi, Conto& conto) {
     Turno s(azienda);
     const auto finche = [&s](auto passo) {
         for (int volta = 0; volta < 50; ++volta) {
@@ -40,7 +50,9 @@ void lavora(const AziendaDiProva& azienda, int chi, std::atomic<int>& registrati
         }
         ::_exit(1);
     };
-    for (int n = 1; registrati >= 0; ++n) {
+    for (int n = 1; conto.permessi > 0; ++n) {
+        while (conto.permessi > 0 && conto.registrati >= conto.permessi)
+            QThread::msleep(1);
         s.nuovo(QString::number(chi * 100000 + n));
         finche([&s] { return s.salva(); });
         finche([&s] { return s.registra(); });
@@ -52,8 +64,9 @@ void lavora(const AziendaDiProva& azienda, int chi, std::atomic<int>& registrati
             s.p.documento.estremi.pdf = segno;
             finche([&s] { return s.salva(); });
             finche([&s] { return s.registra(); });
+            QThread::msleep(5);
         }
-        ++registrati;
+        ++conto.registrati;
     }
 }
 
@@ -76,15 +89,14 @@ void verificaRighe(const QString& unita) {
 TEST(CopiaDuranteIlLavoro, NonHaErroriEOgniDocumentoHaLeSueRighe) {
     AziendaDiProva azienda;
     fondaDitta(azienda);
-    void* comune =
-        ::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    void* comune = ::mmap(nullptr, sizeof(Conto), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     ASSERT_NE(comune, MAP_FAILED);
-    auto& registrati = *new (comune) std::atomic<int>(0);
+    auto& conto = *new (comune) Conto;
     std::vector<pid_t> programmi;
     for (const int chi : {1, 2}) {
         programmi.push_back(::fork());
         if (programmi.back() == 0) {
-            lavora(azienda, chi, registrati);
+            lavora(azienda, chi, conto);
             ::_exit(0);
         }
     }
@@ -92,6 +104,7 @@ TEST(CopiaDuranteIlLavoro, NonHaErroriEOgniDocumentoHaLeSueRighe) {
     qint64 blocco = 0;
     int prima = 0;
     for (int n = 0; n < quanteCopie(); ++n) {
+        conto.permessi = conto.registrati + documentiPerCopia;
         const EsitoCopia copia = creaCopia(azienda.percorsi(), 7, copie.path(), [](int) { return true; });
         ASSERT_EQ(copia.errore, QString());
         blocco = std::max(blocco, copia.blocco);
@@ -106,10 +119,10 @@ TEST(CopiaDuranteIlLavoro, NonHaErroriEOgniDocumentoHaLeSueRighe) {
                   QString());
         verificaRighe(nuova.path());
         QFile::remove(copia.percorso);
-        prima = registrati;
+        prima = conto.registrati;
     }
     EXPECT_GT(prima, 0);
-    registrati = -1000000;
+    conto.permessi = 0;
     for (const pid_t programma : programmi) {
         int stato = -1;
         ::waitpid(programma, &stato, 0);

@@ -152,7 +152,7 @@ QWidget* SceltaAzienda::costruisciCopia() {
     m_copia = new PannelloCopia(m_cartellaProgrammi, [this] { aggiorna(); });
     auto* disposizione = new QHBoxLayout(riga);
     disposizione->setContentsMargins(0, 0, 0, 0);
-    disposizione->addWidget(m_copiaBottone);
+    disposizione->addWidget(m_copiaBottone, 0, Qt::AlignLeft);
     disposizione->addWidget(m_copia, 1);
     return riga;
 }
