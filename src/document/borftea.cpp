@@ -40,6 +40,7 @@ void Borftea::riprendi() {
     m_prospetto = Prospetto::RigheIva;
     m_numeroletto = m_documento.estremi.numero.trimmed();
     m_dataletta = m_documento.estremi.data;
+    m_numeri.reset();
 }
 
 void Borftea::apri() {
@@ -60,6 +61,7 @@ void Borftea::apri() {
     }
     m_numeroletto = m_documento.estremi.numero.trimmed();
     m_dataletta = m_documento.estremi.data;
+    m_numeri.reset();
     m_aperto = m_documento;
 }
 
@@ -82,6 +84,12 @@ void Borftea::lasciaNumero() {
             u"E' stato modificato il numero del documento. Nel caso abbiate generato un documento PDF, "
             "ristampate il documento moficato oppure selezionate un diverso file PDF"_s,
             u"Attenzione"_s, Icona::Stop);
+}
+
+QString Borftea::avvisoNumero() const {
+    if (!m_numeri)
+        m_numeri.emplace(m_contesto.archivio, m_documento.recordfattura);
+    return m_numeri->avviso(m_documento.estremi);
 }
 
 void Borftea::lasciaData() {

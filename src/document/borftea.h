@@ -7,6 +7,7 @@
 #include "document/dato.h"
 #include "document/documento.h"
 #include "document/finestrarighe.h"
+#include "document/numeriusati.h"
 #include "document/righeiva.h"
 #include "document/salvadoc.h"
 
@@ -74,6 +75,8 @@ public:
 
     // Numbers and dates.
     void lasciaNumero();
+    /// Which other document of the year and VAT register has the number; empty for none.
+    QString avvisoNumero() const;
     void lasciaData();
     /// False where the company's VAT regime does not allow deferred VAT.
     bool esigAbilitato() const { return m_contesto.tabelle.regimeiva() != 0; }
@@ -89,6 +92,8 @@ public:
     QString importo(int linea, VoceIva voce) const;
     void cambiaImporto(int linea, VoceIva voce, const QString& testo);
     QString totale(Totale quale) const; ///< with a blank in front
+    /// A fee bill has advances, which the customer pays beside the instalments.
+    bool anticipazioniFuori() const;
 
     // The panels.
     Prospetto prospetto() const { return m_prospetto; }
@@ -128,9 +133,10 @@ private:
     Registrazioni& m_registrazioni;
     RigheInSospeso& m_sospese;
     ComandiEsterni m_comandi;
-    Documento m_aperto;    ///< the document as it was opened
-    QString m_numeroletto; ///< the number as last shown or warned about
-    QString m_dataletta;   ///< the date of issue that the due dates follow
+    Documento m_aperto;                          ///< the document as it was opened
+    QString m_numeroletto;                       ///< the number as last shown or warned about
+    QString m_dataletta;                         ///< the date of issue that the due dates follow
+    mutable std::optional<NumeriUsati> m_numeri; ///< read when first asked
     std::optional<PostoTea> m_fuoco;
     Prospetto m_prospetto = Prospetto::RigheIva;
     FinestraRighe m_finestra{8, 5};

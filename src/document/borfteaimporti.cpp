@@ -3,6 +3,7 @@
 #include "document/borftea.h"
 #include "document/scadenze.h"
 #include "document/totali.h"
+#include "document/totaliparcella.h"
 
 #include <algorithm>
 
@@ -55,6 +56,10 @@ QString Borftea::totale(Totale quale) const {
     const Totali t = totali(m_documento);
     const std::array<double, 4> somme = {t.somma1, t.somma2, t.somma3, t.totaledoc};
     return u' ' + m_contesto.valuta().importotesto(somme[static_cast<std::size_t>(quale)]);
+}
+
+bool Borftea::anticipazioniFuori() const {
+    return m_documento.parcella() && sommaParcella(m_documento.dddp).totanticipazioni != 0.0;
 }
 
 void Borftea::cambiato(const void* dato) {

@@ -240,6 +240,40 @@ TEST_F(DocumentForm, AvvisoSulNumeroCambiato) {
     EXPECT_EQ(contesto.operatore.messaggi[0].icona, Icona::Stop);
 }
 
+TEST_F(DocumentForm, UnNumeroUsatoDueVolteSiVedeSubito) {
+    azienda.documento(documentoDi(cliente, u"0041/a"_s, 100, 22));
+    CoppiaFte eliminata = documentoDi(cliente, u"50"_s, 100, 22);
+    eliminata.fte.annullata = 1;
+    azienda.documento(eliminata);
+    esistente(documentoDi(cliente, u"7"_s, 100, 22));
+    const auto avviso = [this](const QString& numero) {
+        form.cambia(numero, &Estremi::numero);
+        return form.avvisoNumero();
+    };
+    EXPECT_EQ(avviso(u"7"_s), QString()) << "the document's own";
+    EXPECT_EQ(avviso(u"41/A"_s), u"Già usato dal documento 0041/a del 15/03/2015"_s);
+    form.cambia(u"15/03/16"_s, &Estremi::data);
+    EXPECT_EQ(form.avvisoNumero(), QString()) << "another year";
+    form.cambia(u"151215"_s, &Estremi::data);
+    EXPECT_NE(form.avvisoNumero(), QString());
+    form.cambia(3, &Estremi::registro);
+    EXPECT_EQ(form.avvisoNumero(), QString()) << "another VAT register";
+    form.cambia(0, &Estremi::registro);
+    EXPECT_EQ(avviso(u"50"_s) + avviso({}), QString());
+    form.cambia(u"31/02/2015"_s, &Estremi::data);
+    EXPECT_EQ(avviso(u"41/A"_s), QString());
+}
+
+TEST_F(DocumentForm, LeAnticipazioniStannoFuoriDalleScadenze) {
+    nuovo();
+    documento.dddp[3].anticipazioni = 75;
+    EXPECT_FALSE(form.anticipazioniFuori()) << "no fee bill";
+    documento.coppia.fte.parcella = 2;
+    EXPECT_TRUE(form.anticipazioniFuori());
+    documento.dddp[3].anticipazioni = 0;
+    EXPECT_FALSE(form.anticipazioniFuori());
+}
+
 TEST_F(DocumentForm, IvaDifferitaRifiutataDalRegime) {
     nuovo();
     EXPECT_TRUE(form.mostraProspetto(Prospetto::IvaDifferita));
