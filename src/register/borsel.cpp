@@ -1,9 +1,11 @@
 #include "register/borsel.h"
 
+#include "common/testo.h"
 #include "document/borftem.h"
 #include "register/righeelenco.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace bor {
 
@@ -30,17 +32,30 @@ void Borsel::caricaclienti() {
         return true;
     });
     const std::vector<Riga> clienti = leggiClienti(indice.empty() ? 0 : *std::ranges::max_element(indice));
-    const QString filtro = maiuscolo(m_selnome).trimmed();
     m_righe.clear();
     for (const std::int16_t record : indice) {
         // An entry that points nowhere shows as a blank customer.
         Riga riga =
             record > 0 && record < std::ssize(clienti) ? clienti[static_cast<std::size_t>(record)] : Riga();
         riga.record = record;
-        const bool passa =
-            !riga.eliminato && (filtro.isEmpty() || maiuscolo(riga.ragione1.trimmed()).contains(filtro));
-        if (passa && m_righe.size() < massimoRighe)
-            m_righe.push_back(riga);
+        riga.cercato = piega(riga.ragione1.trimmed());
+        if (!riga.eliminato)
+            m_righe.push_back(std::move(riga));
+    }
+    filtra();
+}
+
+void Borsel::cambiaNome(const QString& testo) {
+    m_selnome = testo;
+    filtra();
+}
+
+void Borsel::filtra() {
+    const QString cercato = piega(m_selnome.trimmed());
+    m_mostrate.clear();
+    for (std::size_t i = 0; i < m_righe.size() && m_mostrate.size() < massimoRighe; ++i) {
+        if (m_righe[i].cercato.contains(cercato))
+            m_mostrate.push_back(i);
     }
     ++m_edizione;
 }
@@ -53,17 +68,20 @@ std::vector<Borsel::Riga> Borsel::leggiClienti(int ultimo) const {
     const int letti = std::clamp(ultimo, 0, suFile);
     std::vector<Riga> clienti(static_cast<std::size_t>(letti) + 1);
     file.scorri(1, letti, [&clienti](int n, const Cli& cli) {
-        clienti[static_cast<std::size_t>(n)] = {cli.sede.ragione1, cli.sede.ragione2, cli.sede.indirizzo,
-                                                cli.sede.citta,    cli.partitaiva,    0,
-                                                cli.eliminato != 0};
+        clienti[static_cast<std::size_t>(n)] = {cli.sede.ragione1,  cli.sede.ragione2,
+                                                cli.sede.indirizzo, cli.sede.citta,
+                                                cli.partitaiva,     0,
+                                                cli.eliminato != 0, {}};
         return true;
     });
     return clienti;
 }
 
 void Borsel::ordina(ColonnaCliente colonna) {
-    ordinaRighe(m_righe, [this, colonna](int riga) { return testo(riga, colonna); });
-    ++m_edizione;
+    ordinaRighe(m_righe, [this, colonna](int riga) {
+        return testo(m_righe[static_cast<std::size_t>(riga)], colonna);
+    });
+    filtra();
 }
 
 void Borsel::scegli(int riga) {
@@ -86,9 +104,10 @@ int Borsel::righeGriglia() const {
 }
 
 QString Borsel::testo(int riga, ColonnaCliente colonna) const {
-    if (!esiste(riga))
-        return {};
-    const Riga& r = m_righe[static_cast<std::size_t>(riga)];
+    return esiste(riga) ? testo(mostrata(riga), colonna) : QString();
+}
+
+QString Borsel::testo(const Riga& r, ColonnaCliente colonna) {
     switch (colonna) {
     case ColonnaCliente::Nominativo:
         return puliscitesto(r.ragione1.text());
@@ -105,7 +124,7 @@ QString Borsel::testo(int riga, ColonnaCliente colonna) const {
 }
 
 int Borsel::record(int riga) const {
-    return esiste(riga) ? m_righe[static_cast<std::size_t>(riga)].record : 0;
+    return esiste(riga) ? mostrata(riga).record : 0;
 }
 
 std::optional<int> Borsel::colore(int riga) const {

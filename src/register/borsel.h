@@ -21,8 +21,10 @@ public:
 
     /// Takes the search text from the head form and fills the list.
     void attiva();
-    void cambiaNome(const QString& testo) { m_selnome = testo; }
-    /// Fills the list anew with the customers, not deleted, whose name holds the search text.
+    /// The operator types: leaves in the list the customers whose name holds the text, accents and case
+    /// alike.
+    void cambiaNome(const QString& testo);
+    /// Reads the customers anew, those not deleted, and lists those that answer to the search text.
     void caricaclienti();
     void ordina(ColonnaCliente colonna);
     /// Double click or Enter on a row, counted from 0: back to the head form with its name. A blank row does
@@ -32,7 +34,7 @@ public:
     void esci();
 
     const QString& nome() const { return m_selnome; } ///< `selnome`
-    int quanti() const { return static_cast<int>(m_righe.size()); }
+    int quanti() const { return static_cast<int>(m_mostrate.size()); }
     /// Rows on screen, blank filler rows included.
     int righeGriglia() const;
     /// Text of a cell; a row that does not exist is blank.
@@ -54,15 +56,20 @@ private:
         Text<11> partitaiva = vuoto<Text<11>>();
         std::int16_t record = 0;
         bool eliminato = false;
+        QString cercato; ///< the name as `piega` makes it
     };
 
     std::vector<Riga> leggiClienti(int ultimo) const;
+    void filtra();
     bool esiste(int riga) const { return riga >= 0 && riga < quanti(); }
+    const Riga& mostrata(int riga) const { return m_righe[m_mostrate[static_cast<std::size_t>(riga)]]; }
+    static QString testo(const Riga& riga, ColonnaCliente colonna);
 
     Contesto& m_contesto;
     Borftem& m_chiamante;
     QString m_selnome;
-    std::vector<Riga> m_righe;
+    std::vector<Riga> m_righe;           ///< all customers
+    std::vector<std::size_t> m_mostrate; ///< indices of those that answer
     int m_edizione = 0;
 };
 

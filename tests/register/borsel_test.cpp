@@ -53,6 +53,29 @@ TEST_F(Picker, FiltraInOrdineAlfabetico_SenzaEliminati) {
     EXPECT_EQ(form.record(2), 4) << "blank filler rows stay below";
 }
 
+TEST_F(Picker, FiltraMentreSiDigitaSenzaBadareAgliAccenti) {
+    cliente(u"Rossi"_s, {}, u"7"_s);
+    const int edith = cliente(u"Bianchi Édith & Figli"_s, {}, u"3"_s);
+    cliente(u"Bar Città"_s, {}, u"5"_s);
+    nomi({});
+    form.ordina(ColonnaCliente::PartitaIva);
+    const auto quali = [this](const QString& testo) {
+        const int prima = form.edizione();
+        form.cambiaNome(testo);
+        EXPECT_GT(form.edizione(), prima) << "the screen would not see it";
+        QStringList elenco;
+        for (int i = 0; i < form.quanti(); ++i)
+            elenco.append(form.testo(i, ColonnaCliente::Nominativo));
+        return elenco.join(u'|');
+    };
+    EXPECT_EQ(quali(u"CITTA"_s), u"Bar Città"_s);
+    EXPECT_EQ(quali(u"édi"_s), u"Bianchi Édith & Figli"_s);
+    EXPECT_EQ(form.record(0), edith);
+    EXPECT_EQ(quali(u"edix"_s), QString());
+    EXPECT_EQ(form.record(0), 0);
+    EXPECT_EQ(quali({}), u"Bianchi Édith & Figli|Bar Città|Rossi"_s) << "in the chosen order";
+}
+
 TEST_F(Picker, ScegliERiportaIlNome) {
     cliente(u"Alfa"_s, {}, {});
     const int beta = cliente(u"Beta"_s, {}, {});
