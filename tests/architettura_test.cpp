@@ -21,7 +21,7 @@ const std::map<std::string, Cartelle> frecceStrumenti = {
     {"borverifica", {"common", "archive", "document"}},
     {"borefattura", {"common", "archive", "document", "xmlcheck", "fatturapa", "borxmlcheck"}},
     {"borxmlcheck", {"common", "xmlcheck", "ui"}},
-    {"borxpdf", {"common"}},
+    {"borxpdf", {"common", "ui"}},
     {"lanciatore", {"common", "archive", "borcopia", "ui"}},
     {"tour", {"common", "ui", "app", "borcrea"}},
 };

@@ -1,5 +1,7 @@
 #include "ui/areascorrevole.h"
 
+#include "ui/affiancati.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -13,8 +15,9 @@ void sposta(QVBoxLayout* da, QVBoxLayout* a) {
     const int parte = da->stretch(0);
     QLayoutItem* voce = da->takeAt(0);
     if (QWidget* widget = voce->widget()) {
-        a->addWidget(widget, parte);
+        // A widget tells its changes to the first item that was made for it.
         delete voce;
+        a->addWidget(widget, parte);
     } else if (QLayout* layout = voce->layout()) {
         a->addLayout(layout, parte);
     } else {
@@ -49,6 +52,24 @@ void AreaScorrevole::mostra(const QWidget* campo) {
     const QRect area(campo->mapTo(widget(), QPoint()), campo->size());
     ensureVisible(area.right(), area.bottom(), margine, margine);
     ensureVisible(area.left(), area.top(), margine, margine);
+}
+
+void AreaScorrevole::adatta() {
+    for (QObject* figlio : widget()->children()) {
+        if (auto* parti = dynamic_cast<Affiancati*>(figlio))
+            parti->adatta(viewport()->width());
+    }
+}
+
+bool AreaScorrevole::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (oggetto == widget() && evento->type() == QEvent::LayoutRequest)
+        adatta();
+    return QScrollArea::eventFilter(oggetto, evento);
+}
+
+void AreaScorrevole::resizeEvent(QResizeEvent* evento) {
+    adatta();
+    QScrollArea::resizeEvent(evento);
 }
 
 void AreaScorrevole::keyPressEvent(QKeyEvent* evento) {

@@ -14,9 +14,13 @@ public:
     explicit AreaScorrevole(QVBoxLayout* layout);
 
 protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
+    /// Parts that no longer fit beside each other go below each other.
+    void adatta();
     void mostra(const QWidget* campo);
 };
 

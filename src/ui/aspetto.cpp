@@ -2,11 +2,12 @@
 
 #include "common/installazione.h"
 #include "common/italiano.h"
+#include "ui/testiinteri.h"
+#include "ui/tonodesktop.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
-#include <QPalette>
 #include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
@@ -31,38 +32,33 @@ void presenta() {
     QGuiApplication::setWindowIcon(icona);
 }
 
+/// A run without a desktop always looks the same.
+bool senzaDesktop() {
+    const QString piattaforma = QGuiApplication::platformName();
+    return piattaforma == u"offscreen" || piattaforma == u"minimal";
+}
+
 } // namespace
 
 void applicaAspetto(QApplication& applicazione) {
     presenta();
     parlaItaliano();
+    applicazione.installEventFilter(new TestiInteri(&applicazione));
+    const QPalette ricevuta = QApplication::palette();
     applicazione.setStyle(QStyleFactory::create(u"Fusion"_s));
-    QPalette tinte;
-    tinte.setColor(QPalette::Window, QColor(0xEE, 0xF1, 0xF5));
-    tinte.setColor(QPalette::WindowText, QColor(0x1E, 0x27, 0x33));
-    tinte.setColor(QPalette::Base, Qt::white);
-    tinte.setColor(QPalette::AlternateBase, QColor(0xF3, 0xFA, 0xFC));
-    tinte.setColor(QPalette::Text, QColor(0x1E, 0x27, 0x33));
-    tinte.setColor(QPalette::Button, QColor(0xE4, 0xE9, 0xEF));
-    tinte.setColor(QPalette::ButtonText, QColor(0x1E, 0x27, 0x33));
-    tinte.setColor(QPalette::Highlight, QColor(0x1F, 0x6F, 0xB2));
-    tinte.setColor(QPalette::HighlightedText, Qt::white);
-    const QColor spento(0x8A, 0x94, 0xA0);
-    tinte.setColor(QPalette::Disabled, QPalette::WindowText, spento);
-    tinte.setColor(QPalette::Disabled, QPalette::Text, spento);
-    tinte.setColor(QPalette::Disabled, QPalette::ButtonText, spento);
-    applicazione.setPalette(tinte);
-    applicazione.setStyleSheet(
-        u"QGroupBox { font-weight: 600; border: 1px solid #C3CBD5; border-radius: 4px;"
-        "  margin-top: 1.1ex; padding: 4px; }"
-        "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; color: #1F5A8C; }"
-        "QLineEdit { padding: 1px 3px; border: 1px solid #B4BDC8; border-radius: 2px; background: white; }"
-        "QLineEdit:read-only { background: #E8ECF1; }"
-        "QLineEdit:disabled { background: #E8ECF1; color: #8A94A0; }"
-        "QLineEdit:focus { border: 1px solid #1F6FB2; background: #FFFBE0; }"
-        "QLineEdit[errato=\"true\"] { border: 1px solid #C62828; background: #FDE3E3; }"
-        "QComboBox:focus, QTableView:focus, QListView:focus { border: 1px solid #1F6FB2; }"
-        "QToolButton:focus { border: 2px solid #1F6FB2; border-radius: 3px; }"_s);
+    if (senzaDesktop())
+        return applicaTono(Tono::Chiaro);
+    applicaTono(tonoDelDesktop(ricevuta));
+    seguiDesktop(&applicazione, [ricevuta] {
+        const Tono tono = tonoDelDesktop(ricevuta);
+        if (tono != tonoDi(QApplication::palette()))
+            applicaTono(tono);
+    });
+}
+
+void applicaTono(Tono tono) {
+    QApplication::setPalette(tavolozza(tono));
+    qApp->setStyleSheet(foglioDiStile(tono));
 }
 
 } // namespace bor

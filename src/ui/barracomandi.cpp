@@ -1,23 +1,33 @@
 #include "ui/barracomandi.h"
 
+#include "ui/flusso.h"
 #include "ui/legami.h"
 
 #include <QHBoxLayout>
 
 namespace bor {
 
-BarraComandi::BarraComandi(Legami& legami) : m_legami(legami), m_layout(new QHBoxLayout(this)) {
+BarraComandi::BarraComandi(Legami& legami) : m_legami(legami), m_layout(new Flusso(this)) {
     setAccessibleName(QStringLiteral("Comandi"));
     m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->addStretch();
+    m_layout->molla();
 }
 
 BottoneComando* BarraComandi::comando(const QString& nome, const QString& testo, const QString& icona,
                                       const QString& tasto, std::function<void()> azione) {
     auto* bottone = new BottoneComando(nome, testo, icona, QKeySequence(tasto));
     m_legami.comando(bottone, std::move(azione));
-    m_layout->insertWidget(m_layout->count() - 1, bottone);
+    QLayoutItem* molla = m_layout->takeAt(m_layout->count() - 1);
+    m_layout->addWidget(bottone);
+    m_layout->addItem(molla);
     return bottone;
+}
+
+void BarraComandi::spazio() {
+    constexpr int punti = 24;
+    QLayoutItem* molla = m_layout->takeAt(m_layout->count() - 1);
+    m_layout->spazio(punti);
+    m_layout->addItem(molla);
 }
 
 BarraProspetti::BarraProspetti(Legami& legami, const QString& nome)
@@ -37,11 +47,6 @@ BottoneComando* BarraProspetti::prospetto(const QString& nome, const QString& te
     connect(bottone, &QToolButton::clicked, this, mostra);
     m_layout->addWidget(bottone);
     return bottone;
-}
-
-void BarraComandi::spazio() {
-    constexpr int punti = 24;
-    m_layout->insertSpacing(m_layout->count() - 1, punti);
 }
 
 } // namespace bor

@@ -1,4 +1,4 @@
-// The row of picture buttons at the foot of a screen.
+// The row of picture buttons at the foot of a screen; two rows where the window is too narrow for one.
 #pragma once
 
 #include "ui/campi.h"
@@ -9,13 +9,15 @@ class QHBoxLayout;
 
 namespace bor {
 
+class Flusso;
 class Legami;
 
 class BarraComandi : public QWidget {
 public:
     explicit BarraComandi(Legami& legami);
 
-    /// Adds a button behind the others; the arguments are those of `BottoneComando` and what a click does.
+    /// Adds a button behind the others, and in front of the room that is left; the arguments are those of
+    /// `BottoneComando` and what a click does.
     BottoneComando* comando(const QString& nome, const QString& testo, const QString& icona,
                             const QString& tasto, std::function<void()> azione);
     /// Room between two groups of buttons.
@@ -23,7 +25,7 @@ public:
 
 private:
     Legami& m_legami;
-    QHBoxLayout* m_layout;
+    Flusso* m_layout;
 };
 
 /// The row of buttons above the panels that share one place: that of the panel in view is down.

@@ -11,6 +11,7 @@ namespace bor {
 BarraIntestazioni::BarraIntestazioni(QTableView* griglia, const std::vector<Comando>& comandi,
                                      const std::function<void(int)>& ordina)
     : m_griglia(griglia) {
+    constexpr double piccolo = 0.9;
     for (const Comando& comando : comandi) {
         auto* bottone = new QToolButton(this);
         bottone->setObjectName(u"srx(%1)"_s.arg(comando.colonna));
@@ -24,7 +25,10 @@ BarraIntestazioni::BarraIntestazioni(QTableView* griglia, const std::vector<Coma
         bottone->setToolTip(u"Ordina l'elenco (%1)"_s.arg(comando.tasto.toString(QKeySequence::NativeText)));
         bottone->setFocusPolicy(Qt::NoFocus);
         bottone->setAutoRaise(true);
-        bottone->setStyleSheet(u"QToolButton { color: #1F5A8C; font-size: 11px; padding: 0; }"_s);
+        bottone->setProperty("intestazione", true);
+        QFont carattere = font();
+        carattere.setPointSizeF(carattere.pointSizeF() * piccolo);
+        bottone->setFont(carattere);
         connect(bottone, &QToolButton::clicked, this,
                 [ordina, colonna = comando.colonna] { ordina(colonna); });
         m_bottoni.emplace_back(comando.colonna, bottone);

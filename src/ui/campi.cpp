@@ -1,11 +1,12 @@
 #include "ui/campi.h"
 
+#include "ui/icona.h"
 #include "ui/legami.h"
 #include "ui/validatoreimporto.h"
 
 #include <QFocusEvent>
 #include <QGridLayout>
-#include <QIcon>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QShortcut>
@@ -50,6 +51,12 @@ void CampoTesto::focusInEvent(QFocusEvent* evento) {
     QLineEdit::focusInEvent(evento);
 }
 
+void CampoTesto::focusOutEvent(QFocusEvent* evento) {
+    QLineEdit::focusOutEvent(evento);
+    if (!interrompeSoltanto(evento->reason()) && fontMetrics().horizontalAdvance(text()) > width())
+        setCursorPosition(0);
+}
+
 void CampoTesto::mouseReleaseEvent(QMouseEvent* evento) {
     QLineEdit::mouseReleaseEvent(evento);
     if (std::exchange(m_appenaEntrato, false) && !hasSelectedText())
@@ -76,7 +83,7 @@ BottoneComando::BottoneComando(const QString& nome, const QString& didascalia, c
     setObjectName(nome);
     setAccessibleName(didascalia);
     if (!icona.isEmpty()) {
-        setIcon(QIcon(u":/icone/%1.svg"_s.arg(icona)));
+        setIcon(bor::icona(icona));
         setIconSize(QSize(28, 28));
         setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     }
@@ -106,6 +113,16 @@ QLabel* didascalia(const QString& testo, QWidget* campo, QWidget* parent) {
     auto* etichetta = new QLabel(testo, parent);
     etichetta->setBuddy(campo);
     return etichetta;
+}
+
+QWidget* conDidascalia(const QString& testo, QWidget* campo) {
+    auto* insieme = new QWidget;
+    auto* linea = new QHBoxLayout(insieme);
+    linea->setContentsMargins(0, 0, 0, 0);
+    linea->addWidget(didascalia(testo, campo));
+    linea->addWidget(campo);
+    insieme->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return insieme;
 }
 
 void riga(QGridLayout* griglia, int numero, const QString& testo, QWidget* campo, int colonna) {

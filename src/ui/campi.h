@@ -25,6 +25,8 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* evento) override;
+    /// A text that is longer than the box shows its beginning again.
+    void focusOutEvent(QFocusEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
     int m_caratteri; ///< characters that the box is wide; 0 for as wide as it gets
@@ -68,6 +70,9 @@ private:
 
 /// A caption that belongs to a field and, with "&", gives it a key.
 QLabel* didascalia(const QString& testo, QWidget* campo, QWidget* parent = nullptr);
+
+/// A field behind its caption, which stay together where a line breaks.
+QWidget* conDidascalia(const QString& testo, QWidget* campo);
 
 /// Puts a caption and its field into a row of a two-column grid, from the given column on.
 void riga(QGridLayout* griglia, int riga, const QString& testo, QWidget* campo, int colonna = 0);

@@ -27,6 +27,7 @@ CampoData* CampiLegati::data(const QString& nome, const QString& calendario, con
                              const Legame<QString>& dato) const {
     auto* data = new CampoData(nome, calendario, didascalia, m_bordata);
     m_legami.testo(data->campo(), dato.leggi, dato.scrivi);
+    m_legami.segnala(data->campo(), [leggi = dato.leggi] { return avvisoData(leggi()); });
     return data;
 }
 

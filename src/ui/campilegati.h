@@ -22,6 +22,7 @@ public:
                       const Legame<QString>& dato) const;
     CampoImporto* importo(const QString& nome, const QString& didascalia, const Legame<QString>& dato,
                           int caratteri = 0) const;
+    /// A date that does not exist is marked as long as it stands there.
     CampoData* data(const QString& nome, const QString& calendario, const QString& didascalia,
                     const Legame<QString>& dato) const;
     QCheckBox* spunta(const QString& nome, const QString& didascalia, const Legame<bool>& dato) const;

@@ -1,12 +1,12 @@
 #include "ui/campodata.h"
 
 #include "common/date.h"
+#include "ui/icona.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QList>
 #include <QScopedValueRollback>
@@ -70,13 +70,17 @@ void FinestraData::scegli() {
     accept();
 }
 
+QString avvisoData(const QString& testo) {
+    return dataInesistente(testo) ? u"Questa data non esiste"_s : QString();
+}
+
 CampoData::CampoData(const QString& nome, const QString& nomeCalendario, const QString& didascalia,
                      const Bordata& bordata, QWidget* parent)
     : QWidget(parent), m_bordata(bordata), m_campo(new CampoTesto(nome, didascalia, caratteriData)),
       m_bottone(new QToolButton) {
     m_bottone->setObjectName(nomeCalendario);
     m_bottone->setAccessibleName(didascalia + u": calendario"_s);
-    m_bottone->setIcon(QIcon(u":/icone/calendario.svg"_s));
+    m_bottone->setIcon(icona(u"calendario"_s));
     m_bottone->setToolTip(u"Calendario (F4)"_s);
     m_bottone->setFocusPolicy(Qt::NoFocus);
     m_campo->selezionaAlClic();

@@ -28,6 +28,9 @@ private:
     bool m_cammina = false; ///< a key is moving the selection
 };
 
+/// Why a date box is marked: its text has the form of a date that does not exist. Empty for any other.
+QString avvisoData(const QString& testo);
+
 /// A date box with a calendar button beside it. On leaving, "311215" and "31122015" become "31/12/2015"; any
 /// other text stays for the checks of its form. The line edit carries the control's name.
 class CampoData : public QWidget {

@@ -13,9 +13,10 @@ namespace bor {
 
 Finestra::Finestra() : m_pila(new QStackedWidget) {
     setCentralWidget(m_pila);
-    // Never larger than what the screen has free, its own frame included.
+    // As the letters need it; never larger than what the screen has free, its own frame included.
     const QSize cornice(2, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
-    resize(QSize(1280, 720).boundedTo(screen()->availableSize() - cornice));
+    const QSize comoda(160 * fontMetrics().horizontalAdvance(u'0'), 48 * fontMetrics().height());
+    resize(comoda.boundedTo(screen()->availableSize() - cornice));
 }
 
 void Finestra::aggiungi(Schermo schermo, Vista* vista) {

@@ -1,6 +1,7 @@
 #include "ui/finestrafattura.h"
 
 #include "ui/campi.h"
+#include "ui/tinte.h"
 #include "xmlcheck/vistafattura.h"
 
 #include <QFileDialog>
@@ -29,6 +30,8 @@ public:
     Pagina() {
         setObjectName(u"pagina"_s);
         setAccessibleName(u"Fattura elettronica"_s);
+        // A sheet of paper, also on a dark desktop.
+        setPalette(tavolozza(Tono::Chiaro));
         // A word of any length stays within the width of the page.
         setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

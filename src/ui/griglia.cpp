@@ -1,9 +1,11 @@
 #include "ui/griglia.h"
 
-#include <QColor>
+#include "ui/icona.h"
+#include "ui/tinte.h"
+
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
-#include <QIcon>
 #include <QShortcut>
 #include <QTableView>
 
@@ -23,39 +25,57 @@ void vaiARiga(QTableView* elenco, int riga) {
     elenco->setCurrentIndex(elenco->model()->index(riga, std::max(elenco->currentIndex().column(), 0)));
 }
 
-/// Where a grid is too narrow for all of its columns, the widest one gives way, so that none is out of sight.
-class ColonnaCedevole : public QObject {
+/// Shares the width of a grid: texts take what the narrow columns leave, each by its stated width, and the
+/// elastic column at least what its content needs.
+class ColonneDaTesto : public QObject {
 public:
-    ColonnaCedevole(QTableView* elenco, int colonna, int larghezza)
-        : QObject(elenco), m_elenco(elenco), m_colonna(colonna), m_larghezza(larghezza) {
+    ColonneDaTesto(QTableView* elenco, std::span<const ColonnaGriglia> colonne)
+        : QObject(elenco), m_elenco(elenco), m_colonne(colonne) {
         elenco->viewport()->installEventFilter(this);
+        elenco->horizontalHeader()->setMinimumSectionSize(1);
     }
 
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override {
-        if (evento->type() == QEvent::Resize)
+        if (evento->type() == QEvent::Resize || evento->type() == QEvent::FontChange)
             adatta();
         return QObject::eventFilter(oggetto, evento);
     }
 
 private:
+    /// Of a stated width in pixels: a thousand has room for a date.
+    int punti(int larghezza) const {
+        return larghezza * m_elenco->fontMetrics().horizontalAdvance(QStringLiteral("00/00/000000")) / 1000;
+    }
+    static bool diTesto(const ColonnaGriglia& colonna) {
+        constexpr int larga = 2000;
+        return colonna.larghezza >= larga;
+    }
     void adatta() {
         QHeaderView* testata = m_elenco->horizontalHeader();
-        int altre = 0;
-        for (int i = 0; i < testata->count(); ++i) {
-            if (i == m_colonna || testata->isSectionHidden(i))
-                continue;
-            altre += testata->sectionResizeMode(i) == QHeaderView::Stretch ? testata->sectionSizeHint(i)
-                                                                           : testata->sectionSize(i);
+        int libera = m_elenco->viewport()->width();
+        int parti = 0;
+        for (int i = 0; i < std::ssize(m_colonne); ++i) {
+            const ColonnaGriglia& colonna = m_colonne[static_cast<std::size_t>(i)];
+            if (diTesto(colonna))
+                parti += colonna.larghezza;
+            else if (colonna.larghezza == ColonnaGriglia::elastica)
+                libera -= std::max(testata->sectionSizeHint(i), punti(colonna.minima));
+            else
+                libera -= punti(colonna.larghezza);
         }
-        const int minima = testata->sectionSizeHint(m_colonna);
-        testata->resizeSection(
-            m_colonna, std::max(minima, std::min(m_larghezza, m_elenco->viewport()->width() - altre)));
+        for (int i = 0; i < std::ssize(m_colonne); ++i) {
+            const ColonnaGriglia& colonna = m_colonne[static_cast<std::size_t>(i)];
+            if (diTesto(colonna))
+                testata->resizeSection(
+                    i, std::max(testata->sectionSizeHint(i), libera * colonna.larghezza / parti));
+            else if (colonna.larghezza > 0)
+                testata->resizeSection(i, punti(colonna.larghezza));
+        }
     }
 
     QTableView* m_elenco;
-    int m_colonna;
-    int m_larghezza;
+    std::span<const ColonnaGriglia> m_colonne;
 };
 
 } // namespace
@@ -86,11 +106,15 @@ QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
     case Qt::TextAlignmentRole:
         return headerData(indice.column(), Qt::Horizontal, ruolo);
     case Qt::BackgroundRole:
-        if (const auto colore = m_celle.colore(indice.row(), indice.column()))
-            return coloreQt(*colore);
+        if (const auto fondo = fondoDi(indice))
+            return *fondo;
+        return {};
+    case Qt::ForegroundRole:
+        if (const auto fondo = fondoDi(indice))
+            return testoSu(*fondo);
         return {};
     case Qt::DecorationRole: {
-        static const QIcon segno(QStringLiteral(":/icone/nota.svg"));
+        static const QIcon segno = icona(QStringLiteral("nota"));
         return indice.column() == m_celle.segnata && !nota(indice.row()).isEmpty() ? QVariant(segno)
                                                                                    : QVariant();
     }
@@ -104,6 +128,13 @@ QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
 
 QString ModelloGriglia::nota(int riga) const {
     return m_celle.nota ? m_celle.nota(riga) : QString();
+}
+
+std::optional<QColor> ModelloGriglia::fondoDi(const QModelIndex& indice) const {
+    const std::optional<int> colore = m_celle.colore(indice.row(), indice.column());
+    if (!colore)
+        return std::nullopt;
+    return fondoIn(tonoDi(QGuiApplication::palette()), coloreQt(*colore));
 }
 
 QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation orientamento, int ruolo) const {
@@ -138,21 +169,14 @@ void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne,
     elenco->verticalHeader()->setDefaultSectionSize(elenco->fontMetrics().height() + 5);
     QHeaderView* testata = elenco->horizontalHeader();
     testata->setHighlightSections(false);
-    constexpr double ingrandimento = 1.2;
-    const auto punti = [elenco](int larghezza) {
-        return static_cast<int>(larghezza * ingrandimento * elenco->logicalDpiX() / 1440);
-    };
     for (int i = 0; i < std::ssize(colonne); ++i) {
         const int larghezza = colonne[static_cast<std::size_t>(i)].larghezza;
         if (larghezza == ColonnaGriglia::nascosta)
             elenco->hideColumn(i);
         else if (larghezza == ColonnaGriglia::elastica)
             testata->setSectionResizeMode(i, QHeaderView::Stretch);
-        else
-            testata->resizeSection(i, punti(larghezza));
     }
-    const auto larga = std::ranges::max_element(colonne, {}, &ColonnaGriglia::larghezza);
-    new ColonnaCedevole(elenco, static_cast<int>(larga - colonne.begin()), punti(larga->larghezza));
+    new ColonneDaTesto(elenco, colonne);
 }
 
 } // namespace bor

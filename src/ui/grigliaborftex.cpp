@@ -136,9 +136,12 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     const QString didascalia = u"%1, riga %2"_s.arg(modello.didascalia).arg(cella.linea + 1);
     CampoTesto* nuovo = modello.numero ? new CampoImporto(nome, didascalia)
                                        : new CampoTesto(nome, didascalia, modello.caratteri);
-    if (cella.campo != Campo::Ds) {
-        nuovo->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * (modello.caratteri + 2));
-    }
+    constexpr int minimaDescrizione = 22;
+    const int lettera = fontMetrics().horizontalAdvance(u'0');
+    if (cella.campo == Campo::Ds)
+        nuovo->setMinimumWidth(lettera * minimaDescrizione);
+    else
+        nuovo->setFixedWidth(lettera * (modello.caratteri + 2));
     // The rows share the height that the window has to give.
     nuovo->setSizePolicy(nuovo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     nuovo->setMaximumHeight(fontMetrics().height() * 5 / 2);

@@ -10,9 +10,12 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QStringList>
 #include <QStyle>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace bor {
 
@@ -28,6 +31,15 @@ bool inFuoco(const QWidget* widget) {
 bool interrompeSoltanto(Qt::FocusReason motivo) {
     return motivo == Qt::ActiveWindowFocusReason || motivo == Qt::PopupFocusReason ||
            motivo == Qt::MenuBarFocusReason;
+}
+
+void segna(QWidget* widget, const char* proprieta, bool acceso) {
+    if (widget->property(proprieta).toBool() == acceso)
+        return;
+    widget->setProperty(proprieta, acceso);
+    // Only then does the style sheet look at the property again.
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
 }
 
 Legami::Legami(std::function<void()> dopo) : m_dopo(std::move(dopo)) {}
@@ -59,17 +71,27 @@ void Legami::testo(QLineEdit* campo, Leggi leggi, Scrivi scrivi) {
 }
 
 void Legami::segnala(QLineEdit* campo, Leggi avviso) {
+    m_segnalati.push_back(campo);
     altro([campo, avviso] {
         const QString testo = avviso();
         if (testo == campo->toolTip())
             return;
         campo->setToolTip(testo);
         campo->setAccessibleDescription(testo);
-        campo->setProperty("errato", !testo.isEmpty());
-        // Only then does the style sheet look at the property again.
-        campo->style()->unpolish(campo);
-        campo->style()->polish(campo);
+        segna(campo, "errato", !testo.isEmpty());
     });
+}
+
+QString Legami::avvisi() const {
+    QStringList testi;
+    for (const QLineEdit* campo : m_segnalati) {
+        QString testo = campo->toolTip();
+        if (testo.isEmpty() || !campo->isVisible())
+            continue;
+        testo[0] = testo[0].toLower();
+        testi.append(campo->accessibleName() + u": "_s + testo);
+    }
+    return testi.join(u"; "_s);
 }
 
 void Legami::spunta(QAbstractButton* bottone, std::function<bool()> leggi, std::function<void(bool)> scrivi) {

@@ -13,12 +13,14 @@ class QComboBox;
 class QFocusEvent;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace bor {
 
 /// The focus only goes for a while to a menu, a list or another window, and comes back.
 bool interrompeSoltanto(Qt::FocusReason motivo);
+
+/// Sets a property that the style sheet draws by: "errato", "scarto".
+void segna(QWidget* widget, const char* proprieta, bool acceso);
 
 class Legami : public QObject {
 public:
@@ -33,6 +35,8 @@ public:
     void testo(QLineEdit* campo, Leggi leggi, Scrivi scrivi = {});
     /// Marks the field while `avviso` says what is wrong with it; empty for nothing.
     void segnala(QLineEdit* campo, Leggi avviso);
+    /// Names the marked fields of the screen in view, with what is wrong with each.
+    QString avvisi() const;
     void spunta(QAbstractButton* bottone, std::function<bool()> leggi, std::function<void(bool)> scrivi);
     /// Positions count from 0; -1 is no selection. `scrivi` hears only what the operator chooses, and the
     /// wheel chooses nothing while the list is closed.
@@ -70,6 +74,7 @@ private:
 
     std::function<void()> m_dopo;
     std::vector<std::function<void()>> m_aggiornamenti;
+    std::vector<const QLineEdit*> m_segnalati;
     std::vector<Fuoco> m_fuochi;
     QObject* m_inModifica = nullptr;
     bool m_ritorno = false; ///< the focus comes back to a field after a command

@@ -23,6 +23,7 @@ RiquadroTea creaEstremi(const BancoTea& banco) {
     auto* numero =
         banco.campi.testo(u"Text2(0)"_s, u"Numero del documento"_s, 10, legame(form, &Estremi::numero));
     banco.legami.lasciato(numero, [&form] { form.lasciaNumero(); });
+    banco.legami.segnala(numero, [&form] { return form.avvisoNumero(); });
     auto* emissione = banco.campi.data(u"text3(1)"_s, u"calendario(1)"_s, u"Data di emissione"_s,
                                        legame(form, &Estremi::data));
     banco.legami.lasciato(emissione->campo(), [&form] { form.lasciaData(); });

@@ -36,7 +36,8 @@ QLabel* etichetta(const BancoTea& banco, const QString& nome, const QString& mod
     testo->setMinimumWidth(testo->fontMetrics().horizontalAdvance(modello));
     testo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     banco.legami.altro([testo, leggi] {
-        // The captions of a company may be longer than there is room for.
+        // The captions of a company may be longer than there is room for: the tooltip has them whole, and so
+        // has the line below for the row in focus.
         testo->setText(leggi());
         testo->setToolTip(testo->text());
     });
@@ -51,6 +52,9 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(9);
     Borftea& form = banco.form;
+    auto* intera = new QLabel;
+    intera->setObjectName(u"vocerigaiva"_s);
+    intera->setWordWrap(true);
     std::vector<QWidget*> percorso;
     for (const ColonnaIva& c : colonne)
         griglia->addWidget(new QLabel(c.descrizione.toString()), 0, c.colonna, Qt::AlignRight);
@@ -71,6 +75,7 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
             banco.legami.testo(
                 casella, [&form, i, voce = c.voce] { return form.importo(i, voce); },
                 [&form, i, voce = c.voce](const QString& t) { form.cambiaImporto(i, voce, t); });
+            banco.legami.entrato(casella, [intera, casella] { intera->setText(casella->accessibleName()); });
             griglia->addWidget(casella, i + 1, c.colonna);
             percorso.push_back(casella);
         }
@@ -78,7 +83,8 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
     griglia->addWidget(cursoreRighe(banco.legami, form, u"Prima riga visibile"_s), 1, 5, linee, 1);
     griglia->setColumnStretch(0, 3);
     griglia->setColumnStretch(3, 4);
-    griglia->setRowStretch(linee + 1, 1);
+    griglia->addWidget(intera, linee + 1, 0, 1, 6);
+    griglia->setRowStretch(linee + 2, 1);
     banco.invio.catena(percorso);
     return {gruppo, percorso.front(), percorso.back()};
 }

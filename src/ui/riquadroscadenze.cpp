@@ -1,4 +1,5 @@
 // Instalments, way of payment and the agent's commission.
+#include "ui/flusso.h"
 #include "ui/riquadritea.h"
 
 #include <QCheckBox>
@@ -48,7 +49,7 @@ std::vector<QWidget*> creaRate(const BancoTea& banco, QGridLayout* griglia) {
 
 QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso) {
     auto* insieme = new QWidget;
-    auto* linea = new QHBoxLayout(insieme);
+    auto* linea = new Flusso(insieme);
     linea->setContentsMargins(0, 0, 0, 0);
     Borftea& form = banco.form;
     auto* aliquota = banco.campi.importo(u"pro(0)"_s, u"Provvigione agente: Aliquota"_s,
@@ -58,13 +59,11 @@ QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso)
     for (QWidget* campo : {static_cast<QWidget*>(aliquota), static_cast<QWidget*>(importo)})
         campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     linea->addWidget(new QLabel(u"Provvigione agente"_s));
-    linea->addSpacing(12);
-    linea->addWidget(didascalia(u"Aliquota"_s, aliquota));
-    linea->addWidget(aliquota);
-    linea->addSpacing(12);
-    linea->addWidget(didascalia(u"Importo"_s, importo));
-    linea->addWidget(importo);
-    linea->addStretch();
+    linea->spazio(12);
+    linea->addWidget(conDidascalia(u"Aliquota"_s, aliquota));
+    linea->spazio(12);
+    linea->addWidget(conDidascalia(u"Importo"_s, importo));
+    linea->molla();
     percorso.insert(percorso.end(), {aliquota, importo});
     return insieme;
 }
@@ -90,6 +89,11 @@ RiquadroTea creaScadenze(const BancoTea& banco) {
     griglia->setVerticalSpacing(7);
     std::vector<QWidget*> percorso = creaRate(banco, griglia);
     colonna->addLayout(griglia);
+    auto* fuori = new QLabel(u"Anticipazioni non comprese nelle scadenze"_s);
+    fuori->setObjectName(u"anticipazioni"_s);
+    fuori->setProperty("avviso", true);
+    banco.legami.visibile(fuori, [&form] { return form.anticipazioniFuori(); });
+    colonna->addWidget(fuori);
     colonna->addWidget(creaProvvigione(banco, percorso));
     banco.invio.passo(pagamento, percorso.front());
     banco.invio.passo(rib, percorso.front());

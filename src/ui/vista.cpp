@@ -33,17 +33,30 @@ Vista::Vista(QWidget* parent)
 }
 
 void Vista::intesta(const std::function<QString()>& testo) {
+    auto* avvisi = new QLabel;
+    avvisi->setObjectName(u"avvisi"_s);
+    avvisi->setAccessibleName(u"Da controllare"_s);
+    avvisi->setTextFormat(Qt::PlainText);
+    avvisi->setProperty("avviso", true);
+    avvisi->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    avvisi->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* riga = new QLabel;
     riga->setObjectName(u"intestazione"_s);
     riga->setAccessibleName(u"Documento"_s);
     riga->setTextFormat(Qt::PlainText);
     riga->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     riga->setStyleSheet(u"font-weight: bold;"_s);
-    legami.altro([riga, testo] {
+    legami.altro([this, riga, avvisi, testo] {
         riga->setText(testo());
         riga->setToolTip(riga->text());
+        avvisi->setText(legami.avvisi());
+        avvisi->setToolTip(avvisi->text());
+        avvisi->setVisible(!avvisi->text().isEmpty());
     });
-    static_cast<QBoxLayout*>(layout())->insertWidget(0, riga);
+    auto* cima = new QHBoxLayout;
+    cima->addWidget(riga, 1);
+    cima->addWidget(avvisi, 1);
+    static_cast<QBoxLayout*>(layout())->insertLayout(0, cima);
 }
 
 void Vista::offriGuida(const QKeySequence& tasto, const std::function<void()>& apri) {

@@ -21,7 +21,8 @@ public:
     virtual void lascia() = 0;
     /// Caption of the window while the screen is in view.
     virtual QString titolo() const = 0;
-    /// Puts a line at the top of the screen; `testo` is asked at each refresh.
+    /// Puts a line at the top of the screen, and beside it what its fields are marked for; `testo` is asked
+    /// at each refresh.
     void intesta(const std::function<QString()>& testo);
     /// Puts a button at the end of the command bar that opens the guide, and the key that presses it.
     void offriGuida(const QKeySequence& tasto, const std::function<void()>& apri);

@@ -5,6 +5,7 @@
 #include "ui/barraintestazioni.h"
 #include "ui/campi.h"
 #include "ui/finestrainformazioni.h"
+#include "ui/flusso.h"
 #include "ui/griglia.h"
 
 #include <QButtonGroup>
@@ -58,7 +59,7 @@ QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList
     for (int i = 0; i < didascalie.size(); ++i) {
         auto* opzione = new QRadioButton(didascalie[i]);
         opzione->setObjectName(u"%1(%2)"_s.arg(nome).arg(i));
-        opzione->setAccessibleName(didascalie[i]);
+        opzione->setAccessibleName(titolo + u": "_s + didascalie[i]);
         bottoni->addButton(opzione, i);
         colonna->addWidget(opzione);
         const auto quale = static_cast<Opzione>(i);
@@ -94,7 +95,7 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
 
 QWidget* VistaBorfte::creaOpzioni() {
     auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
+    auto* layout = new Flusso(barra);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(opzioni<Selvis>(
         u"Registrazioni"_s, u"selvis"_s,
@@ -106,12 +107,13 @@ QWidget* VistaBorfte::creaOpzioni() {
         {u"Visualizza a partire dalla prima registrazione"_s,
          u"Visualizza a partire dall'ultima registrazione"_s},
         legami, [this] { return m_form.visua(); }, [this](Visua scelta) { m_form.cambiaVisua(scelta); }));
-    layout->addWidget(creaFiltro(), 1);
+    layout->addWidget(creaFiltro());
     return barra;
 }
 
 QGroupBox* VistaBorfte::creaFiltro() {
     auto* filtro = new QGroupBox(u"Filtro"_s);
+    filtro->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     auto* colonna = new QVBoxLayout(filtro);
     auto* lista = new QComboBox;
     lista->setObjectName(u"Combo1"_s);
@@ -182,7 +184,8 @@ QWidget* VistaBorfte::creaElenco() {
 
 QWidget* VistaBorfte::creaComandi() {
     auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
+    barra->setAccessibleName(u"Comandi"_s);
+    auto* layout = new Flusso(barra);
     layout->setContentsMargins(0, 0, 0, 0);
     creaBottoni(layout);
     auto* avanzamento = new QProgressBar;
@@ -194,8 +197,8 @@ QWidget* VistaBorfte::creaComandi() {
         avanzamento->setRange(1, std::max(riordino.massimo(), 1));
         avanzamento->setValue(riordino.avanzamento());
     });
-    layout->addWidget(avanzamento, 1);
-    layout->addStretch();
+    layout->addWidget(avanzamento);
+    layout->molla();
     auto* informazioni = new BottoneComando(u"informazioni"_s, u"Informazioni"_s, u"informazioni"_s,
                                             QKeySequence(u"Ctrl+I"_s));
     legami.comando(informazioni, [this] { mostraInformazioni(); });
@@ -203,11 +206,11 @@ QWidget* VistaBorfte::creaComandi() {
     layout->addWidget(informazioni);
     auto* scritta = new QLabel(u"Ver. N."_s + versione());
     scritta->setObjectName(u"xx_versione"_s);
-    layout->addWidget(scritta, 0, Qt::AlignBottom);
+    layout->addWidget(scritta);
     return barra;
 }
 
-void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
+void VistaBorfte::creaBottoni(Flusso* layout) {
     const ComandoRiordino& riordino = m_form.statoRiordino();
     const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
                              std::function<void()> azione, const std::function<bool()>& visibile) {
@@ -227,7 +230,7 @@ void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
         1, u"Aggiorna"_s, u"aggiorna"_s, u"F5"_s, [this] { m_form.rileggi(); }, sempre);
     comando(
         2, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.scegliRiordino(); }, fermo);
-    layout->addSpacing(24);
+    layout->spazio(24);
     auto* etichetta = new QLabel;
     etichetta->setObjectName(u"Label3"_s);
     legami.etichetta(etichetta, [&riordino] { return riordino.etichetta(); });
@@ -237,7 +240,7 @@ void VistaBorfte::creaBottoni(QHBoxLayout* layout) {
         3, u"Fattura"_s, u"fattura"_s, u"F2"_s, [this] { m_form.nuovoDocumento(0); }, fermo);
     comando(
         4, u"Nota di credito"_s, u"notacredito"_s, u"F3"_s, [this] { m_form.nuovoDocumento(1); }, fermo);
-    layout->addSpacing(8);
+    layout->spazio(8);
     comando(
         8, u"Elettronica"_s, u"elettronica"_s, u"F9"_s,
         [this] { m_form.fatturaElettronica(m_elenco->currentIndex().row()); }, fermo);

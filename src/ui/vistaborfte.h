@@ -4,7 +4,6 @@
 #include "ui/vista.h"
 
 class QGroupBox;
-class QHBoxLayout;
 class QLabel;
 class QTableView;
 
@@ -12,6 +11,7 @@ namespace bor {
 
 class Borfte;
 class CampoTesto;
+class Flusso;
 class ModelloGriglia;
 
 class VistaBorfte : public Vista {
@@ -30,7 +30,7 @@ private:
     QGroupBox* creaFiltro();
     QWidget* creaElenco();
     QWidget* creaComandi();
-    void creaBottoni(QHBoxLayout* layout);
+    void creaBottoni(Flusso* layout);
     void creaScorciatoie();
     void mostraInformazioni();
     void aggiornaElenco();

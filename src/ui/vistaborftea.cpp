@@ -1,6 +1,8 @@
 #include "ui/vistaborftea.h"
 
+#include "ui/affiancati.h"
 #include "ui/barracomandi.h"
+#include "ui/flusso.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -43,12 +45,12 @@ VistaBorftea::VistaBorftea(Borftea& form, QWidget* parent) : Vista(parent), m_fo
     destra->addWidget(ricavi.gruppo);
     destra->addWidget(creaTotali());
     destra->addStretch();
-    auto* centro = new QHBoxLayout;
-    centro->addLayout(sinistra, 11);
-    centro->addLayout(destra, 10);
+    auto* centro = new Affiancati;
+    centro->aggiungi(sinistra, 13);
+    centro->aggiungi(destra, 10);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(6);
-    layout->addLayout(centro, 1);
+    layout->addWidget(centro, 1);
     layout->addWidget(creaPdf(banco));
     layout->addWidget(creaComandi());
     collegaPercorso(estremi, scadenze, ricavi);
@@ -102,14 +104,14 @@ QWidget* VistaBorftea::creaTotali() {
 
 QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
     auto* barra = new QWidget;
-    auto* linea = new QHBoxLayout(barra);
+    auto* linea = new Flusso(barra);
     linea->setContentsMargins(0, 0, 0, 0);
     const QString documento = u"Documento in formato PDF"_s;
     auto* pdf = banco.campi.testo(u"pdf"_s, documento, caratteriPdf, legame(m_form, &Estremi::pdf));
     auto* etichetta = didascalia(documento, pdf);
     etichetta->setObjectName(u"Label2"_s);
     linea->addWidget(etichetta);
-    linea->addWidget(pdf, 1);
+    linea->addWidget(pdf);
 
     auto* scelta = new QWidget;
     scelta->setObjectName(u"Picture1"_s);
@@ -126,13 +128,13 @@ QWidget* VistaBorftea::creaPdf(const BancoTea& banco) {
     bottone(1, u"Apri"_s, u"Ctrl+P"_s, Comando::ApriPdf);
     legami.visibile(scelta, [this] { return m_form.pdfVisibile(); });
     linea->addWidget(scelta);
-    linea->addSpacing(16);
+    linea->spazio(16);
     linea->addWidget(banco.campi.spunta(u"postael"_s, u"Invia il documento per posta elettronica"_s,
                                         legame(m_form, &Estremi::postael)));
     return barra;
 }
 
-void VistaBorftea::comando(QHBoxLayout* barra, int indice, Comando quale, const QString& testo,
+void VistaBorftea::comando(Flusso* barra, int indice, Comando quale, const QString& testo,
                            const QString& icona, const QString& tasto) {
     auto* bottone = new BottoneComando(indicizzato(u"bottone", indice), testo, icona, QKeySequence(tasto));
     connect(bottone, &QToolButton::clicked, this, [this, quale] { esegui(quale); });
@@ -142,33 +144,31 @@ void VistaBorftea::comando(QHBoxLayout* barra, int indice, Comando quale, const 
 
 QWidget* VistaBorftea::creaComandi() {
     auto* barra = new QWidget;
-    auto* linea = new QHBoxLayout(barra);
+    barra->setAccessibleName(u"Comandi"_s);
+    auto* linea = new Flusso(barra);
     linea->setContentsMargins(0, 0, 0, 0);
     comando(linea, 0, Comando::Esci, u"Esci senza salvare"_s, u"esci"_s, u"Ctrl+Q"_s);
     comando(linea, 1, Comando::Salva, u"Salva"_s, u"salva"_s, u"F10"_s);
-    linea->addSpacing(6);
+    linea->spazio(6);
     comando(linea, 6, Comando::Testata, u"Testata"_s, u"testata"_s, u"F2"_s);
     comando(linea, 2, Comando::Righe, u"Righe"_s, u"righe"_s, u"F3"_s);
-    linea->addSpacing(6);
+    linea->spazio(6);
     comando(linea, 5, Comando::Stampa, u"Stampa"_s, u"stampa"_s, u"F7"_s);
     comando(linea, 7, Comando::Anteprima, u"Anteprima"_s, u"anteprima"_s, u"Ctrl+F7"_s);
     comando(linea, 3, Comando::Pdf, u"PDF"_s, u"pdf"_s, u"F6"_s);
     comando(linea, 10, Comando::FatturaPa, u"Fattura PA"_s, u"fatturapa"_s, u"F8"_s);
     comando(linea, 11, Comando::FatturaElettronica, u"Elettronica"_s, u"elettronica"_s, u"F9"_s);
-    linea->addSpacing(6);
+    linea->spazio(6);
     comando(linea, 4, Comando::Elimina, u"Elimina"_s, u"elimina"_s, u"Ctrl+F9"_s);
-    linea->addStretch();
-    const QString rosso = u"color: #B00020; font-weight: 600;"_s;
+    linea->molla();
     auto* regimi = new QLabel(u"Regimi cambiati: confermare le righe"_s);
     regimi->setObjectName(u"regimicambiati"_s);
-    regimi->setWordWrap(true);
-    regimi->setStyleSheet(rosso);
+    regimi->setProperty("avviso", true);
     legami.visibile(regimi, [this] { return m_form.regimiCambiati(); });
     linea->addWidget(regimi);
     auto* integrata = new QLabel;
     integrata->setObjectName(u"Label3"_s);
-    integrata->setWordWrap(true);
-    integrata->setStyleSheet(rosso);
+    integrata->setProperty("avviso", true);
     legami.etichetta(integrata, [this] { return m_form.integrata(); });
     legami.visibile(integrata, [this] { return !m_form.integrata().isEmpty(); });
     linea->addWidget(integrata);

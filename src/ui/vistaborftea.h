@@ -7,10 +7,11 @@
 
 #include <array>
 
-class QHBoxLayout;
 class QStackedWidget;
 
 namespace bor {
+
+class Flusso;
 
 class VistaBorftea : public Vista {
 public:
@@ -34,7 +35,7 @@ private:
     QWidget* creaComandi();
     void collegaPercorso(const RiquadroTea& estremi, const RiquadroTea& scadenze, const RiquadroTea& ricavi);
     void mostraProspetto(Borftea::Prospetto prospetto);
-    void comando(QHBoxLayout* barra, int indice, Borftea::Comando quale, const QString& testo,
+    void comando(Flusso* barra, int indice, Borftea::Comando quale, const QString& testo,
                  const QString& icona, const QString& tasto);
     void esegui(Borftea::Comando comando);
     void seguiFuoco();

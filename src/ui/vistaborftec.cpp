@@ -1,7 +1,9 @@
 #include "ui/vistaborftec.h"
 
+#include "ui/affiancati.h"
 #include "ui/barracomandi.h"
 #include "ui/campodata.h"
+#include "ui/flusso.h"
 #include "ui/legame.h"
 
 #include <QGridLayout>
@@ -43,10 +45,10 @@ int colonnaGriglia(Campo campo) {
 VistaBorftec::VistaBorftec(Borftec& form, QWidget* parent) : Vista(parent), m_form(form) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(creaTestata());
-    auto* centro = new QHBoxLayout;
-    centro->addWidget(creaRighe(), 3);
-    centro->addWidget(creaConti(), 2);
-    layout->addLayout(centro, 1);
+    auto* centro = new Affiancati;
+    centro->aggiungi(creaRighe(), 3);
+    centro->aggiungi(creaConti(), 2);
+    layout->addWidget(centro, 1);
     layout->addWidget(creaTotali());
     layout->addWidget(creaComandi());
     legami.altro([this] {
@@ -70,6 +72,7 @@ QWidget* VistaBorftec::creaTestata() {
         legami.testo(campo, testo.leggi, testo.scrivi);
     };
     aggiungi(u"Data"_s, giorno, giorno->campo(), &Movimento::data);
+    legami.segnala(giorno->campo(), [giorno] { return avvisoData(giorno->campo()->text()); });
     aggiungi(u"Descrizione"_s, descrizione, descrizione, &Movimento::descrizione);
     aggiungi(u"Riferimento"_s, riferimento, riferimento, &Movimento::riferimento);
     riga->addStretch();
@@ -139,28 +142,24 @@ QWidget* VistaBorftec::creaConti() {
 
 QWidget* VistaBorftec::creaTotali() {
     auto* riquadro = new QGroupBox(u"Totali"_s);
-    auto* riga = new QHBoxLayout(riquadro);
+    auto* riga = new Flusso(riquadro);
     const auto mostra = [&](int indice, const QString& testo, const std::function<double()>& leggi) {
         auto* casella = new CampoTesto(u"Label1(%1)"_s.arg(indice), testo, 16);
         casella->setAlignment(Qt::AlignRight);
         legami.testo(casella, [this, leggi] { return m_form.importo(leggi()); });
-        riga->addWidget(didascalia(testo, casella));
-        riga->addWidget(casella);
-        riga->addSpacing(8);
+        riga->addWidget(conDidascalia(testo, casella));
+        riga->spazio(8);
         return casella;
     };
     const auto mostraScarto = [&](int indice, const QString& testo, const std::function<double()>& leggi) {
         auto* casella = mostra(indice, testo, leggi);
-        legami.altro([casella, leggi] {
-            casella->setStyleSheet(leggi() == 0.0 ? QString() : u"color: #C62828; font-weight: bold;"_s);
-        });
+        legami.altro([casella, leggi] { segna(casella, "scarto", leggi() != 0.0); });
     };
     mostra(0, u"Totale dare"_s, [this] { return m_form.totaleDare(); });
     mostra(1, u"Totale avere"_s, [this] { return m_form.totaleAvere(); });
     mostraScarto(2, u"Sbilancio"_s, [this] { return m_form.sbilancio(); });
     mostra(3, u"Totale documento"_s, [this] { return m_form.totaleDocumento(); });
     mostraScarto(4, u"Differenza"_s, [this] { return m_form.differenza(); });
-    riga->addStretch();
     return riquadro;
 }
 

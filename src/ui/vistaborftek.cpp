@@ -1,8 +1,10 @@
 #include "ui/vistaborftek.h"
 
+#include "ui/affiancati.h"
 #include "ui/barracomandi.h"
 #include "ui/campodata.h"
 #include "ui/cursorerighe.h"
+#include "ui/flusso.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -41,10 +43,10 @@ constexpr std::array<Colonna, 5> colonne = {{
 
 VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_form(form) {
     auto* layout = new QVBoxLayout(this);
-    auto* centro = new QHBoxLayout;
-    centro->addWidget(creaRighe(), 1);
-    centro->addWidget(creaPrestazioni());
-    layout->addLayout(centro, 1);
+    auto* centro = new Affiancati;
+    centro->aggiungi(creaRighe(), 1);
+    centro->aggiungi(creaPrestazioni(), 0);
+    layout->addWidget(centro, 1);
     layout->addWidget(creaTotali());
     layout->addWidget(creaComandi());
     legami.altro([this] { aggiornaPrestazioni(); });
@@ -124,20 +126,18 @@ QWidget* VistaBorftek::creaPrestazioni() {
 
 QWidget* VistaBorftek::creaTotali() {
     auto* riquadro = new QGroupBox(u"Totali"_s);
-    auto* barra = new QHBoxLayout(riquadro);
+    auto* barra = new Flusso(riquadro);
     const auto mostra = [&](const QString& nome, const QString& testo, const Legami::Leggi& leggi) {
         auto* casella = new CampoTesto(nome, testo, 16);
         casella->setAlignment(Qt::AlignRight);
         legami.testo(casella, leggi);
-        barra->addWidget(didascalia(testo, casella));
-        barra->addWidget(casella);
-        barra->addSpacing(16);
+        barra->addWidget(conDidascalia(testo, casella));
+        barra->spazio(16);
     };
     mostra(u"numfat"_s, u"Numero del documento"_s, [this] { return m_form.numfat(); });
     mostra(u"tota(0)"_s, u"Totale anticipazioni"_s, [this] { return m_form.totale(Campo::Anticipazioni); });
     mostra(u"tota(1)"_s, u"Totale spese"_s, [this] { return m_form.totale(Campo::Spese); });
     mostra(u"tota(2)"_s, u"Totale onorari"_s, [this] { return m_form.totale(Campo::Onorari); });
-    barra->addStretch();
     return riquadro;
 }
 

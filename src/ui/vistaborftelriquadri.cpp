@@ -131,7 +131,8 @@ QLabel* VistaBorftel::rilievi(PostoFel posto) {
             return;
         etichetta->setText(testo);
         etichetta->setVisible(!testo.isEmpty());
-        etichetta->setStyleSheet(m_form.grave(posto) ? u"color: #B00020;"_s : u"color: #8A5A00;"_s);
+        segna(etichetta, "avviso", m_form.grave(posto));
+        segna(etichetta, "consiglio", !m_form.grave(posto));
         if (QWidget* campo = m_posti[posto])
             campo->setAccessibleDescription(testo);
     });

@@ -1,6 +1,8 @@
 #include "ui/vistaborftem.h"
 
+#include "ui/affiancati.h"
 #include "ui/campi.h"
+#include "ui/flusso.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -29,11 +31,11 @@ VistaBorftem::VistaBorftem(Borftem& form, QWidget* parent) : Vista(parent), m_fo
     auto* destra = new QVBoxLayout;
     destra->addWidget(commerciali);
     destra->addStretch();
-    auto* dati = new QHBoxLayout;
-    dati->addLayout(sinistra, 1);
-    dati->addLayout(destra, 1);
+    auto* dati = new Affiancati;
+    dati->aggiungi(sinistra, 1);
+    dati->aggiungi(destra, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(dati, 1);
+    layout->addWidget(dati, 1);
     layout->addWidget(creaRicerca());
     layout->addWidget(creaComandi());
     collegaPercorsi(cliente);
@@ -72,7 +74,8 @@ void VistaBorftem::creaCursore(QHBoxLayout* barra) {
 
 QWidget* VistaBorftem::creaComandi() {
     auto* gruppo = new QWidget;
-    auto* barra = new QHBoxLayout(gruppo);
+    gruppo->setAccessibleName(u"Comandi"_s);
+    auto* barra = new Flusso(gruppo);
     barra->setContentsMargins(0, 0, 0, 0);
     m_nome = new CampoTesto(u"nome"_s, u"Nome/Ragione sociale cliente da cercare:"_s);
     legami.testo(
@@ -80,7 +83,7 @@ QWidget* VistaBorftem::creaComandi() {
     auto* etichetta = didascalia(m_nome->accessibleName(), m_nome);
     etichetta->setObjectName(u"Lab1"_s);
     barra->addWidget(etichetta);
-    barra->addWidget(m_nome, 1);
+    barra->addWidget(m_nome);
     const auto comando = [&](const QString& nome, const QString& testo, const QString& icona,
                              const QString& tasto, std::function<void()> azione) {
         auto* bottone = new BottoneComando(nome, testo, icona, QKeySequence(tasto));
@@ -93,7 +96,7 @@ QWidget* VistaBorftem::creaComandi() {
     };
     comando(u"b_cerca"_s, u"Cerca"_s, u"cerca"_s, u"F3"_s, cerca);
     comando(u"b_lista"_s, u"Lista"_s, u"lista"_s, u"F6"_s, [this] { m_form.lista(); });
-    barra->addStretch(1);
+    barra->molla();
     comando(u"bottone"_s, u"Avanti"_s, u"avanti"_s, u"F10"_s, [this] { m_form.avanti(); });
     invio.passo(m_nome, [this, cerca] { legami.esegui(cerca); });
     return gruppo;

@@ -96,7 +96,7 @@ QWidget* VistaBorftem::creaSede(Percorso& percorso) {
     affianca(griglia, 5, u"Partita iva"_s, {nazione, new QLabel(u"-"_s), partitaiva});
     auto* eliminato = new QLabel(u"Attenzione:questo cliente è stato eliminato!"_s);
     eliminato->setObjectName(u"Label2"_s);
-    eliminato->setStyleSheet(u"color: #B00020; font-weight: 600;"_s);
+    eliminato->setProperty("avviso", true);
     legami.visibile(eliminato, [this] { return m_form.clienteEliminato(); });
     griglia->addWidget(eliminato, 6, 0, 1, 2, Qt::AlignHCenter);
     return gruppo;

@@ -3,6 +3,7 @@
 #include "ui/barracomandi.h"
 #include "ui/campodata.h"
 #include "ui/finestrarilievi.h"
+#include "ui/flusso.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -83,18 +84,18 @@ QWidget* VistaBorftepa::creaEstremi() {
 
 QLayout* VistaBorftepa::creaDocumento() {
     auto* colonna = new QVBoxLayout;
-    auto* linea = new QHBoxLayout;
+    auto* insieme = new QWidget;
+    auto* linea = new Flusso(insieme);
+    linea->setContentsMargins(0, 0, 0, 0);
     const auto aggiungi = [&](const QString& testo, QWidget* campo) {
-        linea->addWidget(didascalia(testo, campo));
-        linea->addWidget(campo);
-        linea->addSpacing(16);
+        linea->addWidget(conDidascalia(testo, campo));
+        linea->spazio(16);
     };
     aggiungi(u"Tipo documento"_s, creaLista(ListaFpa::TipoDocumento, u"Tipo documento"_s));
     aggiungi(u"Numero"_s, creaTesto(TestoFpa::Numero, u"Numero del documento"_s, 20));
     aggiungi(u"Data"_s, creaData(DataFpa::Documento, u"Data del documento"_s));
     aggiungi(u"Numero progressivo invio"_s,
              creaTesto(TestoFpa::Progressivo, u"Numero progressivo invio"_s, 6));
-    linea->addStretch();
     auto* spunte = new QHBoxLayout;
     spunte->addWidget(
         creaSpunta(u"art73"_s, u"Documento emesso ai sensi art.73 DPR 633/72"_s, &Borftepa::art73));
@@ -102,7 +103,7 @@ QLayout* VistaBorftepa::creaDocumento() {
     spunte->addWidget(
         creaSpunta(u"esig"_s, u"Documento con iva ad esigibilità differita"_s, &Borftepa::esig));
     spunte->addStretch();
-    colonna->addLayout(linea);
+    colonna->addWidget(insieme);
     colonna->addLayout(spunte);
     return colonna;
 }
@@ -197,7 +198,7 @@ QComboBox* VistaBorftepa::creaLista(ListaFpa lista, const QString& descrizione) 
     scelta->setObjectName(u"Combo7(%1)"_s.arg(static_cast<int>(lista)));
     scelta->setAccessibleName(descrizione);
     scelta->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    scelta->setMinimumContentsLength(26);
+    scelta->setMinimumContentsLength(20);
     scelta->addItems(vociFpa(lista));
     legami.lista(
         scelta, [this, lista] { return m_form.scelta(lista); },
@@ -211,7 +212,7 @@ QComboBox* VistaBorftepa::creaVettori() {
     m_vettori->setObjectName(u"Combo1"_s);
     m_vettori->setAccessibleName(u"Vettore"_s);
     m_vettori->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_vettori->setMinimumContentsLength(26);
+    m_vettori->setMinimumContentsLength(20);
     legami.altro([this] { m_vettori->setPlaceholderText(m_form.nomeVettore()); });
     legami.lista(
         m_vettori, [this] { return m_form.vettore(); }, [this](int i) { m_form.scegliVettore(i); });

@@ -1,8 +1,10 @@
 #include "ui/vistaborftex.h"
 
 #include "document/borftex.h"
+#include "ui/affiancati.h"
 #include "ui/barracomandi.h"
 #include "ui/campi.h"
+#include "ui/flusso.h"
 #include "ui/grigliaborftex.h"
 
 #include <QAbstractListModel>
@@ -67,15 +69,14 @@ VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
     legami.altro([this] { aggiornaLista(); });
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(6);
-    auto* corpo = new QHBoxLayout;
-    corpo->setSpacing(10);
+    auto* corpo = new Affiancati;
     auto* sinistra = new QVBoxLayout;
     sinistra->addWidget(m_griglia, 1);
     sinistra->addWidget(creaTotali());
-    corpo->addLayout(sinistra, 3);
-    corpo->addWidget(creaLista(), 1);
+    corpo->aggiungi(sinistra, 3);
+    corpo->aggiungi(creaLista(), 1);
     layout->addWidget(creaOpzioni());
-    layout->addLayout(corpo, 1);
+    layout->addWidget(corpo, 1);
     altriTasti = {{u"F1"_s, u"In una descrizione: cerca l'articolo che comincia così; ancora: il seguente"_s},
                   {u"Su, Giù"_s, u"Lo stesso campo della riga sopra, di quella sotto"_s},
                   {u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s},
@@ -86,7 +87,10 @@ VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
     stato->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     stato->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     stato->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    legami.etichetta(stato, [this] { return m_form.listx(); });
+    legami.altro([this, stato] {
+        stato->setText(m_form.listx());
+        stato->setToolTip(m_form.listx());
+    });
     layout->addWidget(stato);
     layout->addWidget(creaComandi());
     legami.altro([this] {
@@ -97,18 +101,17 @@ VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
 
 QWidget* VistaBorftex::creaOpzioni() {
     auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
+    auto* layout = new Flusso(barra);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(16);
+    layout->setSpacing(14);
     const auto numfat = valoreInVista(u"numfat"_s, u"Documento numero"_s);
     legami.etichetta(numfat, [this] { return m_form.numfat(); });
-    layout->addWidget(didascalia(u"Documento numero"_s, numfat));
-    layout->addWidget(numfat);
+    layout->addWidget(conDidascalia(u"Documento numero"_s, numfat));
     auto* link = new QLabel;
     link->setObjectName(u"link"_s);
     legami.etichetta(link, [this] { return m_form.link(); });
     layout->addWidget(link);
-    layout->addStretch();
+    layout->molla();
     const auto opzione = [&](QAbstractButton* bottone, const QString& nome, Opzione quale) {
         bottone->setObjectName(nome);
         bottone->setAccessibleName(bottone->text());
@@ -151,20 +154,19 @@ QWidget* VistaBorftex::creaLista() {
 
 QWidget* VistaBorftex::creaTotali() {
     auto* barra = new QWidget;
-    auto* layout = new QHBoxLayout(barra);
+    auto* layout = new Flusso(barra);
     layout->setContentsMargins(0, 0, 0, 0);
     using Totale = Borftex::Totale;
     const auto voce = [&](const QString& testo, const QString& nome, Totale quale) {
         auto* etichetta = valoreInVista(nome, testo);
         legami.etichetta(etichetta, [this, quale] { return m_form.totale(quale); });
-        layout->addWidget(didascalia(testo, etichetta));
-        layout->addWidget(etichetta);
-        layout->addSpacing(18);
+        layout->addWidget(conDidascalia(testo, etichetta));
+        layout->spazio(18);
     };
     voce(u"Numero pezzi"_s, u"tota(2)"_s, Totale::Pezzi);
     voce(u"Totale imponibile"_s, u"tota(0)"_s, Totale::Imponibile);
     voce(u"Totale complessivo"_s, u"tota(1)"_s, Totale::Complessivo);
-    layout->addStretch();
+    layout->molla();
     voce(u"Rit.Acconto %"_s, u"alr"_s, Totale::AliquotaRitenuta);
     voce(u"Importo"_s, u"imr"_s, Totale::Ritenuta);
     return barra;

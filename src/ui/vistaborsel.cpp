@@ -7,6 +7,7 @@
 #include "ui/griglia.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QTableView>
 
@@ -25,7 +26,7 @@ constexpr std::array<ColonnaGriglia, colonneCliente> colonne = {{
     {u"", 3000},
     {u"Indirizzo", 3000},
     {u"Città", 3000},
-    {u"Partita iva", ColonnaGriglia::elastica},
+    {u"Partita iva", ColonnaGriglia::elastica, Qt::AlignLeft, 1200},
 }};
 
 } // namespace
@@ -110,6 +111,13 @@ void VistaBorsel::lascia() {
 
 QString VistaBorsel::titolo() const {
     return u"Selezione cliente"_s;
+}
+
+void VistaBorsel::keyPressEvent(QKeyEvent* evento) {
+    if (m_selnome->hasFocus() && evento->key() == Qt::Key_Down)
+        vaiA(m_elenco);
+    else
+        Vista::keyPressEvent(evento);
 }
 
 void VistaBorsel::aggiornaElenco() {

@@ -19,6 +19,9 @@ public:
     void lascia() override;
     QString titolo() const override;
 
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
 private:
     QWidget* creaRicerca();
     QWidget* creaElenco();

@@ -77,6 +77,38 @@ TEST_F(VistaDocumento, LaProvvigioneHaLaVirgolaELeRigheIvaUnNome) {
     EXPECT_EQ(foglio(u"pro(0)"_s) + foglio(u"pro(1)"_s), QString());
 }
 
+TEST_F(VistaDocumento, CioCheNonVaSiVedeMentreSiDigita) {
+    azienda.documento(documentoDi(cliente, u"12"_s, 10, 2.2));
+    vista.intesta([] { return u"Fattura"_s; });
+    mostra(vista);
+    const auto* avvisi = controllo<QLabel>(vista, u"avvisi"_s);
+    const auto segnato = [this](const QString& nome) {
+        return controllo(vista, nome)->property("errato").toBool();
+    };
+    in(u"Text2(0)"_s);
+    scrivi(vista, u"12"_s);
+    EXPECT_TRUE(segnato(u"Text2(0)"_s));
+    EXPECT_EQ(avvisi->text(), u"Numero del documento: già usato dal documento 12 del 15/03/2015"_s);
+    scrivi(vista, u"3"_s);
+    EXPECT_FALSE(segnato(u"Text2(0)"_s));
+    EXPECT_FALSE(avvisi->isVisible());
+    in(u"dsca(1)"_s);
+    scrivi(vista, u"31042016"_s);
+    EXPECT_TRUE(segnato(u"dsca(1)"_s));
+    EXPECT_EQ(avvisi->text(), u"Data scadenza, 2' rata: questa data non esiste"_s);
+    foto(vista, u"documento_avvisi"_s);
+    scrivi(vista, u"9"_s);
+    EXPECT_FALSE(segnato(u"dsca(1)"_s));
+
+    in(u"esent(1)"_s);
+    EXPECT_EQ(foglio(u"vocerigaiva"_s), u"Esenzione Esente art. 10"_s);
+    EXPECT_FALSE(visto(u"anticipazioni"_s));
+    documento.coppia.fte.parcella = 2;
+    documento.dddp[0].anticipazioni = 10;
+    scrivi(vista, u"1"_s);
+    EXPECT_TRUE(visto(u"anticipazioni"_s));
+}
+
 TEST_F(VistaDocumento, DaiTastiAiTotali) {
     mostra(vista);
     EXPECT_EQ(vista.windowTitle(), u"Memorizzazione fattura emessa");

@@ -87,7 +87,7 @@ TEST(VistaMovimento, GruppiPieniDifferenzaDalDocumentoEUscita) {
     controllo(vista, u"dare(0)"_s)->setFocus(Qt::TabFocusReason);
     scrivi(vista, u"120"_s);
     EXPECT_EQ(testoDi(vista, u"Label1(4)"_s), u"-2,00"_s);
-    EXPECT_TRUE(controllo(vista, u"Label1(4)"_s)->styleSheet().contains(u"#C62828"_s));
+    EXPECT_TRUE(controllo(vista, u"Label1(4)"_s)->property("scarto").toBool());
     foto(vista, u"movimento_differenza"_s);
     prova.operatore.risposte = {false, true};
     tasto(vista, Qt::Key_Escape);

@@ -1,13 +1,22 @@
 #include "borxpdf/anteprima.h"
 
+#include "borxpdf/pdf.h"
+
 #include <QAction>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
+#include <span>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -76,7 +85,7 @@ Anteprima::Anteprima(DocumentoPdf documento)
     m_area->setFocusPolicy(Qt::StrongFocus);
     setCentralWidget(m_area);
     preparaComandi();
-    resize(900, 700);
+    siAffianca();
     mostraPagina(0);
     m_area->setFocus();
 }
@@ -92,12 +101,15 @@ void Anteprima::preparaComandi() {
         nuova->setToolTip(u"%1 (%2)"_s.arg(testo, tasti.first().toString(QKeySequence::NativeText)));
         connect(nuova, &QAction::triggered, this, azione);
     };
-    comando(u"Pagina precedente"_s, {Qt::Key_PageUp}, [this] { mostraPagina(m_foglio->pagina() - 1); });
-    comando(u"Pagina successiva"_s, {Qt::Key_PageDown}, [this] { mostraPagina(m_foglio->pagina() + 1); });
+    comando(u"Pagina precedente"_s, {Qt::CTRL | Qt::Key_PageUp},
+            [this] { mostraPagina(m_foglio->pagina() - 1); });
+    comando(u"Pagina successiva"_s, {Qt::CTRL | Qt::Key_PageDown},
+            [this] { mostraPagina(m_foglio->pagina() + 1); });
     barra->addWidget(m_didascalia);
     comando(u"Ingrandisci"_s, {Qt::Key_Plus, QKeySequence::ZoomIn}, [this] { ingrandisci(kPasso); });
     comando(u"Riduci"_s, {Qt::Key_Minus, QKeySequence::ZoomOut}, [this] { ingrandisci(1 / kPasso); });
     comando(u"Larghezza"_s, {Qt::Key_L}, [this] { adattaLarghezza(); });
+    comando(u"Stampa"_s, {QKeySequence::Print}, [this] { chiediStampa(); });
     comando(u"Chiudi"_s, {Qt::Key_Escape}, [this] { close(); });
 
     const auto tasto = [this](Qt::Key quale, const auto& azione) {
@@ -106,8 +118,60 @@ void Anteprima::preparaComandi() {
         connect(nuova, &QAction::triggered, this, azione);
         addAction(nuova);
     };
+    tasto(Qt::Key_PageUp, [this] { scorri(-1); });
+    tasto(Qt::Key_PageDown, [this] { scorri(1); });
     tasto(Qt::Key_Home, [this] { mostraPagina(0); });
     tasto(Qt::Key_End, [this] { mostraPagina(std::ssize(m_documento.stampa.pagine) - 1); });
+}
+
+/// At the right edge of the screen and as high as it: what is printed stands beside the document on screen.
+void Anteprima::siAffianca() {
+    constexpr int comoda = 900;
+    const QRect libera = screen()->availableGeometry();
+    constexpr int cornice = 4;
+    const int titolo = style()->pixelMetric(QStyle::PM_TitleBarHeight) + kMargine;
+    resize(std::min(std::max(libera.width() / 2, comoda), libera.width() - cornice),
+           libera.height() - titolo);
+    move(libera.right() + 1 - width() - cornice, libera.top());
+}
+
+/// A page key first brings the rest of the page into view, then the page beyond.
+void Anteprima::scorri(int verso) {
+    QScrollBar* barra = m_area->verticalScrollBar();
+    const bool inFondo = barra->value() == (verso > 0 ? barra->maximum() : barra->minimum());
+    if (!inFondo) {
+        barra->setValue(barra->value() + verso * barra->pageStep());
+        return;
+    }
+    const qsizetype prima = m_foglio->pagina();
+    mostraPagina(prima + verso);
+    if (verso < 0 && m_foglio->pagina() != prima)
+        barra->setValue(barra->maximum());
+}
+
+void Anteprima::chiediStampa() {
+    QPrinter stampante(QPrinter::HighResolution);
+    stampante.setDocName(windowTitle());
+    QPrintDialog dialogo(&stampante, this);
+    dialogo.setMinMax(1, static_cast<int>(std::ssize(m_documento.stampa.pagine)));
+    if (dialogo.exec() == QDialog::Accepted && !stampa(stampante))
+        QMessageBox::critical(
+            this, u"Attenzione"_s,
+            u"La stampante non ha accettato il documento: controllatela e ripetete la stampa."_s);
+}
+
+bool Anteprima::stampa(QPrinter& stampante) {
+    const std::vector<Pagina>& tutte = m_documento.stampa.pagine;
+    const auto quante = static_cast<int>(std::ssize(tutte));
+    const int prima = std::clamp(stampante.fromPage(), 1, quante);
+    const int ultima = stampante.toPage() == 0 ? quante : std::clamp(stampante.toPage(), prima, quante);
+    stampante.setFullPage(true);
+    stampante.setPageSize(
+        QPageSize(m_documento.layout.pagina(), QPageSize::Millimeter, QString(), QPageSize::FuzzyMatch));
+    return disegnaPagine(stampante,
+                         std::span(tutte).subspan(static_cast<std::size_t>(prima - 1),
+                                                  static_cast<std::size_t>(ultima - prima + 1)),
+                         m_documento.layout, m_documento.disegnatore);
 }
 
 void Anteprima::mostraPagina(qsizetype pagina) {

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 class QLabel;
+class QPrinter;
 class QScrollArea;
 
 namespace bor::pdf {
@@ -17,6 +18,8 @@ public:
 
     /// Page from 0; outside the document nothing happens.
     void mostraPagina(qsizetype pagina);
+    /// Onto paper, the pages that the printer was asked for. False when the printer takes none.
+    bool stampa(QPrinter& stampante);
 
 protected:
     void resizeEvent(QResizeEvent* evento) override;
@@ -25,6 +28,9 @@ private:
     class Foglio;
 
     void preparaComandi();
+    void siAffianca();
+    void scorri(int verso);
+    void chiediStampa();
     void ingrandisci(double fattore);
     void adattaLarghezza();
 

@@ -4,6 +4,7 @@
 #include "borxpdf/comando.h"
 #include "common/percorsi.h"
 #include "common/versione.h"
+#include "ui/aspetto.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -43,9 +44,9 @@ void mostraVersione(const QStringList& argomenti) {
 
 int main(int argc, char* argv[]) {
     scegliSchermo();
-    const QApplication programma(argc, argv);
+    QApplication programma(argc, argv);
     mostraVersione(QCoreApplication::arguments());
-    QApplication::setStyle(u"Fusion"_s);
+    bor::applicaAspetto(programma);
 
     const auto comando = bor::ComandoPdf::leggi(QApplication::arguments().sliced(1));
     if (!comando) {

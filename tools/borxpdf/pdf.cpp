@@ -40,6 +40,22 @@ qint64 numeroDopo(const QByteArray& coda, const QByteArray& chiave) {
 
 } // namespace
 
+bool disegnaPagine(QPagedPaintDevice& fogli, std::span<const Pagina> pagine, const LayoutPdf& layout,
+                   Disegnatore& disegnatore) {
+    QPainter pittore;
+    if (!pittore.begin(&fogli))
+        return false;
+    const double punti = static_cast<double>(fogli.logicalDpiX()) / kUnitaPollice;
+    pittore.scale(punti, punti);
+    pittore.translate(-unitaDaMillimetri(layout.taglioSinistra), -unitaDaMillimetri(layout.taglioAlto));
+    for (std::size_t i = 0; i < pagine.size(); ++i) {
+        if (i > 0)
+            fogli.newPage();
+        disegnatore.disegna(pittore, pagine[i]);
+    }
+    return pittore.end();
+}
+
 QByteArray componiPdf(const PagineStampate& stampa, const LayoutPdf& layout, const QString& titolo,
                       Disegnatore& disegnatore) {
     QByteArray pdf;
@@ -53,17 +69,7 @@ QByteArray componiPdf(const PagineStampate& stampa, const LayoutPdf& layout, con
         scrittore.setPageSize(
             QPageSize(layout.pagina(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
         scrittore.setPageMargins({});
-
-        QPainter pittore;
-        if (!pittore.begin(&scrittore))
-            return {};
-        pittore.translate(-unitaDaMillimetri(layout.taglioSinistra), -unitaDaMillimetri(layout.taglioAlto));
-        for (std::size_t i = 0; i < stampa.pagine.size(); ++i) {
-            if (i > 0)
-                scrittore.newPage();
-            disegnatore.disegna(pittore, stampa.pagine[i]);
-        }
-        if (!pittore.end())
+        if (!disegnaPagine(scrittore, stampa.pagine, layout, disegnatore))
             return {};
     }
     aggiungiAutore(pdf, titolo, layout.autore);

@@ -1,14 +1,24 @@
-// Makes the PDF of a report and puts it on disk. Used by the command; the mail takes the same bytes.
+// Makes the PDF of a report and puts it on disk. Used by the command; the mail takes the same bytes, and the
+// preview prints in the same way.
 #pragma once
+
+#include "borxpdf/paginestampate.h"
 
 #include <QByteArray>
 #include <QString>
+
+#include <span>
+
+class QPagedPaintDevice;
 
 namespace bor::pdf {
 
 class Disegnatore;
 struct LayoutPdf;
-struct PagineStampate;
+
+/// Draws pages onto as many sheets of a PDF or a printer. False when that takes no drawing.
+bool disegnaPagine(QPagedPaintDevice& fogli, std::span<const Pagina> pagine, const LayoutPdf& layout,
+                   Disegnatore& disegnatore);
 
 /// The whole PDF: one page a page of the report, text as text with its fonts embedded. Empty on failure.
 QByteArray componiPdf(const PagineStampate& stampa, const LayoutPdf& layout, const QString& titolo,

@@ -6,6 +6,7 @@
 #include "lanciatore/pannellocopia.h"
 #include "ui/adattatori.h"
 #include "ui/guida.h"
+#include "ui/icona.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -40,7 +41,7 @@ QLabel* titolo(const QString& testo) {
 /// `icona` names a picture of the module's screens.
 QPushButton* bottone(const QString& nome, const QString& testo, const QString& icona,
                      const QString& suggerimento) {
-    auto* nuovo = new QPushButton(QIcon(u":/icone/%1.svg"_s.arg(icona)), testo);
+    auto* nuovo = new QPushButton(bor::icona(icona), testo);
     nuovo->setObjectName(nome);
     nuovo->setToolTip(suggerimento);
     nuovo->setMinimumSize(nuovo->sizeHint() + QSize(20, 8));

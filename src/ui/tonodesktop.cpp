@@ -1,0 +1,59 @@
+#include "ui/tonodesktop.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace bor {
+
+namespace {
+
+// The settings portal, which the desktops have in common; Qt itself knows the scheme only from 6.5 on.
+const QString servizio = u"org.freedesktop.portal.Desktop"_s;
+const QString oggetto = u"/org/freedesktop/portal/desktop"_s;
+const QString interfaccia = u"org.freedesktop.portal.Settings"_s;
+
+} // namespace
+
+std::optional<Tono> tonoRisposto(QVariant risposta) {
+    while (risposta.canConvert<QDBusVariant>())
+        risposta = risposta.value<QDBusVariant>().variant();
+    bool numero = false;
+    switch (risposta.toUInt(&numero)) {
+    case 1:
+        return Tono::Scuro;
+    case 2:
+        return Tono::Chiaro;
+    default:
+        return std::nullopt;
+    }
+}
+
+Tono tonoDelDesktop(const QPalette& ricevuta) {
+    constexpr int attesa = 300;
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    std::optional<Tono> tono;
+    if (bus.isConnected()) {
+        QDBusMessage domanda = QDBusMessage::createMethodCall(servizio, oggetto, interfaccia, u"Read"_s);
+        domanda << u"org.freedesktop.appearance"_s << u"color-scheme"_s;
+        const QDBusMessage risposta = bus.call(domanda, QDBus::Block, attesa);
+        if (risposta.type() == QDBusMessage::ReplyMessage)
+            tono = tonoRisposto(risposta.arguments().value(0));
+    }
+    return tono.value_or(tonoDi(ricevuta));
+}
+
+void seguiDesktop(QObject* padre, const std::function<void()>& cambiata) {
+    // Several settings change together; and a timer has the slot that the bus asks for.
+    auto* pausa = new QTimer(padre);
+    pausa->setSingleShot(true);
+    QObject::connect(pausa, &QTimer::timeout, padre, cambiata);
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (bus.isConnected())
+        bus.connect(servizio, oggetto, interfaccia, u"SettingChanged"_s, pausa, SLOT(start()));
+}
+
+} // namespace bor
