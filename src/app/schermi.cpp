@@ -16,27 +16,38 @@
 
 namespace bor {
 
-void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
-    const auto aggiungi = [&](Schermo schermo, Vista* vista) {
-        finestra.aggiungi(schermo, vista);
-        vista->offriGuida(tastoGuida(schermo), [&modulo, schermo] {
+namespace {
+
+enum class Intestazione { No, DelDocumento };
+
+/// `form` is the one of the screen; the view is made when the screen is first shown.
+template <class VistaDelloSchermo, class Form>
+void aggiungi(Finestra& finestra, Modulo& modulo, Schermo schermo, Form& form,
+              Intestazione intestazione = Intestazione::DelDocumento) {
+    const auto completa = [&modulo, schermo, intestazione](Vista& vista) {
+        vista.offriGuida(tastoGuida(schermo), [&modulo, schermo] {
             apriGuida(modulo.contesto().sistema, modulo.contesto().operatore, capitolo(schermo));
         });
+        if (intestazione == Intestazione::DelDocumento)
+            vista.intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
     };
+    finestra.aggiungi(
+        schermo, [&form] { return new VistaDelloSchermo(form); }, completa);
+}
+
+} // namespace
+
+void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
+    aggiungi<VistaBorfte>(finestra, modulo, Schermo::Borfte, modulo.borfte(), Intestazione::No);
+    aggiungi<VistaBorftem>(finestra, modulo, Schermo::Borftem, modulo.borftem(), Intestazione::No);
+    aggiungi<VistaBorsel>(finestra, modulo, Schermo::Borsel, modulo.borsel(), Intestazione::No);
     // Whose document it is stands at the top of every screen that edits one.
-    const auto aggiungiIntestato = [&](Schermo schermo, Vista* vista) {
-        aggiungi(schermo, vista);
-        vista->intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
-    };
-    aggiungi(Schermo::Borfte, new VistaBorfte(modulo.borfte()));
-    aggiungi(Schermo::Borftem, new VistaBorftem(modulo.borftem()));
-    aggiungi(Schermo::Borsel, new VistaBorsel(modulo.borsel()));
-    aggiungiIntestato(Schermo::Borftea, new VistaBorftea(modulo.borftea()));
-    aggiungiIntestato(Schermo::Borftex, new VistaBorftex(modulo.borftex()));
-    aggiungiIntestato(Schermo::Borftek, new VistaBorftek(modulo.borftek()));
-    aggiungiIntestato(Schermo::Borftec, new VistaBorftec(modulo.borftec()));
-    aggiungiIntestato(Schermo::Borftepa, new VistaBorftepa(modulo.borftepa()));
-    aggiungiIntestato(Schermo::Borftel, new VistaBorftel(modulo.borftel()));
+    aggiungi<VistaBorftea>(finestra, modulo, Schermo::Borftea, modulo.borftea());
+    aggiungi<VistaBorftex>(finestra, modulo, Schermo::Borftex, modulo.borftex());
+    aggiungi<VistaBorftek>(finestra, modulo, Schermo::Borftek, modulo.borftek());
+    aggiungi<VistaBorftec>(finestra, modulo, Schermo::Borftec, modulo.borftec());
+    aggiungi<VistaBorftepa>(finestra, modulo, Schermo::Borftepa, modulo.borftepa());
+    aggiungi<VistaBorftel>(finestra, modulo, Schermo::Borftel, modulo.borftel());
 }
 
 } // namespace bor

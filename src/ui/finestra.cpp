@@ -9,6 +9,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace bor {
 
 Finestra::Finestra() : m_pila(new QStackedWidget) {
@@ -19,13 +21,18 @@ Finestra::Finestra() : m_pila(new QStackedWidget) {
     resize(comoda.boundedTo(screen()->availableSize() - cornice));
 }
 
-void Finestra::aggiungi(Schermo schermo, Vista* vista) {
-    m_viste[schermo] = vista;
-    new AreaScorrevole(static_cast<QVBoxLayout*>(vista->layout()));
-    m_pila->addWidget(vista);
+void Finestra::aggiungi(Schermo schermo, Crea crea, Completa completa) {
+    m_daCreare[schermo] = {std::move(crea), std::move(completa)};
 }
 
-Vista* Finestra::vista(Schermo schermo) const {
+Vista* Finestra::vista(Schermo schermo) {
+    if (const auto daCreare = m_daCreare.extract(schermo)) {
+        Vista* nuova = daCreare.mapped().crea();
+        m_viste[schermo] = nuova;
+        new AreaScorrevole(static_cast<QVBoxLayout*>(nuova->layout()));
+        daCreare.mapped().completa(*nuova);
+        m_pila->addWidget(nuova);
+    }
     const auto trovata = m_viste.find(schermo);
     return trovata == m_viste.end() ? nullptr : trovata->second;
 }

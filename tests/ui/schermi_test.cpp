@@ -198,8 +198,7 @@ QString leggi(const QString& nome) {
 }
 
 /// The keys of all screens, then those of each, against what the screens have.
-void diceITasti(const Finestra& finestra, const QString& testo, const QString& tabella,
-                const QString& riga1) {
+void diceITasti(Finestra& finestra, const QString& testo, const QString& tabella, const QString& riga1) {
     const QStringList parti = testo.split(tabella);
     ASSERT_EQ(parti.size(), 2);
     const std::set<QString> comuni = tastiScritti(parti[0]);

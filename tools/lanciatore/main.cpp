@@ -1,32 +1,41 @@
-// The launcher: lists the companies of a drive and starts the module on the chosen one.
+// The launcher: starts the module on a company, or the window in which one of a drive's companies is chosen.
+#include "common/installazione.h"
 #include "common/versione.h"
-#include "lanciatore/scelta.h"
-#include "ui/aspetto.h"
+#include "lanciatore/aziende.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QProcess>
 
 #include <algorithm>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tells why nothing was started: in a window where there is a display, and to the terminal.
-int rifiuta(int argc, char* argv[], const QString& motivo) {
-    qCritical("%s", qUtf8Printable(motivo));
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland;offscreen");
-    QApplication applicazione(argc, argv);
-    bor::applicaAspetto(applicazione);
-    if (const QString schermo = QGuiApplication::platformName();
-        schermo != u"offscreen" && schermo != u"minimal")
-        QMessageBox::critical(nullptr, u"Attenzione"_s, motivo);
+/// Goes on as the program of the window; returns, with the exit status, only when that cannot be started.
+int continuaInFinestra(const QStringList& argomenti) {
+    const QString programma = bor::programma(QCoreApplication::applicationDirPath(), u"borscelta");
+    QList<QByteArray> testi{QFile::encodeName(programma)};
+    for (const QString& argomento : argomenti)
+        testi.append(argomento.toLocal8Bit());
+    QList<char*> puntatori;
+    for (QByteArray& testo : testi)
+        puntatori.append(testo.data());
+    puntatori.append(nullptr);
+    execv(puntatori.front(), puntatori.data());
+    qCritical("%s", qUtf8Printable(u"Il programma %1 non si avvia."_s.arg(programma)));
     return 1;
+}
+
+/// Tells why nothing was started: to the terminal, and in a window where there is a display.
+int rifiuta(const QString& unita, const QString& motivo) {
+    qCritical("%s", qUtf8Printable(motivo));
+    return continuaInFinestra({unita, motivo});
 }
 
 /// Starts the module on a company of the drive, without a window. The reason why not; empty when it started.
@@ -50,17 +59,6 @@ QString avviaDimostrazione(const bor::Percorsi& percorsi) {
             return u"L'azienda dimostrativa non è stata creata."_s;
     }
     return avvia(percorsi, bor::lancia::codiceDimostrazione);
-}
-
-int mostraScelta(QApplication& applicazione, const QString& unita) {
-    bor::applicaAspetto(applicazione);
-    const QString cartella = QCoreApplication::applicationDirPath();
-    bor::lancia::SceltaAzienda finestra(unita, cartella,
-                                        [cartella](const bor::Percorsi& percorsi, int codice) {
-                                            return bor::lancia::avviaModulo(percorsi, cartella, codice);
-                                        });
-    finestra.show();
-    return QApplication::exec();
 }
 
 void descriviOpzioni(QCommandLineParser& parser) {
@@ -101,26 +99,15 @@ QString avviaSubito(const QCommandLineParser& parser) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    const QCoreApplication applicazione(argc, argv);
     QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     descriviOpzioni(parser);
-    QStringList argomenti;
-    for (int i = 0; i < argc; ++i)
-        argomenti.append(QString::fromLocal8Bit(argv[i]));
-    const bool valide = parser.parse(argomenti);
-    const bool subito = parser.isSet(u"azienda"_s) || parser.isSet(u"dimostrazione"_s);
-    QString motivo = valide ? richiestaVana(parser) : QString();
-    // What opens no window needs no display: a start by code, the help, the version, a wrong option.
-    if (!valide || parser.isSet(u"help"_s) || parser.isSet(u"version"_s) || (subito && motivo.isEmpty())) {
-        const QCoreApplication applicazione(argc, argv);
-        parser.process(applicazione);
-        motivo = avviaSubito(parser);
-        if (motivo.isEmpty())
-            return 0;
-    }
-    if (!motivo.isEmpty())
-        return rifiuta(argc, argv, motivo);
-    QApplication applicazione(argc, argv);
     parser.process(applicazione);
-    return mostraScelta(applicazione, unitaScelta(parser));
+    QString motivo = richiestaVana(parser);
+    if (motivo.isEmpty() && !parser.isSet(u"azienda"_s) && !parser.isSet(u"dimostrazione"_s))
+        return continuaInFinestra({unitaScelta(parser)});
+    if (motivo.isEmpty())
+        motivo = avviaSubito(parser);
+    return motivo.isEmpty() ? 0 : rifiuta(unitaScelta(parser), motivo);
 }
