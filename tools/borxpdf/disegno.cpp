@@ -125,7 +125,7 @@ const Disegnatore::Immagine& Disegnatore::immagine(const QString& nome) {
             nuova->senzaPerdita = lettore.format() != "jpeg";
         }
     }
-    return **m_immagini.insert(nome, std::move(nuova));
+    return **m_immagini.insert(nome, nuova);
 }
 
 } // namespace bor::pdf
