@@ -130,8 +130,7 @@ TEST(FormFatturaPa, RipristinoDeiDatiGiaInseriti) {
 TEST(FormFatturaPa, RigheSenzaCodiceIvaNelSecondoRiepilogo) {
     FatturaDiProva f;
     f.documento.ddd[0].iva = 0;
-    f.documento.ddd[1] = {
-        .codice = {}, .descrizione = u"B"_s, .um = {}, .iva = 3, .quantita = 1, .prezzo = 1};
+    f.documento.ddd[1] = {.descrizione = u"B"_s, .iva = 3, .quantita = 1, .prezzo = 1};
     f.form.attiva();
     f.form.genera();
     EXPECT_TRUE(f.xml().contains("<ImponibileImporto>100.00</ImponibileImporto>"));

@@ -87,8 +87,7 @@ struct FatturaDiProva {
         tabelle.vettori[5].vettore[0] = QStringLiteral("Corriere senza codici");
         documento.estremi.numero = QStringLiteral("12");
         documento.estremi.data = QStringLiteral("15/03/2015");
-        documento.ddd[0] = {.codice = {},
-                            .descrizione = QStringLiteral(" Carta A4 "),
+        documento.ddd[0] = {.descrizione = QStringLiteral(" Carta A4 "),
                             .um = QStringLiteral("rs."),
                             .iva = 1,
                             .quantita = 10,

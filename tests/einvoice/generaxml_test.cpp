@@ -24,16 +24,14 @@ void confronta(const FatturaDiProva& f, const QString& nome) {
 
 TEST(FatturaXml, RigheScontiECommenti) {
     FatturaDiProva f;
-    f.documento.ddd[0] = {.codice = {},
-                          .descrizione = u"Toner nero <XL>"_s,
-                          .um = {},
+    f.documento.ddd[0] = {.descrizione = u"Toner nero <XL>"_s,
                           .sconto1 = 10,
                           .sconto2 = 5,
                           .iva = 1,
                           .quantita = 2,
                           .prezzo = 80.125};
     f.documento.ddd[3].descrizione = u"Consegna entro 10 giorni"_s;
-    f.documento.ddd[499] = {.codice = {}, .um = u"kg"_s, .iva = 3, .quantita = 1.5, .prezzo = 4};
+    f.documento.ddd[499] = {.um = u"kg"_s, .iva = 3, .quantita = 1.5, .prezzo = 4};
     f.rata(0, u"30/04/2015"_s, u"173.75"_s);
     f.form.attiva();
     f.form.genera();
@@ -42,8 +40,7 @@ TEST(FatturaXml, RigheScontiECommenti) {
 
 TEST(FatturaXml, RitenutaEArticolo73) {
     FatturaDiProva f;
-    f.documento.ddd[0] = {
-        .codice = {}, .descrizione = u"Consulenza"_s, .um = {}, .iva = 2, .quantita = 1, .prezzo = 500.5};
+    f.documento.ddd[0] = {.descrizione = u"Consulenza"_s, .iva = 2, .quantita = 1, .prezzo = 500.5};
     f.rata(0, u"30/04/2015"_s, u"510.51"_s);
     f.form.attiva();
     f.form.scegli(ListaFpa::TipoDocumento, 5);
@@ -82,18 +79,10 @@ TEST(FatturaXml, IlDdtEscludeIlVettore) {
 TEST(FatturaXml, RigheEsentiConESenzaNatura) {
     FatturaDiProva f;
     f.documento.estremi.esig = true;
-    f.documento.ddd[0] = {.codice = {},
-                          .descrizione = u"Cessione intracomunitaria"_s,
-                          .um = {},
-                          .iva = 14,
-                          .quantita = 1,
-                          .prezzo = 30};
-    f.documento.ddd[1] = {.codice = {},
-                          .descrizione = u"Corso di formazione"_s,
-                          .um = {},
-                          .iva = 20,
-                          .quantita = Riga::soloPrezzo,
-                          .prezzo = 70};
+    f.documento.ddd[0] = {
+        .descrizione = u"Cessione intracomunitaria"_s, .iva = 14, .quantita = 1, .prezzo = 30};
+    f.documento.ddd[1] = {
+        .descrizione = u"Corso di formazione"_s, .iva = 20, .quantita = Riga::soloPrezzo, .prezzo = 70};
     f.rata(0, u"30/04/2015"_s, u"100"_s);
     f.form.attiva();
     f.form.genera();

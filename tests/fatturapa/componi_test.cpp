@@ -31,8 +31,7 @@ const RiepilogoFel& riepilogo(const Composta& c, const QString& natura, double a
 
 TEST(Componi, DueScontiStannoInCascataConOttoDecimali) {
     DocumentoDiProva d;
-    d.riga(0) = {.codice2 = {},
-                 .codice = u"C1"_s,
+    d.riga(0) = {.codice = u"C1"_s,
                  .descrizione = u"Toner «XL» – 10 €"_s,
                  .um = u"m²"_s,
                  .sconto1 = 10,
@@ -59,20 +58,8 @@ TEST(Componi, CommentiQuantitaNegativeEPrezziConIva) {
     DocumentoDiProva d;
     d.documento.scorporo = true;
     d.riga(0).descrizione = u"Consegna entro 10 giorni"_s;
-    d.riga(1) = {.codice2 = {},
-                 .codice = {},
-                 .descrizione = u"Reso"_s,
-                 .um = {},
-                 .iva = 2,
-                 .quantita = -2,
-                 .prezzo = 5.5};
-    d.riga(2) = {.codice2 = {},
-                 .codice = {},
-                 .descrizione = {},
-                 .um = {},
-                 .iva = 1,
-                 .quantita = Riga::soloPrezzo,
-                 .prezzo = 122};
+    d.riga(1) = {.descrizione = u"Reso"_s, .iva = 2, .quantita = -2, .prezzo = 5.5};
+    d.riga(2) = {.iva = 1, .quantita = Riga::soloPrezzo, .prezzo = 122};
     const Composta c = d.composta();
     EXPECT_FALSE(c.rifiutata()) << motivi(c);
     EXPECT_EQ(c.fattura.linee[0].aliquota, 10) << "a comment goes with the first priced line";
@@ -87,14 +74,8 @@ TEST(Componi, CommentiQuantitaNegativeEPrezziConIva) {
 
 TEST(Componi, ClientiPubbliciPrivatiEdEsteri) {
     DocumentoDiProva d;
-    d.riga(0) = {.codice2 = {},
-                 .codice = {},
-                 .descrizione = u"Carta"_s,
-                 .um = {},
-                 .iva = 1,
-                 .quantita = 1,
-                 .prezzo = 100};
-    d.propri.cliente = {.codice = {}, .pec = u"ditta@pec.example"_s};
+    d.riga(0) = {.descrizione = u"Carta"_s, .iva = 1, .quantita = 1, .prezzo = 100};
+    d.propri.cliente = {.pec = u"ditta@pec.example"_s};
     EXPECT_EQ(d.composta().fattura.trasmissione.destinatario, u"0000000");
     EXPECT_EQ(d.composta().fattura.trasmissione.pec, u"ditta@pec.example");
     d.propri.cliente.codice = u"abc1234"_s;
@@ -117,13 +98,7 @@ TEST(Componi, ClientiPubbliciPrivatiEdEsteri) {
 TEST(Componi, LoSplitPaymentLasciaLIvaFuoriDalleRate) {
     DocumentoDiProva d;
     d.tipoPagamento(u'1');
-    d.riga(0) = {.codice2 = {},
-                 .codice = {},
-                 .descrizione = u"Carta"_s,
-                 .um = {},
-                 .iva = 1,
-                 .quantita = 1,
-                 .prezzo = 100};
+    d.riga(0) = {.descrizione = u"Carta"_s, .iva = 1, .quantita = 1, .prezzo = 100};
     EXPECT_EQ(d.composta().fattura.pagamento.rate[0].importo, 122);
     d.propri.cliente.splitpayment = u"SI"_s;
     const FatturaElettronica f = d.composta().fattura;
@@ -136,13 +111,7 @@ TEST(Componi, LoSplitPaymentLasciaLIvaFuoriDalleRate) {
 
 TEST(Componi, EsentiConNaturaBolloEDichiarazioneDIntento) {
     DocumentoDiProva d;
-    d.riga(0) = {.codice2 = {},
-                 .codice = {},
-                 .descrizione = u"Corso"_s,
-                 .um = {},
-                 .iva = 19,
-                 .quantita = 1,
-                 .prezzo = 77.47};
+    d.riga(0) = {.descrizione = u"Corso"_s, .iva = 19, .quantita = 1, .prezzo = 77.47};
     EXPECT_EQ(d.composta().fattura.linee[0].natura, u"N4");
     EXPECT_EQ(d.composta().fattura.bollo, std::nullopt);
     d.riga(0).prezzo = 77.48;
@@ -196,13 +165,7 @@ TEST(Componi, LaParcellaPortaAnticipazioniCasseERitenuta) {
 
 TEST(Componi, RiferimentiDelDocumentoEDellOperatore) {
     DocumentoDiProva d;
-    d.riga(0) = {.codice2 = {},
-                 .codice = {},
-                 .descrizione = u"Carta"_s,
-                 .um = {},
-                 .iva = 1,
-                 .quantita = 1,
-                 .prezzo = 100};
+    d.riga(0) = {.descrizione = u"Carta"_s, .iva = 1, .quantita = 1, .prezzo = 100};
     d.documento.testata.trasporto.ddt = u"60 del 13/03/2015"_s;
     d.documento.testata.trasporto.ordine = u"Ord. 330 del 01/03/2015"_s;
     d.propri.documento.cig = u"Z5413A7F20"_s;
@@ -244,13 +207,7 @@ TEST(Componi, RifiutaConUnaFraseCioCheOggiNonSiPuoDire) {
     };
     for (const Caso& caso : casi) {
         DocumentoDiProva d;
-        d.riga(0) = {.codice2 = {},
-                     .codice = {},
-                     .descrizione = u"Carta"_s,
-                     .um = {},
-                     .iva = 1,
-                     .quantita = 1,
-                     .prezzo = 100};
+        d.riga(0) = {.descrizione = u"Carta"_s, .iva = 1, .quantita = 1, .prezzo = 100};
         caso.guasta(d);
         const Composta c = d.composta();
         EXPECT_TRUE(c.rifiutata()) << caso.parola.toStdString();
@@ -262,13 +219,7 @@ TEST(Componi, NumeriGuastiDannoRilieviENonUnaCaduta) {
     using Limiti = std::numeric_limits<double>;
     for (const double guasto : {Limiti::infinity(), Limiti::quiet_NaN(), 1e300, -1e15}) {
         DocumentoDiProva d;
-        d.riga(0) = {.codice2 = {},
-                     .codice = {},
-                     .descrizione = u"Carta"_s,
-                     .um = {},
-                     .iva = 1,
-                     .quantita = 2,
-                     .prezzo = guasto};
+        d.riga(0) = {.descrizione = u"Carta"_s, .iva = 1, .quantita = 2, .prezzo = guasto};
         const Composta c = d.composta();
         const QByteArray xml = scriviFattura(c.fattura);
         EXPECT_TRUE(c.rifiutata() || !controllaXml(xml, u"IT01234567897_00001.xml"_s).empty()) << guasto;
