@@ -1,5 +1,7 @@
 #include "archive/archivio.h"
 
+#include "common/posti.h"
+
 #include <utility>
 
 namespace bor {
@@ -48,15 +50,15 @@ QString Archivio::reale(QStringView dos) const {
 }
 
 EsitoLettura Archivio::leggiTot(Conta quale, Tot& contatore) const {
-    return tot.leggi(static_cast<int>(quale), contatore);
+    return tot.leggi(ordinale(quale), contatore);
 }
 
 Tot Archivio::leggiTot(Conta quale) const {
-    return tot.leggi(static_cast<int>(quale));
+    return tot.leggi(ordinale(quale));
 }
 
 bool Archivio::scriviTot(Conta quale, const Tot& contatore) {
-    return tot.scrivi(static_cast<int>(quale), contatore);
+    return tot.scrivi(ordinale(quale), contatore);
 }
 
 const FileCasuale& Archivio::fileDiRecord(std::size_t posizione) const {
@@ -71,7 +73,7 @@ FileCasuale& Archivio::fileDiRecord(std::size_t posizione) {
 std::size_t Archivio::posizioneFile(const FileCasuale& file) const {
     const std::array<const FileCasuale*, fileDiRaffica.size()> tutti{&tot, &art, &con, &fte,
                                                                      &f2e, &mag, &gio};
-    return static_cast<std::size_t>(std::ranges::find(tutti, &file) - tutti.begin());
+    return postoDaZero(std::ranges::find(tutti, &file) - tutti.begin());
 }
 
 bool Archivio::leggi(int n, CoppiaFte& coppia) const {

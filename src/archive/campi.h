@@ -11,6 +11,7 @@
 #include <array>
 #include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <type_traits>
 
 namespace bor {
@@ -19,12 +20,17 @@ using Intero = boost::endian::little_int16_t;
 using Singolo = boost::endian::little_float32_t;
 using Reale = boost::endian::little_float64_t;
 
+/// A number that fits the two bytes of an `Intero`.
+constexpr std::int16_t breve(int numero) {
+    return static_cast<std::int16_t>(numero);
+}
+
 /// A text field of N raw bytes. Bytes that nobody assigned stay what they were, NULs too.
 template <std::size_t N>
 struct Text {
     std::array<char, N> bytes;
 
-    QByteArrayView raw() const { return {bytes.data(), static_cast<qsizetype>(N)}; }
+    QByteArrayView raw() const { return {bytes.data(), qsizetype{N}}; }
     /// All N characters.
     QString text() const { return daCp1252(raw()); }
     /// What a person reads of it, on paper, screen or in a message: without the blanks around it and without
@@ -32,7 +38,7 @@ struct Text {
     QString trimmed() const { return puliscitesto(text()); }
     /// Encodes, cuts at N and pads with blanks.
     void set(QStringView testo) {
-        const QByteArray codici = inCp1252(testo.left(static_cast<qsizetype>(N)));
+        const QByteArray codici = inCp1252(testo.left(qsizetype{N}));
         bytes.fill(' ');
         std::copy(codici.begin(), codici.end(), bytes.begin());
     }

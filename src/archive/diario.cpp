@@ -1,5 +1,7 @@
 #include "archive/diario.h"
 
+#include "common/posti.h"
+
 #include <QCryptographicHash>
 
 #include <cstring>
@@ -52,7 +54,7 @@ std::optional<VoceDiario> prendiVoce(QByteArrayView& bytes) {
         fileDiRaffica, [&](const FileDiRaffica& f) { return testa.file.text() == f.estensione; });
     if (file == fileDiRaffica.end() || testa.record < 1 || bytes.size() < 2 * file->lunghezza)
         return std::nullopt;
-    VoceDiario voce{static_cast<std::size_t>(file - fileDiRaffica.begin()), testa.record,
+    VoceDiario voce{postoDaZero(file - fileDiRaffica.begin()), testa.record,
                     bytes.first(file->lunghezza).toByteArray(),
                     bytes.sliced(file->lunghezza, file->lunghezza).toByteArray()};
     bytes = bytes.sliced(2 * file->lunghezza);
@@ -82,7 +84,7 @@ QByteArray codifica(const Diario& diario) {
     for (const VoceDiario& v : diario.voci) {
         TestaVoce testa;
         testa.file.set(fileDiRaffica[v.file].estensione);
-        testa.record = static_cast<std::int16_t>(v.record);
+        testa.record = breve(v.record);
         aggiungi(voci, testa);
         voci += v.prima;
         voci += v.dopo;

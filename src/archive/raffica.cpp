@@ -1,5 +1,7 @@
 #include "archive/raffica.h"
 
+#include "common/posti.h"
+
 #include <algorithm>
 
 namespace bor {
@@ -8,7 +10,7 @@ namespace {
 
 /// One number for a file and a record of it.
 std::size_t chiave(std::size_t file, int n) {
-    return file << 16 | static_cast<std::size_t>(n);
+    return file << 16 | postoDaZero(n);
 }
 
 } // namespace

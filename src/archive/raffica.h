@@ -5,6 +5,7 @@
 #include "archive/archivio.h"
 #include "archive/diario.h"
 #include "archive/recupero.h"
+#include "common/posti.h"
 
 #include <cstring>
 #include <functional>
@@ -60,10 +61,8 @@ public:
             fallisci(EsitoRaffica::NonLetta);
     }
 
-    Tot leggiTot(Conta quale) { return leggi(m_archivio.tot, static_cast<int>(quale)); }
-    void scriviTot(Conta quale, const Tot& contatore) {
-        scrivi(m_archivio.tot, static_cast<int>(quale), contatore);
-    }
+    Tot leggiTot(Conta quale) { return leggi(m_archivio.tot, ordinale(quale)); }
+    void scriviTot(Conta quale, const Tot& contatore) { scrivi(m_archivio.tot, ordinale(quale), contatore); }
     /// The number that follows the counter's last one; a full file fails the burst and gives 0.
     int prossimo(const Tot& contatore);
 
@@ -74,7 +73,7 @@ public:
         const int n = prossimo(contatore);
         if (n == 0)
             return 0;
-        contatore.numero = static_cast<std::int16_t>(n);
+        contatore.numero = breve(n);
         contatore.modificato = 1;
         scrivi(file, n, record);
         scriviTot(quale, contatore);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/serie.h"
+#include "common/testo.h"
 
 #include <QString>
 #include <QStringList>
@@ -48,6 +49,10 @@ struct RigaTrasporto {
     QString aspetto;
     std::array<QString, 3> vettore; ///< name and address of the carrier
     QString codici;                 ///< the carrier's fiscal codes by position, after an asterisk
+
+    static constexpr Tratto paese{2, 2};
+    static constexpr Tratto codice{4, 16};
+    static constexpr Tratto codicefiscale{20};
 };
 
 /// `borlano.tab`, read once for everybody. Rows are indexed by their own numbers; those that the file lacks

@@ -8,6 +8,7 @@ namespace bor {
 namespace {
 
 constexpr QStringView gettone = u"$$qv#m";
+constexpr Tratto codice{gettone.size() + 1, 3};
 constexpr QStringView gettoneVecchio = u"$$qx#m";
 
 } // namespace
@@ -17,7 +18,7 @@ Avvio controllaAvvio(QStringView rigaComando) {
         return {EsitoAvvio::SuiteVecchia, 0};
     if (!rigaComando.startsWith(gettone))
         return {};
-    return {EsitoAvvio::Valido, valore(pezzo(rigaComando, 7, 3))};
+    return {EsitoAvvio::Valido, valore(pezzo(rigaComando, codice))};
 }
 
 QString rigaAvvio(int codiceazienda) {

@@ -1,5 +1,7 @@
 #include "common/codicifiscali.h"
 
+#include "common/posti.h"
+
 #include <algorithm>
 #include <array>
 
@@ -29,7 +31,7 @@ bool codicePersonaValido(QStringView codice) {
     int somma = 0;
     for (qsizetype i = 0; i < 15; ++i) {
         const int numero = peso(codice[i], 0);
-        somma += i % 2 == 0 ? dispari[static_cast<std::size_t>(numero)] : numero;
+        somma += i % 2 == 0 ? elemento(dispari, numero) : numero;
     }
     return codice[15] == QChar(u'A' + somma % 26);
 }

@@ -72,7 +72,7 @@ QString dataDaAnnoMeseGiorno(QStringView campo) {
 }
 
 QString annoMeseGiorno(QStringView data) {
-    return pezzo(data, 7, 4) + pezzo(data, 4, 2) + pezzo(data, 1, 2);
+    return pezzo(data, postoAnno) + pezzo(data, postoMese) + pezzo(data, postoGiorno);
 }
 
 QString dataDaGiornoMeseAnno(QStringView campo) {
@@ -82,7 +82,7 @@ QString dataDaGiornoMeseAnno(QStringView campo) {
 }
 
 QString giornoMeseAnno(QStringView data) {
-    return pezzo(data, 1, 2) + pezzo(data, 4, 2) + pezzo(data, 7, 4);
+    return pezzo(data, postoGiorno) + pezzo(data, postoMese) + pezzo(data, postoAnno);
 }
 
 double contoGiorni(const QDateTime& momento) {

@@ -2,8 +2,10 @@
 // for the head dates of a document and day first for instalments and withholding.
 #pragma once
 
+#include "common/testo.h"
+
 #include <QDate>
-#include <QString>
+
 #include <optional>
 
 class QDateTime;
@@ -13,6 +15,12 @@ namespace bor {
 /// The date in a text, which is one only as dd/mm/yyyy (blanks around it do not matter) with a day that
 /// exists.
 std::optional<QDate> dataValida(QStringView testo);
+
+/// Where day, month and year stand in "dd/mm/yyyy".
+inline constexpr Tratto postoGiorno{1, 2};
+inline constexpr Tratto postoMese{4, 2};
+inline constexpr Tratto postoAnno{7, 4};
+inline constexpr Tratto postoAnnoBreve{9, 2};
 
 /// "dd/mm/yyyy".
 QString testoData(QDate data);

@@ -1,6 +1,7 @@
 #include "common/rapporto.h"
 
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "common/testo.h"
 
 #include <cmath>
@@ -39,7 +40,7 @@ std::optional<ComandoRapporto> comando(QByteArrayView linea, double valore) {
     if (linea.trimmed().isEmpty())
         return std::nullopt;
     for (const ComandoRapporto c : {Immagine, Linea, Riquadro, Testo, FinePagina})
-        if (valore == static_cast<double>(c))
+        if (valore == ordinale(c))
             return c;
     return std::nullopt;
 }
@@ -47,7 +48,7 @@ std::optional<ComandoRapporto> comando(QByteArrayView linea, double valore) {
 } // namespace
 
 QByteArray scriviRecord(const RecordRapporto& record) {
-    QByteArray bytes = linea(testoStampa(static_cast<int>(record.comando)));
+    QByteArray bytes = linea(testoStampa(ordinale(record.comando)));
     if (record.comando == ComandoRapporto::FinePagina)
         return bytes + QByteArray("\r\n").repeated(lineeRecordRapporto - 1);
     for (const double misura : {record.x1, record.y1, record.x2, record.y2, record.dimensione})

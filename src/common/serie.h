@@ -1,43 +1,51 @@
-// A row of values counted as the archive counts them, from 1 or from 0: the VAT rows, the tables of a
-// company.
+// A row of values counted as the archive counts them, from 1 or from 0, or one for each enumerator: the VAT
+// rows, the tables of a company, the boxes of a line on screen.
 #pragma once
+
+#include "common/posti.h"
 
 #include <QtGlobal>
 
 #include <array>
-#include <cstddef>
 
 namespace bor {
 
-/// The values `Primo` to `Ultimo`. Reading outside of them gives an empty value, as the suite's own tables
-/// do; writing there is a fault of the program and ends it.
-template <class T, int Primo, int Ultimo>
+/// The values `Primo` to `Ultimo`, two numbers or two enumerators. Reading outside of them gives an empty
+/// value, as the suite's own tables do; writing there is a fault of the program and ends it.
+template <class T, auto Primo, decltype(Primo) Ultimo>
 class Serie {
     static_assert(Primo <= Ultimo);
+    static constexpr std::size_t quantiValori = postoDaZero(ordinale(Ultimo) - ordinale(Primo) + 1);
 
 public:
-    static constexpr int primo = Primo;
-    static constexpr int ultimo = Ultimo;
+    using Posto = decltype(Primo);
+    static constexpr Posto primo = Primo;
+    static constexpr Posto ultimo = Ultimo;
 
-    static constexpr bool contiene(int i) { return i >= Primo && i <= Ultimo; }
+    constexpr Serie() = default;
+    constexpr explicit Serie(const std::array<T, quantiValori>& valori) : m_valori(valori) {}
 
-    const T& operator[](int i) const {
+    static constexpr bool contiene(Posto i) { return i >= Primo && i <= Ultimo; }
+
+    const T& operator[](Posto i) const {
         static const T nessuno{};
-        return contiene(i) ? m_valori[posto(i)] : nessuno;
+        return contiene(i) ? m_valori[dove(i)] : nessuno;
     }
-    T& operator[](int i) {
+    T& operator[](Posto i) {
         if (!contiene(i))
-            qFatal("row %d is outside %d to %d", i, Primo, Ultimo);
-        return m_valori[posto(i)];
+            qFatal("row %d is outside %d to %d", ordinale(i), ordinale(Primo), ordinale(Ultimo));
+        return m_valori[dove(i)];
     }
 
     auto begin() const { return m_valori.begin(); }
     auto end() const { return m_valori.end(); }
 
-private:
-    static constexpr std::size_t posto(int i) { return static_cast<std::size_t>(i - Primo); }
+    friend bool operator==(const Serie&, const Serie&) = default;
 
-    std::array<T, static_cast<std::size_t>(Ultimo - Primo + 1)> m_valori{};
+private:
+    static constexpr std::size_t dove(Posto i) { return postoDaZero(ordinale(i) - ordinale(Primo)); }
+
+    std::array<T, quantiValori> m_valori{};
 };
 
 } // namespace bor

@@ -62,8 +62,7 @@ QString pulisci(QStringView testo) {
     QString risultato;
     risultato.reserve(testo.size());
     for (const QChar c : testo) {
-        const int valore = codice(c.unicode());
-        if (valore >= 32 && valore <= 254)
+        if (stampabile(codice(c.unicode())))
             risultato.append(c);
     }
     return risultato;

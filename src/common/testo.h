@@ -11,6 +11,17 @@ namespace bor {
 /// open become the control characters of the same number), so decoding and encoding loses nothing.
 QString daCp1252(QByteArrayView bytes);
 
+/// Code of a byte of the archive, 0 to 255.
+constexpr int codiceDi(char byte) {
+    return static_cast<unsigned char>(byte);
+}
+
+/// True for the codes that a text keeps: NULs of fields never written, control codes and code 255 fillers are
+/// none of it.
+constexpr bool stampabile(int codice) {
+    return codice >= 32 && codice <= 254;
+}
+
 /// Encodes for the archive; a character that the code page lacks becomes '?'.
 QByteArray inCp1252(QStringView testo);
 
@@ -21,8 +32,7 @@ bool inCodePage(QChar carattere);
 /// to letters that the code page has.
 QString maiuscolo(QStringView testo);
 
-/// Keeps, in order, the characters whose archive code lies from 32 to 254: the NULs of fields that were never
-/// written and code 255 fillers disappear.
+/// Keeps, in order, the characters whose archive code is `stampabile`.
 QString pulisci(QStringView testo);
 
 /// `pulisci`, then trimmed.
@@ -38,7 +48,16 @@ QString riempi(QStringView testo, qsizetype lunghezza);
 /// "234".
 QString zeriDavanti(QStringView testo, qsizetype lunghezza);
 
+/// Characters of a text that is read by position: from `da`, counted from 1, so many; -1 for all that follow.
+struct Tratto {
+    qsizetype da;
+    qsizetype lunghezza = -1;
+};
+
 /// The text from position `da` (counted from 1), `lunghezza` characters at the most; empty beyond the end.
 QString pezzo(QStringView testo, qsizetype da, qsizetype lunghezza = -1);
+inline QString pezzo(QStringView testo, Tratto tratto) {
+    return pezzo(testo, tratto.da, tratto.lunghezza);
+}
 
 } // namespace bor

@@ -13,7 +13,7 @@ namespace bor {
 Documento nuovoDocumento(const Contesto& contesto, int tipodocumento, int recordcliente) {
     Documento documento;
     inizializza2(documento.coppia.f2e);
-    documento.coppia.fte.tipo = static_cast<std::int16_t>(tipodocumento);
+    documento.coppia.fte.tipo = breve(tipodocumento);
     documento.recordcliente = recordcliente;
     prendiCliente(documento, contesto.archivio, recordcliente);
     prendiDefaults(documento, contesto);

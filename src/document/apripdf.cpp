@@ -8,22 +8,30 @@ namespace bor {
 
 namespace {
 
-constexpr int riuscito = 33;
-constexpr int cartellaMancante = 3;
+/// What the desktop answers to the opening of a file; above all errors it has opened it.
+enum Risposta {
+    FileMancante = 2,
+    CartellaMancante = 3,
+    Vietato = 5,
+    SenzaMemoria = 8,
+    SenzaProgramma = 31,
+    SenzaDll = 32,
+    Riuscito
+};
 
 QString testoErrore(int codice) {
     switch (codice) {
-    case 2:
+    case FileMancante:
         return u"File PDF non trovato"_s;
-    case 3:
+    case CartellaMancante:
         return u"Cartella o Percorso non trovato"_s;
-    case 5:
+    case Vietato:
         return u"Accesso negato"_s;
-    case 8:
+    case SenzaMemoria:
         return u"Memoria esaurita"_s;
-    case 31:
+    case SenzaProgramma:
         return u"Programma Acrobat Reader non installato o non disponibile"_s;
-    case 32:
+    case SenzaDll:
         return u"DLL non trovata"_s;
     default:
         return u"Errore sconosciuto"_s;
@@ -34,8 +42,8 @@ QString testoErrore(int codice) {
 
 void ApriPDF(const Contesto& contesto, const QString& nome) {
     const QString percorso = contesto.archivio.reale(puliscitesto(nome));
-    const int esito = percorso.isEmpty() ? cartellaMancante : contesto.sistema.apri(percorso);
-    if (esito < riuscito)
+    const int esito = percorso.isEmpty() ? CartellaMancante : contesto.sistema.apri(percorso);
+    if (esito < Riuscito)
         contesto.operatore.messaggio(u"Si è verificato l'errore "_s + QString::number(esito) + u" - "_s +
                                          testoErrore(esito),
                                      u"ApriPDF"_s, Icona::Stop);

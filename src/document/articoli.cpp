@@ -1,6 +1,7 @@
 #include "document/articoli.h"
 
 #include "archive/archivio.h"
+#include "common/posti.h"
 
 #include <numeric>
 
@@ -25,15 +26,15 @@ const std::array<char, 256>& maiuscole() {
 }
 
 char maiuscola(char c) {
-    return maiuscole()[static_cast<unsigned char>(c)];
+    return elemento(maiuscole(), codiceDi(c));
 }
 
 /// Sign of the comparison of two texts, upper and lower case alike, by code.
 int confronta(QByteArrayView a, QByteArrayView b) {
     const qsizetype comuni = std::min(a.size(), b.size());
     for (qsizetype i = 0; i < comuni; ++i) {
-        const auto ca = static_cast<unsigned char>(maiuscola(a[i]));
-        const auto cb = static_cast<unsigned char>(maiuscola(b[i]));
+        const int ca = codiceDi(maiuscola(a[i]));
+        const int cb = codiceDi(maiuscola(b[i]));
         if (ca != cb)
             return ca < cb ? -1 : 1;
     }
@@ -51,7 +52,7 @@ struct Chiave {
         const auto otto = [](const char* da) {
             std::uint64_t n = 0;
             for (int k = 0; k < 8; ++k)
-                n = n << 8U | static_cast<unsigned char>(maiuscola(da[k]));
+                n = n << 8U | postoDaZero(codiceDi(maiuscola(da[k])));
             return n;
         };
         alta = otto(voce);
@@ -61,19 +62,11 @@ struct Chiave {
 
 /// Copies a field into an item. Places that were never written show as blanks.
 char* copia(QByteArrayView campo, char* dove) {
-    return std::ranges::transform(campo, dove,
-                                  [](char c) {
-                                      const auto codice = static_cast<unsigned char>(c);
-                                      return codice < 32 || codice == 255 ? ' ' : c;
-                                  })
-        .out;
+    return std::ranges::transform(campo, dove, [](char c) { return stampabile(codiceDi(c)) ? c : ' '; }).out;
 }
 
 bool haCodice(const Art& articolo) {
-    return std::ranges::any_of(articolo.codice.bytes, [](char c) {
-        const auto codice = static_cast<unsigned char>(c);
-        return codice >= 32 && codice < 255;
-    });
+    return std::ranges::any_of(articolo.codice.bytes, [](char c) { return stampabile(codiceDi(c)); });
 }
 
 } // namespace
@@ -82,12 +75,12 @@ void ListaArticoli::carica(const Archivio& archivio, OrdineArticoli ordine) {
     m_articoli.clear();
     const int numero = archivio.leggiTot(Conta::Art).numero;
     const int blocchi = numero < 0 ? 0 : numero / perBlocco + 1;
-    m_articoli.reserve(static_cast<std::size_t>(blocchi * perBlocco));
+    m_articoli.reserve(postoDaZero(blocchi * perBlocco));
     BloccoArt blocco;
     for (int b = 1; b <= blocchi; ++b) {
         archivio.artBlocchi.leggi(b, blocco);
         for (int j = 1; j <= perBlocco; ++j) {
-            const Art& articolo = blocco.articoli[static_cast<std::size_t>(j - 1)];
+            const Art& articolo = elemento(blocco.articoli, j - 1);
             const int recart = j + perBlocco * (b - 1);
             // The list looks only at the low byte of the mark, as the other modules' lists do.
             const bool eliminato = (articolo.eliminato & 0xFF) != 0;
@@ -127,11 +120,11 @@ void ListaArticoli::ordina() {
 }
 
 QString ListaArticoli::testo(int posizione) const {
-    return daCp1252(m_articoli[m_ordinati[static_cast<std::size_t>(posizione)]].voce);
+    return daCp1252(m_articoli[elemento(m_ordinati, posizione)].voce);
 }
 
 int ListaArticoli::recart(int posizione) const {
-    return m_articoli[m_ordinati[static_cast<std::size_t>(posizione)]].recart;
+    return m_articoli[elemento(m_ordinati, posizione)].recart;
 }
 
 int ListaArticoli::cerca(QStringView inizio) const {
@@ -145,7 +138,7 @@ int ListaArticoli::cerca(QStringView inizio) const {
         [](QByteArrayView a, QByteArrayView b) { return confronta(a, b) < 0; }, testa);
     if (trovato == m_ordinati.end() || confronta(testa(*trovato), cercato) != 0)
         return -1;
-    return static_cast<int>(trovato - m_ordinati.begin());
+    return postoDi(m_ordinati, trovato);
 }
 
 bool leggiarticolo(const Archivio& archivio, int recart, Art& articolo) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "archive/art.h"
+#include "common/posti.h"
 
 #include <QString>
 
@@ -22,7 +23,7 @@ public:
     /// Reads the whole article file, twenty records at a time.
     void carica(const Archivio& archivio, OrdineArticoli ordine);
 
-    int quanti() const { return static_cast<int>(m_ordinati.size()); }
+    int quanti() const { return quantiIn(m_ordinati); }
     /// Item at a position from 0: code, " - ", description (the other way round when sorted by it).
     QString testo(int posizione) const;
     /// `art` record of the item at a position from 0.

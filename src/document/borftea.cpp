@@ -1,5 +1,6 @@
 #include "document/borftea.h"
 
+#include "common/date.h"
 #include "document/apridoc.h"
 #include "document/avvisi.h"
 #include "document/scadenze.h"
@@ -101,7 +102,7 @@ void Borftea::lasciaData() {
     // Who only passes by keeps the due dates that he typed.
     if (std::exchange(m_dataletta, estremi.data) != estremi.data)
         calcolascadenze(m_documento, m_contesto);
-    m_documento.prospetti.terminemese = pezzo(testoData(*data), 4, 2);
+    m_documento.prospetti.terminemese = pezzo(testoData(*data), postoMese);
     m_documento.prospetti.termineanno = QString::number(data->year() + 1);
     if (!dataValida(completaData(estremi.datareg)))
         estremi.datareg = estremi.data;

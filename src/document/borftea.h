@@ -20,13 +20,10 @@ namespace bor {
 
 class Borftea {
 public:
-    /// The panels that share one place.
-    enum class Prospetto {
-        RigheIva,     ///< `Frame4`
-        IvaDifferita, ///< `ivadiff`
-        Ritenute,     ///< `Frame5`
-        Spesometro    ///< `Frame6`
-    };
+    static constexpr int linee = 8;
+
+    /// The panels that share one place: `Frame4`, `ivadiff`, `Frame5` and `Frame6`.
+    enum class Prospetto { RigheIva, IvaDifferita, Ritenute, Spesometro };
     /// The buttons of the command bar, and those of the PDF selection.
     enum class Comando {
         Esci,
@@ -50,8 +47,8 @@ public:
     Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni, RigheInSospeso& sospese,
             ComandiEsterni comandi);
 
-    /// Fills the form for a new or a stored document at its first activation. After a trip to the lines the
-    /// document stays and the form starts again at its first field; a form still open stays as it is.
+    /// Fills the form at its first activation; after a trip to the lines it starts again at its first field.
+    /// A form still open stays as it is.
     void attiva();
     /// The document was taken up from a draft: the next activation shows it as it is.
     void riprendi();
@@ -73,7 +70,6 @@ public:
     }
     QStringList voci(Lista lista) const;
 
-    // Numbers and dates.
     void lasciaNumero();
     /// Which other document of the year and VAT register has the number; empty for none.
     QString avvisoNumero() const;
@@ -84,10 +80,9 @@ public:
     // The VAT rows: lines of the screen count from 0.
     const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
     void scorri(int prima) { m_finestra.scorri(prima); }
-    QString etichettaIva(int linea) const;    ///< `iv`
-    QString etichettaEsente(int linea) const; ///< `es`
-    /// What an amount of a line is read out by, behind its heading: " 22%". Lines of the same caption are
-    /// told apart by their row.
+    /// `es` before an exempt amount, `iv` before the others.
+    QString etichetta(int linea, VoceIva voce) const;
+    /// What an amount is read out by, behind its heading: " 22%", and the row where captions are the same.
     QString nomeRigaIva(int linea, VoceIva voce) const;
     QString importo(int linea, VoceIva voce) const;
     void cambiaImporto(int linea, VoceIva voce, const QString& testo);
@@ -97,7 +92,7 @@ public:
 
     // The panels.
     Prospetto prospetto() const { return m_prospetto; }
-    /// False when the panel is refused; the one in view then stays.
+    /// False when the panel is refused.
     bool mostraProspetto(Prospetto prospetto);
 
     /// A fee bill's lines still carry the tax of other regimes.
@@ -115,9 +110,7 @@ private:
     void cambiato(const void* dato);
     bool nuovo() const { return m_documento.recordfattura == 0; }
     void apri();
-
-    /// Something was typed since the document was opened.
-    bool modificato() const;
+    bool modificato() const; ///< since the document was opened
     void chiudi();
     void lascia();
     void esci();
@@ -139,7 +132,7 @@ private:
     mutable std::optional<NumeriUsati> m_numeri; ///< read when first asked
     std::optional<PostoTea> m_fuoco;
     Prospetto m_prospetto = Prospetto::RigheIva;
-    FinestraRighe m_finestra{8, 5};
+    FinestraRighe m_finestra{linee, righeIva - linee + 1};
     bool m_pdfVisibile = false; ///< `Picture1`
 };
 

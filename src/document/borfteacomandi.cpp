@@ -27,15 +27,15 @@ bool Borftea::abilitato(Comando comando) const {
     case Comando::Testata:
         return !nuovo();
     case Comando::Stampa:
-        return static_cast<bool>(m_comandi.stampa);
+        return m_comandi.stampa != nullptr;
     case Comando::Anteprima:
-        return static_cast<bool>(m_comandi.anteprima);
+        return m_comandi.anteprima != nullptr;
     case Comando::FatturaPa:
         return !nuovo() && aUnUfficio(m_documento) && m_comandi.fatturaPa;
     case Comando::FatturaElettronica:
         return !nuovo() && m_comandi.fatturaElettronica;
     case Comando::ScegliPdf:
-        return static_cast<bool>(m_comandi.scegliPdf);
+        return m_comandi.scegliPdf != nullptr;
     case Comando::ApriPdf:
         return !m_documento.estremi.pdf.trimmed().isEmpty();
     default:

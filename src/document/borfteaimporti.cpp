@@ -1,5 +1,6 @@
 // The amounts of the document form: VAT rows, totals, and what makes the instalments follow them.
 #include "common/numeri.h"
+#include "common/serie.h"
 #include "document/borftea.h"
 #include "document/scadenze.h"
 #include "document/totali.h"
@@ -17,8 +18,10 @@ constexpr QStringView prefissoAliquota = u"Aliquota iva ";
 
 } // namespace
 
-QString Borftea::etichettaIva(int linea) const {
+QString Borftea::etichetta(int linea, VoceIva voce) const {
     const int riga = m_finestra.riga(linea);
+    if (voce == VoceIva::Esente)
+        return m_contesto.tabelle.esenzioni[riga].riferimento.trimmed();
     const QString libera = m_contesto.tabelle.esenzioni[riga].descrizione();
     if (libera.size() > 1)
         return libera;
@@ -26,13 +29,9 @@ QString Borftea::etichettaIva(int linea) const {
     return aliquota.isEmpty() ? u"Non definito"_s : prefissoAliquota.toString() + aliquota + u'%';
 }
 
-QString Borftea::etichettaEsente(int linea) const {
-    return m_contesto.tabelle.esenzioni[m_finestra.riga(linea)].riferimento.trimmed();
-}
-
 QString Borftea::nomeRigaIva(int linea, VoceIva voce) const {
     const auto nome = [&](int l) {
-        const QString testo = voce == VoceIva::Esente ? etichettaEsente(l) : etichettaIva(l);
+        const QString testo = etichetta(l, voce);
         return testo.startsWith(prefissoAliquota) ? testo.mid(prefissoAliquota.size()) : testo;
     };
     const QString suo = nome(linea);
@@ -54,8 +53,9 @@ void Borftea::cambiaImporto(int linea, VoceIva voce, const QString& testo) {
 
 QString Borftea::totale(Totale quale) const {
     const Totali t = totali(m_documento);
-    const std::array<double, 4> somme = {t.somma1, t.somma2, t.somma3, t.totaledoc};
-    return u' ' + m_contesto.valuta().importotesto(somme[static_cast<std::size_t>(quale)]);
+    const Serie<double, Totale::Imponibile, Totale::Documento> somme{
+        {t.somma1, t.somma2, t.somma3, t.totaledoc}};
+    return u' ' + m_contesto.valuta().importotesto(somme[quale]);
 }
 
 bool Borftea::anticipazioniFuori() const {

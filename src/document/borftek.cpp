@@ -78,32 +78,32 @@ QString Borftek::titolo() const {
 }
 
 QString Borftek::testo(Cella cella) const {
-    Rigap copia = m_righe[indice(cella.linea)];
+    Rigap copia = riga(cella.linea);
     if (const double* x = importo(copia, cella.campo))
         return testoCasella(*x);
     return cella.campo == Campo::Data ? copia.data : copia.descrizione;
 }
 
 QString Borftek::avviso(Cella cella) const {
-    const bool inesistente = cella.campo == Campo::Data && dataInesistente(m_righe[indice(cella.linea)].data);
+    const bool inesistente = cella.campo == Campo::Data && dataInesistente(riga(cella.linea).data);
     return inesistente ? u"Questa data non esiste"_s : QString();
 }
 
 void Borftek::cambia(Cella cella, const QString& testo) {
     m_modificato = true;
     m_lineafuoco = cella.linea;
-    Rigap& riga = m_righe[indice(cella.linea)];
-    if (double* x = importo(riga, cella.campo))
+    Rigap& cambiata = riga(cella.linea);
+    if (double* x = importo(cambiata, cella.campo))
         *x = valorevirgola(testo);
     else if (cella.campo == Campo::Data)
-        riga.data = testo.left(caratteriData);
+        cambiata.data = testo.left(caratteriData);
     else
-        riga.descrizione = testo.left(caratteriDescrizione);
+        cambiata.descrizione = testo.left(caratteriDescrizione);
 }
 
 void Borftek::invio(Cella cella) {
     if (cella.campo != Campo::Onorari) {
-        m_fuoco = Cella{static_cast<Campo>(static_cast<int>(cella.campo) + 1), cella.linea};
+        m_fuoco = Cella{prossimo(cella.campo), cella.linea};
     } else if (cella.linea < linee - 1) {
         m_fuoco = Cella{Campo::Data, cella.linea + 1};
     } else if (m_finestra.riga(linee - 1) <= m_finestra.ultima()) {
@@ -128,15 +128,15 @@ void Borftek::scegliPrestazione(int indice) {
     QString testo = scelta.descrizione.trimmed();
     if (testo.isEmpty())
         return;
-    std::size_t posto = static_cast<std::size_t>(m_finestra.riga(m_lineafuoco));
+    int posto = m_finestra.riga(m_lineafuoco);
     m_modificato = true;
-    m_righe[posto - 1].data.clear();
+    riga(m_lineafuoco).data.clear();
     while (!testo.isEmpty()) {
-        m_righe[posto - 1].descrizione = staccaLinea(testo);
-        posto = std::min<std::size_t>(posto + 1, righeParcella);
+        elemento(m_righe, posto - 1).descrizione = staccaLinea(testo);
+        posto = std::min(posto + 1, righeParcella);
     }
     // On the last line of the bill the text piles up there, and the amounts go to the line before it.
-    Rigap& ultima = m_righe[posto - 2];
+    Rigap& ultima = elemento(m_righe, posto - 2);
     ultima.anticipazioni = scelta.anticipazioni;
     ultima.spese = scelta.spese;
     ultima.onorari = scelta.onorari;

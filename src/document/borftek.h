@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "common/posti.h"
 #include "document/cella.h"
 #include "document/documento.h"
 #include "document/finestrarighe.h"
@@ -64,7 +65,8 @@ public:
     QString totale(Campo colonna) const; ///< `tota`: of an amount column
 
 private:
-    std::size_t indice(int linea) const { return static_cast<std::size_t>(m_finestra.riga(linea) - 1); }
+    Rigap& riga(int linea) { return elemento(m_righe, m_finestra.riga(linea) - 1); }
+    const Rigap& riga(int linea) const { return elemento(m_righe, m_finestra.riga(linea) - 1); }
     void vaiAllInizio() { m_fuoco = Cella{Campo::Data, m_lineafuoco}; }
     void salvarighe() { m_documento.dddp = m_righe; }
 

@@ -157,7 +157,7 @@ void Borftex::apriLista() {
 }
 
 void Borftex::pagina(int verso) {
-    scorri(m_finestra.prima() + verso * linee);
+    scorri(m_finestra.pagina(verso));
     vaiA(Campo::Artic, m_lineafuoco);
 }
 
@@ -200,6 +200,9 @@ void Borftex::esegui(Comando comando) {
     case Comando::PrimaLibera:
         if (const int libera = m_righe.primaLibera(); libera > 0)
             vaiARiga(Campo::Artic, libera);
+        return;
+    case Comando::ChiudiIva:
+        m_listaIva = false;
         return;
     }
 }

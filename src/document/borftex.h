@@ -1,5 +1,4 @@
-// The goods lines form: twelve lines on the 500 rows of a document, with the article list beside them. Its
-// work reaches the document when the operator confirms.
+// The goods lines form: twelve lines on the 500 rows of a document, with the article list beside them.
 #pragma once
 
 #include "document/cella.h"
@@ -35,14 +34,11 @@ public:
         PaginaGiu,
         RigaSu, ///< the same box of the row above
         RigaGiu,
-        PrimaLibera ///< the first free row
+        PrimaLibera, ///< the first free row
+        ChiudiIva
     };
-    enum class Opzione {
-        Listino1, ///< `prezz(0)`
-        Listino2, ///< `prezz(1)`
-        Scorporo,
-        Barcode
-    };
+    /// The first two are `prezz(0)` and `prezz(1)`.
+    enum class Opzione { Listino1, Listino2, Scorporo, Barcode };
     /// What stands under the lines.
     enum class Totale { Imponibile, Complessivo, Pezzi, AliquotaRitenuta, Ritenuta };
 
@@ -79,7 +75,6 @@ public:
     void cambia(Cella cella, const QString& testo);
     void invio(Cella cella);
     void scegliIva(int posizione);
-    void chiudiIva() { m_listaIva = false; }
     void scorri(int prima);
     void scegliArticolo(int posizione); ///< a click in the list
     void cambiaOpzione(Opzione quale, bool accesa);
@@ -108,7 +103,7 @@ private:
     void cercaDescrizione();
     void mettiArticolo(int recart, RigheMerce::Da da);
     void articoloNonEsistente(Campo campo);
-    /// The operator typed or chose: leaving will ask, and F1 begins anew.
+    /// Leaving will ask, and F1 begins anew.
     void modificato();
 
     Contesto& m_contesto;

@@ -30,7 +30,7 @@ void Borftex::lascia(Cella cella) {
     if (cella.campo == Campo::Artic)
         m_digitato.reset();
     if (cella.campo == Campo::Civ)
-        chiudiIva();
+        m_listaIva = false;
     if (m_errata == cella)
         m_errata.reset();
 }

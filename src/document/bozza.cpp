@@ -1,5 +1,6 @@
 #include "document/bozza.h"
 
+#include "common/posti.h"
 #include "document/visita.h"
 
 #include <QCryptographicHash>
@@ -122,7 +123,7 @@ private:
     void prendi(Tabella<V>& tabella) {
         quint32 usate = 0;
         m_flusso >> usate;
-        tabella.righe.assign(static_cast<std::size_t>(tabella.quante), {});
+        tabella.righe.assign(postoDaZero(tabella.quante), {});
         if (usate > tabella.righe.size())
             m_flusso.setStatus(QDataStream::ReadCorruptData);
         for (std::size_t i = 0; i < usate && m_flusso.status() == QDataStream::Ok; ++i)

@@ -1,6 +1,7 @@
 // How a box on screen names its value in the document: by the members that lead to it, never by an address.
 #pragma once
 
+#include "common/posti.h"
 #include "document/documento.h"
 
 #include <cstddef>
@@ -37,7 +38,7 @@ auto& datoIn(Qui& qui, Passo passo, Altri... altri) {
     if constexpr (std::is_member_pointer_v<Passo>)
         return datoIn(qui.*passo, altri...);
     else
-        return datoIn(qui[static_cast<std::size_t>(passo)], altri...);
+        return datoIn(elemento(qui, passo), altri...);
 }
 
 /// The same from a document; the first member is one of a part.

@@ -1,7 +1,9 @@
 #include "document/filerighe.h"
 
 #include "archive/filetesto.h"
+#include "common/date.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/righeinsospeso.h"
 
 #include <QFileInfo>
@@ -72,7 +74,7 @@ void scriviMerce(Scrittura& file, const Documento& documento) {
         file.testo(testo);
     file.numero(t.causale);
     file.numero(t.aspetto);
-    file.testo(QString::number(t.spedizione));
+    file.testo(QString::number(ordinale(t.spedizione)));
     file.testo(documento.scorporo ? u"1"_s : u"0"_s);
     scriviEstremi(file, documento.estremi);
     for (const Riga& riga : documento.ddd) {
@@ -91,7 +93,7 @@ void leggiMerce(Lettura& file, Documento& documento) {
         *testo = file.testo();
     t.causale = file.intero(-1, vociElenco - 1, -1);
     t.aspetto = file.intero(-1, vociElenco - 1, -1);
-    t.spedizione = file.intero(0, 2, 2);
+    t.spedizione = enumeratore<Mezzo>(file.intero(0, ordinale(Mezzo::Mittente), ordinale(Mezzo::Mittente)));
     documento.scorporo = file.intero(0, 1, 0) == 1;
     file.salta(lineeEstremi);
     for (Riga& riga : documento.ddd) {
@@ -202,8 +204,8 @@ bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& so
     fte.nfile = -1.0F;
     if (sospese.riprendi(documento))
         return true;
-    const QString nome =
-        nomeVecchio(documento.parcella(), documento.estremi.numero, pezzo(documento.estremi.data, 9));
+    const QString nome = nomeVecchio(documento.parcella(), documento.estremi.numero,
+                                     pezzo(documento.estremi.data, postoAnnoBreve));
     Lettura vecchio(archivio.reale(archivio.file(nome)), true);
     if (vecchio.aperta())
         leggi(vecchio, documento);

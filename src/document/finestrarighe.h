@@ -18,6 +18,8 @@ public:
     int riga(int linea) const { return m_prima + linea; }
     bool contiene(int linea) const { return linea >= 0 && linea < m_linee; }
 
+    /// The first row of the page before (-1) or after (1); it may lie beyond either end.
+    int pagina(int verso) const { return m_prima + verso * m_linee; }
     /// A position beyond either end counts for the end.
     void scorri(int prima) { m_prima = std::clamp(prima, 1, m_ultima); }
 

@@ -24,7 +24,7 @@ int leggiPosizione(int valore, qsizetype voci) {
 }
 
 Intero mettiPosizione(int indice) {
-    return static_cast<std::int16_t>(indice + 1);
+    return breve(indice + 1);
 }
 
 bool leggiSpunta(const Text<1>& campo) {
@@ -52,7 +52,7 @@ void caricaLegami(Documento& documento) {
 }
 
 void mettiLegami(CoppiaFte& coppia, const Documento& documento) {
-    coppia.fte.cliente = static_cast<std::int16_t>(documento.recordcliente);
+    coppia.fte.cliente = breve(documento.recordcliente);
     coppia.f2e.fpa = documento.recordfpa;
 }
 
@@ -81,7 +81,7 @@ void mettiEstremi(CoppiaFte& coppia, const Estremi& estremi) {
     fte.datadoc.set(annoMeseGiorno(estremi.data.trimmed()));
     fte.datareg.set(annoMeseGiorno(estremi.datareg.trimmed()));
     fte.protocollo = valore(estremi.protocollo);
-    fte.registro = static_cast<std::int16_t>(estremi.registro);
+    fte.registro = breve(estremi.registro);
     mettiSpunta(fte.esigdiff, estremi.esig);
     fte.voce1 = mettiPosizione(estremi.voce1);
     fte.voce2 = mettiPosizione(estremi.voce2);

@@ -1,5 +1,7 @@
 #include "document/righeiva.h"
 
+#include "common/posti.h"
+
 namespace bor {
 
 namespace {
@@ -8,7 +10,7 @@ template <class Coppia>
 auto* cella(Coppia& coppia, VoceIva voce, int riga) {
     auto& fte = coppia.fte;
     auto& f2e = coppia.f2e;
-    const auto i = static_cast<std::size_t>(riga - 1);
+    const std::size_t i = postoDaZero(riga - 1);
     if (i < fte.impon.size())
         return voce == VoceIva::Imponibile ? &fte.impon[i]
                : voce == VoceIva::Imposta  ? &fte.iva[i]

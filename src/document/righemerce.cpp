@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/defaultcliente.h"
 #include "document/totali.h"
 
@@ -129,7 +130,7 @@ int RigheMerce::primaLibera() const {
                r.prezzo == 0.0;
     };
     const auto trovata = std::ranges::find_if(m_righe, libera);
-    return trovata == m_righe.end() ? 0 : static_cast<int>(trovata - m_righe.begin()) + 1;
+    return trovata == m_righe.end() ? 0 : postoDi(m_righe, trovata) + 1;
 }
 
 void RigheMerce::cambiaScorporo(bool acceso) {

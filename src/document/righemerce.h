@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/art.h"
+#include "common/posti.h"
 #include "document/documento.h"
 #include "document/totaliriga.h"
 
@@ -33,7 +34,7 @@ public:
     const TabellaRighe& tutte() const { return m_righe; }
     /// Puts back what `tutte` gave.
     void rimetti(const TabellaRighe& righe);
-    const Riga& riga(int n) const { return m_righe[static_cast<std::size_t>(n - 1)]; }
+    const Riga& riga(int n) const { return elemento(m_righe, n - 1); }
     QString testo(int n, Campo campo) const;
     QString aliquota(int n) const; ///< "22%", or "es." for an exempt code; empty where nothing is taxed
     QString importo(int n) const;  ///< quantity by price less the discounts; empty for 0
@@ -66,7 +67,7 @@ public:
     QString stato(int n);
 
 private:
-    Riga& dove(int n) { return m_righe[static_cast<std::size_t>(n - 1)]; }
+    Riga& dove(int n) { return elemento(m_righe, n - 1); }
     void ricalcolaTutto();
     void riportaPeso();
     void cambiaPrezzo(Riga& riga, const QString& testo);

@@ -1,6 +1,7 @@
 // How an article comes into a row.
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/articoli.h"
 #include "document/defaultcliente.h"
 #include "document/righemerce.h"
@@ -58,7 +59,7 @@ double RigheMerce::prezzoListino(const Riga& r, Da da) const {
 }
 
 void RigheMerce::mettiTestoAggiuntivo(int n, int recart) {
-    auto posto = static_cast<std::size_t>(n - 1);
+    std::size_t posto = postoDaZero(n - 1);
     for (const QString& testo : testoAggiuntivo(m_contesto.archivio, recart)) {
         if (++posto >= m_righe.size()) {
             m_contesto.operatore.messaggio(

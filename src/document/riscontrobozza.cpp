@@ -1,6 +1,7 @@
 #include "document/riscontrobozza.h"
 
 #include "archive/contesto.h"
+#include "common/date.h"
 #include "document/filerighe.h"
 
 #include <QFileInfo>
@@ -44,7 +45,7 @@ int cerca(const Archivio& archivio, const Fte& cercato, int prima) {
 /// Another live document of this kind, number and year.
 bool numeroUsato(const Archivio& archivio, const Documento& documento) {
     const QString numero = documento.estremi.numero.trimmed();
-    const QString anno = pezzo(documento.estremi.data, 7, 4);
+    const QString anno = pezzo(documento.estremi.data, postoAnno);
     bool usato = false;
     archivio.fte.scorri(1, archivio.leggiTot(Conta::Fte).numero, [&](int, const Fte& fte) {
         usato = fte.annullata != 1 && fte.tipo == documento.tipodocumento() &&

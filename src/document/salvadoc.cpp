@@ -3,6 +3,7 @@
 #include "archive/contesto.h"
 #include "archive/raffica.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/avvisi.h"
 #include "document/filerighe.h"
 #include "document/recorddoc.h"
@@ -45,8 +46,8 @@ std::optional<EsitoSalva> controlla(const Documento& documento, const Contesto& 
     if (!dataValida(documento.estremi.datareg))
         return rifiuta(contesto, u"La data di registrazione del documento non è valida"_s,
                        {CampoTea::DataReg});
-    for (int i = 0; i < static_cast<int>(documento.scadenze.rate.size()); ++i) {
-        const Rata& rata = documento.scadenze.rate[static_cast<std::size_t>(i)];
+    for (int i = 0; i < quantiIn(documento.scadenze.rate); ++i) {
+        const Rata& rata = elemento(documento.scadenze.rate, i);
         if (valore(rata.importo) != 0.0 && !dataValida(rata.scadenza))
             return rifiuta(contesto, u"Una o più date di scadenza non sono valide"_s,
                            {CampoTea::Scadenza, i});
@@ -105,7 +106,7 @@ Registrato scriviDocumento(Documento& documento, const Contesto& contesto, Righe
     assegnaNfile(coppia.fte, contatore);
     contatore.modificato = 1;
     if (nuovo) {
-        contatore.numero = static_cast<std::int16_t>(r.record);
+        contatore.numero = breve(r.record);
         ricordaNumero(contatore, documento.estremi.numero);
     }
     raffica.scrivi(archivio.fte, r.record, coppia.fte);

@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/totali.h"
 
 #include <algorithm>
@@ -10,12 +11,23 @@ namespace bor {
 
 namespace {
 
+/// How a payment type's code is read: the months of each instalment, then what holds for all.
+constexpr qsizetype caratteriMesi = 3;
+constexpr Tratto fineMese{19, 1};
+constexpr Tratto giornoFisso{20, 3};
+constexpr Tratto regolaAccesa{24, 1};
+constexpr Tratto giornoDellaRegola{25, 5};
+
+constexpr int agosto = 8;
+constexpr int settembre = 9;
+constexpr int dicembre = 12;
+
 QString codice(const Contesto& contesto, int riga) {
     return contesto.tabelle.tipopagamenti[riga].codice.trimmed();
 }
 
 void avanza(int& mese, int& anno) {
-    if (++mese > 12) {
+    if (++mese > dicembre) {
         mese = 1;
         ++anno;
     }
@@ -24,7 +36,7 @@ void avanza(int& mese, int& anno) {
 int ultimoGiorno(int mese, int anno) {
     if (mese == 2)
         return anno % 4 == 0 ? 29 : 28;
-    return mese == 4 || mese == 6 || mese == 9 || mese == 11 ? 30 : 31;
+    return QDate(anno, mese, 1).daysInMonth();
 }
 
 QString dataDa(int giorno, int mese, int anno) {
@@ -41,10 +53,10 @@ int CodicePagamento::quante() const {
 CodicePagamento codicePagamento(const Contesto& contesto, int posizione) {
     CodicePagamento c;
     const QString testo = codice(contesto, posizione + 1);
-    for (std::size_t k = 0; k < c.mesi.size(); ++k)
-        c.mesi[k] = valoreIntero(pezzo(testo, 1 + 3 * static_cast<qsizetype>(k), 3));
-    c.finemese = pezzo(testo, 19, 1) == u"F";
-    c.giorno = valoreIntero(pezzo(testo, 20, 3));
+    for (int k = 0; k < quantiIn(c.mesi); ++k)
+        elemento(c.mesi, k) = valoreIntero(pezzo(testo, 1 + caratteriMesi * k, caratteriMesi));
+    c.finemese = pezzo(testo, fineMese) == u"F";
+    c.giorno = valoreIntero(pezzo(testo, giornoFisso));
     return c;
 }
 
@@ -52,10 +64,10 @@ RegoleScadenza regoleScadenza(const Contesto& contesto) {
     const QString prima = codice(contesto, 1);
     const QString seconda = codice(contesto, 2);
     RegoleScadenza r;
-    r.agosto = pezzo(prima, 24, 1) == u"1";
-    r.settembre = valoreIntero(pezzo(prima, 25, 5));
-    r.dicembre = pezzo(seconda, 24, 1) == u"1";
-    r.gennaio = valoreIntero(pezzo(seconda, 25, 5));
+    r.agosto = pezzo(prima, regolaAccesa) == u"1";
+    r.settembre = valoreIntero(pezzo(prima, giornoDellaRegola));
+    r.dicembre = pezzo(seconda, regolaAccesa) == u"1";
+    r.gennaio = valoreIntero(pezzo(seconda, giornoDellaRegola));
     return r;
 }
 
@@ -71,11 +83,11 @@ QString calcscad(QDate data, int mesi, bool finemese, int giorno, const RegoleSc
     } else {
         gg = finemese ? ultimoGiorno(mm, aa) : std::min(gg, ultimoGiorno(mm, aa));
     }
-    if (regole.agosto && mm == 8) {
+    if (regole.agosto && mm == agosto) {
         gg = regole.settembre;
-        mm = 9;
+        mm = settembre;
     }
-    if (regole.dicembre && gg == 31 && mm == 12) {
+    if (regole.dicembre && gg == 31 && mm == dicembre) {
         gg = regole.gennaio;
         avanza(mm, aa);
     }

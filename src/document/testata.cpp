@@ -14,8 +14,8 @@ SedeTesti testiDi(const Sede& sede) {
 } // namespace
 
 ContoTesti ContoTesti::da(QStringView campo) {
-    return {puliscitesto(pezzo(campo, 1, 2)), puliscitesto(pezzo(campo, 3, 2)),
-            puliscitesto(pezzo(campo, 5))};
+    return {puliscitesto(pezzo(campo, postoMastro)), puliscitesto(pezzo(campo, postoConto)),
+            puliscitesto(pezzo(campo, postoSottoconto))};
 }
 
 DatiCliente DatiCliente::da(const Cli& cliente) {

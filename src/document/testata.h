@@ -2,6 +2,9 @@
 // to the customer. The head form edits it; saving, printing and posting read it.
 #pragma once
 
+#include "common/serie.h"
+#include "common/testo.h"
+
 #include <QString>
 
 #include <array>
@@ -28,7 +31,10 @@ struct ContoTesti {
     QString sottoconto;
 
     QString unito() const { return mastro + conto + sottoconto; }
-    /// Cuts an account field at the characters 1-2, 3-4 and 5 to the end.
+    static constexpr Tratto postoMastro{1, 2};
+    static constexpr Tratto postoConto{3, 2};
+    static constexpr Tratto postoSottoconto{5};
+    /// Cuts an account field at these places.
     static ContoTesti da(QStringView campo);
 
     friend bool operator==(const ContoTesti&, const ContoTesti&) = default;
@@ -61,17 +67,22 @@ struct DatiCliente {
     friend bool operator==(const DatiCliente&, const DatiCliente&) = default;
 };
 
+/// Who carries the goods; the detail lines file keeps the position.
+enum class Mezzo { Vettore, Destinatario, Mittente };
+inline constexpr Serie<QStringView, Mezzo::Vettore, Mezzo::Mittente> nomeMezzo{
+    {u"Vettore", u"Destinatario", u"Mittente"}};
+
 /// Transport of a goods invoice. List positions count from 0; -1 is no selection.
 struct Trasporto {
-    QString ddt;        ///< `text3(0)`
-    QString ordine;     ///< `text3(1)`
-    QString colli;      ///< `text3(2)`
-    QString peso;       ///< `text3(3)`
-    QString inizio;     ///< `text3(4)`: "dd/mm/yyyy"
-    QString ora;        ///< `text3(5)`
-    int causale = -1;   ///< `Combo3`
-    int aspetto = -1;   ///< `Combo2`
-    int spedizione = 0; ///< `sped`: 0 carrier, 1 recipient, 2 sender
+    QString ddt;                       ///< `text3(0)`
+    QString ordine;                    ///< `text3(1)`
+    QString colli;                     ///< `text3(2)`
+    QString peso;                      ///< `text3(3)`
+    QString inizio;                    ///< `text3(4)`: "dd/mm/yyyy"
+    QString ora;                       ///< `text3(5)`
+    int causale = -1;                  ///< `Combo3`
+    int aspetto = -1;                  ///< `Combo2`
+    Mezzo spedizione = Mezzo::Vettore; ///< `sped`
 
     friend bool operator==(const Trasporto&, const Trasporto&) = default;
 };

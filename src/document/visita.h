@@ -3,51 +3,14 @@
 #pragma once
 
 #include "archive/tabelle.h"
+#include "common/posti.h"
 #include "document/documento.h"
+#include "document/limitato.h"
 
 #include <concepts>
 #include <type_traits>
 
 namespace bor {
-
-/// A number with the values it may have: outside them it is read as `altrimenti`.
-template <class N>
-struct Limitato {
-    N& numero;
-    int minimo;
-    int massimo;
-    int altrimenti;
-};
-
-int intero(auto numero) {
-    return static_cast<int>(numero);
-}
-inline int intero(CodiceIva codice) {
-    return codice.numero();
-}
-
-template <class N>
-Limitato<N> limitato(N& numero, int minimo, int massimo, int altrimenti) {
-    return {numero, minimo, massimo, altrimenti};
-}
-
-/// A position in a list of so many items, which counts from 0; -1 is no selection.
-template <class N>
-Limitato<N> posizione(N& numero, int voci) {
-    return {numero, -1, voci - 1, -1};
-}
-
-/// A table that always has so many lines; only those in use are kept.
-template <class V>
-struct Tabella {
-    V& righe;
-    int quante;
-};
-
-template <class V>
-Tabella<V> tabella(V& righe, int quante) {
-    return {righe, quante};
-}
 
 template <class T, class U>
 concept Tale = std::same_as<std::remove_const_t<T>, U>;
@@ -79,7 +42,7 @@ void visita(auto& a, Tale<DatiCliente> auto& x) {
 void visita(auto& a, Tale<Trasporto> auto& x) {
     auto& [ddt, ordine, colli, peso, inizio, ora, causale, aspetto, spedizione] = x;
     a(ddt, ordine, colli, peso, inizio, ora, posizione(causale, vociTestata), posizione(aspetto, vociTestata),
-      limitato(spedizione, 0, 2, 0));
+      limitato(spedizione, 0, ordinale(Mezzo::Mittente), 0));
 }
 
 void visita(auto& a, Tale<Pratica> auto& x) {
@@ -145,7 +108,7 @@ void visita(auto& a, Tale<Documento> auto& x) {
     a(limitato(recordfattura, 0, Archivio::massimo, 0), limitato(recordcliente, 0, Archivio::massimo, 0),
       recordfpa, coppia, cliente, testata, estremi, scadenze, prospetti, tabella(ddd, righeMerce),
       tabella(dddp, righeParcella), scorporo,
-      limitato(integrata, 0, static_cast<int>(Integrata::Intracomunitaria), 0));
+      limitato(integrata, 0, ordinale(Integrata::Intracomunitaria), 0));
 }
 
 } // namespace bor

@@ -30,6 +30,7 @@ Borftepa::Borftepa(Contesto& contesto, Documento& documento) : m_contesto(contes
 void Borftepa::attiva() {
     m_cliente = m_contesto.archivio.cli.leggi(m_documento.recordcliente);
     vuotaCampi();
+    m_fuoco = TestoFpa::Numero;
     apriAzienda();
     if (valore(m_fpaazienda.statoquadri.text()) != Fpa::compilato) {
         m_contesto.operatore.messaggio(
@@ -96,8 +97,9 @@ void Borftepa::proponiPagamento() {
     constexpr std::array<QStringView, 4> modalita = {u"MP12", u"MP05", u"MP01", u"MP09"};
     constexpr QStringView assegno = u"MP02";
     const TipoPagamento& scelto = m_contesto.tabelle.tipopagamenti[m_documento.scadenze.pagamento + 1];
-    const auto tipo = static_cast<std::size_t>(scelto.modalita());
-    scegliCodice(ListaFpa::Modalita, tipo < modalita.size() ? modalita[tipo] : assegno);
+    const int tipo = scelto.modalita();
+    scegliCodice(ListaFpa::Modalita,
+                 tipo >= 0 && tipo < quantiIn(modalita) ? elemento(modalita, tipo) : assegno);
 }
 
 LetturaFpa Borftepa::apriDocumento() {
@@ -139,6 +141,10 @@ void Borftepa::lasciaData(DataFpa data) {
 bool Borftepa::dataCompleta(DataFpa data) const {
     constexpr qsizetype lunghezzaData = 10; // "dd/mm/yyyy"
     return testo(data).size() == lunghezzaData && dataValida(testo(data));
+}
+
+void Borftepa::invio(PostoFpa posto) {
+    m_fuoco = casellaFpa(posto).dopo;
 }
 
 QStringList Borftepa::vettori() const {

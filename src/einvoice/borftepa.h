@@ -4,6 +4,7 @@
 
 #include "archive/contesto.h"
 #include "archive/fpa.h"
+#include "common/serie.h"
 #include "document/documento.h"
 #include "einvoice/campifpa.h"
 #include "einvoice/filefpa.h"
@@ -14,6 +15,7 @@
 #include <array>
 #include <optional>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace bor {
@@ -35,10 +37,15 @@ public:
     void lasciaData(DataFpa data);
     /// The box holds a whole date: typing goes on in the next one.
     bool dataCompleta(DataFpa data) const;
+    void invio(PostoFpa posto);
+    /// The customer's boxes only show: who enters one is sent to the first that may be written.
+    void entraCliente() { m_fuoco = TestoFpa::Numero; }
+    /// The box that the last event sends the operator to; asking takes the wish away.
+    std::optional<PostoFpa> prendiFuoco() { return std::exchange(m_fuoco, std::nullopt); }
 
     /// Positions count from 0; -1 is no selection.
-    int scelta(ListaFpa lista) const { return m_scelte[static_cast<std::size_t>(lista)]; }
-    void scegli(ListaFpa lista, int posizione) { m_scelte[static_cast<std::size_t>(lista)] = posizione; }
+    int scelta(ListaFpa lista) const { return m_scelte[lista]; }
+    void scegli(ListaFpa lista, int posizione) { m_scelte[lista] = posizione; }
     QStringList vettori() const; ///< `Combo1`
     int vettore() const { return m_vettore; }
     void scegliVettore(int posizione);
@@ -59,9 +66,9 @@ public:
     std::optional<std::vector<Rilievo>> controlla();
 
 private:
+    using SceltaListe = Serie<int, ListaFpa::TipoDocumento, ListaFpa::Modalita>;
     /// What the operator can enter.
-    using Compilata =
-        std::tuple<std::array<QString, numeroPostiFpa>, std::array<int, numeroListeFpa>, int, bool, bool>;
+    using Compilata = std::tuple<std::array<QString, numeroPostiFpa>, SceltaListe, int, bool, bool>;
     /// What `genera` did last.
     struct Generata {
         Compilata compilata;
@@ -95,7 +102,8 @@ private:
     TabellaRighe m_righepa;
     RiepilogoFpa m_riepilogo;
     std::array<QString, numeroPostiFpa> m_testi; ///< as typed, of texts and dates
-    std::array<int, numeroListeFpa> m_scelte{};
+    SceltaListe m_scelte;
+    std::optional<PostoFpa> m_fuoco;
     int m_vettore = -1;
     std::optional<Generata> m_generata;
 };

@@ -96,7 +96,7 @@ double Borftepa::nuovoProgressivo() {
         Tot contatore = raffica.leggiTot(Conta::Fpa);
         const int ultimo = std::max<int>(contatore.numero, 0);
         numero = ultimo >= Archivio::massimo ? 1 : ultimo + 1;
-        contatore.numero = static_cast<std::int16_t>(numero);
+        contatore.numero = breve(numero);
         raffica.scriviTot(Conta::Fpa, contatore);
         esito = raffica.esegui();
     }

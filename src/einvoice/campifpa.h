@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/fpa.h"
+#include "common/posti.h"
 
 #include <span>
 #include <variant>
@@ -41,8 +42,8 @@ inline constexpr std::size_t numeroPostiFpa = numeroTestiFpa + 6;
 /// Place of a box among all, from 0: the texts, then the dates.
 constexpr std::size_t indiceFpa(PostoFpa posto) {
     if (const TestoFpa* testo = std::get_if<TestoFpa>(&posto))
-        return static_cast<std::size_t>(*testo);
-    return numeroTestiFpa + static_cast<std::size_t>(std::get<DataFpa>(posto));
+        return postoDaZero(ordinale(*testo));
+    return numeroTestiFpa + postoDaZero(ordinale(std::get<DataFpa>(posto)));
 }
 
 struct CasellaFpa {

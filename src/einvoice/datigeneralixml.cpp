@@ -1,5 +1,6 @@
 #include "einvoice/partixml.h"
 
+#include "common/date.h"
 #include "common/numeri.h"
 
 namespace bor {
@@ -103,7 +104,7 @@ void vettore(ScrittoreXml& xml, const Fpa& d) {
 } // namespace
 
 QString dataXml(QStringView data) {
-    return pezzo(data, 7, 4) + u'-' + pezzo(data, 4, 2) + u'-' + pezzo(data, 1, 2);
+    return pezzo(data, postoAnno) + u'-' + pezzo(data, postoMese) + u'-' + pezzo(data, postoGiorno);
 }
 
 void scriviDatiGenerali(ScrittoreXml& xml, const Fpa& d) {

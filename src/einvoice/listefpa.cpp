@@ -1,5 +1,7 @@
 #include "einvoice/listefpa.h"
 
+#include "common/posti.h"
+
 #include <algorithm>
 
 namespace bor {
@@ -90,7 +92,7 @@ int posizioneFpa(ListaFpa lista, QStringView inizio) {
     const QStringList& voci = vociFpa(lista);
     const auto trovata =
         std::ranges::find_if(voci, [inizio](const QString& voce) { return voce.startsWith(inizio); });
-    return trovata == voci.end() ? -1 : static_cast<int>(trovata - voci.begin());
+    return postoDi(voci, trovata);
 }
 
 } // namespace bor

@@ -9,7 +9,6 @@ namespace bor {
 
 /// The lists `Combo7(0)` to `Combo7(4)`.
 enum class ListaFpa { TipoDocumento, Causale, TipoRitenuta, Condizioni, Modalita };
-inline constexpr std::size_t numeroListeFpa = 5;
 
 const QStringList& vociFpa(ListaFpa lista);
 

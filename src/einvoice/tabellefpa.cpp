@@ -21,9 +21,9 @@ void mettiVettore(Fpa& documento, const Tabelle& tabelle, int riga) {
     // code, as in every invoice of such a carrier before.
     const QString codici =
         trasporto.codici.startsWith(u'*') ? trasporto.codici : u'*' + QString(500, u' ') + u'*';
-    documento.vettorepaese.set(pezzo(codici, 2, 2).trimmed());
-    documento.vettorecodice.set(pezzo(codici, 4, 16).trimmed());
-    documento.vettorecf.set(pezzo(codici, 20).trimmed());
+    documento.vettorepaese.set(pezzo(codici, RigaTrasporto::paese).trimmed());
+    documento.vettorecodice.set(pezzo(codici, RigaTrasporto::codice).trimmed());
+    documento.vettorecf.set(pezzo(codici, RigaTrasporto::codicefiscale).trimmed());
     documento.vettorenome.set(trasporto.vettore[0]);
 }
 

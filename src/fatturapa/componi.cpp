@@ -3,6 +3,7 @@
 #include "archive/tabelle.h"
 #include "common/date.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/codiceiva.h"
 #include "fatturapa/caratteri.h"
 #include "fatturapa/composizione.h"
@@ -140,7 +141,7 @@ void lineeDalleRigheIva(Composizione& c) {
 
 Composizione::RigaIva Composizione::rigaIva(int riga) const {
     const auto& [fte, f2e] = fonti.documento.coppia;
-    const auto i = static_cast<std::size_t>(riga - 1);
+    const std::size_t i = postoDaZero(riga - 1);
     const std::size_t prime = fte.impon.size();
     if (i < prime)
         return {fte.impon[i], fte.iva[i], fte.esen[i]};
@@ -157,7 +158,7 @@ IvaFel Composizione::iva(int codice) {
             return iva;
     }
     const int riga = CodiceIva(codice).riga();
-    const QString& propria = fonti.propri.nature[static_cast<std::size_t>(codice)];
+    const QString& propria = elemento(fonti.propri.nature, codice);
     iva.natura = !propria.isEmpty() ? propria : tassato ? QString() : naturaSuite(fonti.tabelle, riga);
     iva.riferimento = tassato ? QString() : testoLatino(fonti.tabelle.esenzioni[riga].riferimento).left(100);
     if (naturaDiOggi(iva.natura))

@@ -1,6 +1,7 @@
 #include "archive/tabelle.h"
 #include "common/date.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/codiceiva.h"
 #include "document/totaliriga.h"
 #include "fatturapa/caratteri.h"
@@ -104,7 +105,7 @@ struct Codici {
 double arrotondamentoDi(const TabellaIva& ricalcolata, const Codici& codici, int codice) {
     const CodiceIva iva(codice);
     const double atteso = iva.tassato() ? ricalcolata.imponibili[iva.riga()] : ricalcolata.esenti[iva.riga()];
-    const double differenza = ottoDecimali(atteso - codici.totali[static_cast<std::size_t>(codice)]);
+    const double differenza = ottoDecimali(atteso - elemento(codici.totali, codice));
     return std::abs(differenza) >= arrotondamentoDaDire ? differenza : 0;
 }
 
@@ -124,7 +125,7 @@ void componiRiepiloghi(Composizione& c, const Codici& codici, const TabellaIva& 
         const auto riga = c.rigaIva(CodiceIva(codice).riga());
         const double imponibile = tassato ? riga.imponibile : riga.esente;
         const double imposta = tassato ? riga.imposta : 0;
-        if (imponibile == 0 && imposta == 0 && !codici.usati[static_cast<std::size_t>(codice)])
+        if (imponibile == 0 && imposta == 0 && !elemento(codici.usati, codice))
             continue;
         const IvaFel iva = c.iva(codice);
         const double scritta = tassato ? impostaInCentesimi(riga, iva.aliquota) : 0;
@@ -162,8 +163,8 @@ void componiRighe(Composizione& c) {
         const IvaFel iva = c.iva(codice);
         const double divisore = d.scorporo && CodiceIva(codice).tassato() ? 1 + iva.aliquota / 100 : 1;
         c.fattura.linee.push_back(lineaDi(riga, iva, divisore, c));
-        codici.usati[static_cast<std::size_t>(codice)] = true;
-        codici.totali[static_cast<std::size_t>(codice)] += c.fattura.linee.back().totale;
+        elemento(codici.usati, codice) = true;
+        elemento(codici.totali, codice) += c.fattura.linee.back().totale;
     }
     componiRitenute(c, quoteRitenuta(c, ricalcolata));
     componiRiepiloghi(c, codici, ricalcolata);

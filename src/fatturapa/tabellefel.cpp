@@ -46,11 +46,11 @@ VettoreSuite vettoreDiNome(const Tabelle& tabelle, const QString& nome) {
     for (const RigaTrasporto& riga : tabelle.vettori) {
         if (nome.isEmpty() || riga.vettore[0].trimmed() != nome || !riga.codici.startsWith(u'*'))
             continue;
-        QString codicefiscale = pezzo(riga.codici, 20).trimmed();
+        QString codicefiscale = pezzo(riga.codici, RigaTrasporto::codicefiscale).trimmed();
         if (codicefiscale.endsWith(u'*'))
             codicefiscale.chop(1);
-        return {pezzo(riga.codici, 2, 2).trimmed(), pezzo(riga.codici, 4, 16).trimmed(),
-                codicefiscale.trimmed()};
+        return {pezzo(riga.codici, RigaTrasporto::paese).trimmed(),
+                pezzo(riga.codici, RigaTrasporto::codice).trimmed(), codicefiscale.trimmed()};
     }
     return {};
 }

@@ -2,6 +2,7 @@
 // e-mail.
 #pragma once
 
+#include "common/posti.h"
 #include "common/stampante.h"
 
 #include <QString>
@@ -27,7 +28,7 @@ struct Layout {
     std::array<VoceLayout, 101> voci;
     bool modello = false; ///< the page template is drawn under the items
 
-    const VoceLayout& voce(int numero) const { return voci[static_cast<std::size_t>(numero)]; }
+    const VoceLayout& voce(int numero) const { return elemento(voci, numero); }
 };
 
 /// A layout file that cannot be read whole gives a page on which no item has a place.

@@ -3,6 +3,7 @@
 #include "archive/archivio.h"
 #include "archive/filetesto.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "output/foglio.h"
 
 #include <algorithm>
@@ -47,8 +48,8 @@ std::optional<OggettoModello> leggiOggetto(FileTesto& file) {
     if (file.finito())
         return std::nullopt;
     using Tipo = OggettoModello::Tipo;
-    if (tipo > static_cast<int>(Tipo::Nessuno) && tipo <= static_cast<int>(Tipo::Immagine))
-        o.tipo = static_cast<Tipo>(tipo);
+    if (tipo > ordinale(Tipo::Nessuno) && tipo <= ordinale(Tipo::Immagine))
+        o.tipo = enumeratore<Tipo>(tipo);
     o.x1 = valore(file.campo());
     o.y1 = valore(file.campo());
     o.x2 = valore(file.campo());

@@ -1,6 +1,7 @@
 // The page of invoices and credit notes.
 #include "archive/tabelle.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "output/voci.h"
 
 using namespace Qt::StringLiterals;
@@ -21,9 +22,7 @@ QStringList trasporto(const DatiStampa& dati) {
 QStringList vettore(const DatiStampa& dati) {
     const Trasporto& t = dati.documento.testata.trasporto;
     const auto& linee = dati.documento.testata.cliente.vettore;
-    QStringList testi = {t.spedizione == 2   ? u"Mittente"_s
-                         : t.spedizione == 1 ? u"Destinatario"_s
-                                             : u"Vettore"_s};
+    QStringList testi = {nomeMezzo[t.spedizione].toString()};
     testi.append(QStringList(linee.begin(), linee.end()));
     return testi;
 }
@@ -101,7 +100,7 @@ constexpr qsizetype caratteriDescrizione = 60;
 constexpr qsizetype caratteriUnita = 2;
 
 const Riga& riga(const DatiStampa& dati, int linea) {
-    return dati.documento.ddd[static_cast<std::size_t>(linea - 1)];
+    return elemento(dati.documento.ddd, linea - 1);
 }
 
 QString codice(const DatiStampa& dati, int linea) {

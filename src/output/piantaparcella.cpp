@@ -1,5 +1,6 @@
 // The page of fee bills.
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "output/voci.h"
 
 using namespace Qt::StringLiterals;
@@ -56,7 +57,7 @@ constexpr qsizetype caratteriData = 10;
 constexpr qsizetype caratteriDescrizione = 50;
 
 const Rigap& riga(const DatiStampa& dati, int linea) {
-    return dati.documento.dddp[static_cast<std::size_t>(linea - 1)];
+    return elemento(dati.documento.dddp, linea - 1);
 }
 
 QString data(const DatiStampa& dati, int linea) {

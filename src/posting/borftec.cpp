@@ -16,17 +16,17 @@ namespace bor {
 
 namespace {
 
-constexpr qsizetype inizioNome = 12; ///< position of the name in a row of the account list
+/// Where the name of an account stands in a row of the list, behind the three groups of its code.
+constexpr Tratto nomeInVoce{12};
 
 QString voceConto(const Con& conto) {
     const QString codice = zeriDavanti(puliscitesto(conto.codice.text()), 8);
-    return pezzo(codice, 1, 2) + u' ' + pezzo(codice, 3, 2) + u' ' + pezzo(codice, 5, 4) + u' ' +
-           puliscitesto(conto.descrizione.text());
+    return pezzo(codice, ContoTesti::postoMastro) + u' ' + pezzo(codice, ContoTesti::postoConto) + u' ' +
+           pezzo(codice, ContoTesti::postoSottoconto) + u' ' + puliscitesto(conto.descrizione.text());
 }
 
-/// The value of the code in such a row.
-double codiceDi(const QString& voce) {
-    return valore(pezzo(voce, 1, 2) + pezzo(voce, 4, 2) + pezzo(voce, 7, 4));
+ContoTesti contoInVoce(const QString& voce) {
+    return {pezzo(voce, 1, 2), pezzo(voce, 4, 2), pezzo(voce, 7, 4)};
 }
 
 QString& casella(RigaMovimento& riga, Borftec::Campo campo) {
@@ -66,7 +66,7 @@ void Borftec::attiva() {
     m_nomi.clear();
     // Of two accounts with one code the first in the list lends its name.
     for (const QString& voce : m_conti)
-        m_nomi.try_emplace(codiceDi(voce), pezzo(voce, inizioNome));
+        m_nomi.try_emplace(valore(contoInVoce(voce).unito()), pezzo(voce, nomeInVoce));
 }
 
 QString Borftec::titolo() const {
@@ -86,13 +86,13 @@ void Borftec::cambia(Cella cella, const QString& testo) {
     casella(riga(cella.linea), cella.campo) = importo ? QString(testo).replace(u',', u'.') : testo;
     if (importo)
         return;
-    if (testo.size() == caratteri[static_cast<std::size_t>(cella.campo)])
+    if (testo.size() == caratteri[cella.campo])
         invio(cella);
     const ContoTesti& conto = riga(cella.linea).conto;
     const QString inizio = QStringList{conto.mastro, conto.conto, conto.sottoconto}.join(u' ').trimmed();
-    const auto trovato = std::ranges::lower_bound(m_conti, inizio);
-    if (!inizio.isEmpty() && trovato != m_conti.end() && trovato->startsWith(inizio))
-        m_contoScelto = static_cast<int>(trovato - m_conti.begin());
+    const auto trovato = std::ranges::lower_bound(std::as_const(m_conti), inizio);
+    if (!inizio.isEmpty() && trovato != m_conti.cend() && trovato->startsWith(inizio))
+        m_contoScelto = postoDi(m_conti, trovato);
 }
 
 QString Borftec::descrizioneConto(int linea) const {
@@ -108,18 +108,18 @@ void Borftec::cambia(const QString& valore, QString Movimento::*testo) {
 
 void Borftec::invio(Cella cella) {
     if (cella.campo != Campo::Avere)
-        m_fuoco = Cella{static_cast<Campo>(static_cast<int>(cella.campo) + 1), cella.linea};
+        m_fuoco = Cella{prossimo(cella.campo), cella.linea};
     else
         m_fuoco = Cella{Campo::Mastro, (cella.linea + 1) % righe};
 }
 
 void Borftec::cerca(const QString& testo) {
     const QString cercato = maiuscolo(testo);
-    const auto trovato = std::ranges::find_if(m_conti, [&](const QString& voce) {
-        return maiuscolo(pezzo(voce, inizioNome, cercato.size())) == cercato;
+    const auto trovato = std::ranges::find_if(std::as_const(m_conti), [&](const QString& voce) {
+        return maiuscolo(pezzo(voce, nomeInVoce.da, cercato.size())) == cercato;
     });
     if (!cercato.isEmpty() && trovato != m_conti.end())
-        m_contoScelto = static_cast<int>(trovato - m_conti.begin());
+        m_contoScelto = postoDi(m_conti, trovato);
 }
 
 void Borftec::prendiConto(int posizione) {
@@ -128,7 +128,7 @@ void Borftec::prendiConto(int posizione) {
     m_contoScelto = posizione;
     m_modificato = true;
     const QString& voce = m_conti[posizione];
-    riga(m_lineafuoco).conto = {pezzo(voce, 1, 2), pezzo(voce, 4, 2), pezzo(voce, 7, 4)};
+    riga(m_lineafuoco).conto = contoInVoce(voce);
     m_fuoco = Cella{Campo::Dare, m_lineafuoco};
 }
 
@@ -147,7 +147,7 @@ void Borftec::inserisciRiga() {
     auto& r = m_movimento.righe;
     m_modificato = true;
     std::move_backward(r.begin() + m_lineafuoco + 1, r.end() - 1, r.end());
-    r[static_cast<std::size_t>(m_lineafuoco) + 1] = {};
+    riga(m_lineafuoco + 1) = {};
 }
 
 void Borftec::lascia() {
@@ -159,22 +159,27 @@ void Borftec::lascia() {
     m_contesto.navigatore.mostra(Schermo::Borfte);
 }
 
-double Borftec::totaleDare() const {
-    double somma = 0;
-    for (const RigaMovimento& r : m_movimento.righe)
-        somma += valorevirgola(r.dare);
-    return somma;
+double Borftec::totale(Totale quale) const {
+    switch (quale) {
+    case Totale::Dare:
+        return somma(&RigaMovimento::dare);
+    case Totale::Avere:
+        return somma(&RigaMovimento::avere);
+    case Totale::Sbilancio:
+        return scarto(totale(Totale::Dare), totale(Totale::Avere));
+    case Totale::Documento:
+        return totaleDocumento();
+    case Totale::Differenza:
+        break;
+    }
+    return differenza();
 }
 
-double Borftec::totaleAvere() const {
-    double somma = 0;
+double Borftec::somma(QString RigaMovimento::*importo) const {
+    double totale = 0;
     for (const RigaMovimento& r : m_movimento.righe)
-        somma += valorevirgola(r.avere);
-    return somma;
-}
-
-double Borftec::sbilancio() const {
-    return scarto(totaleDare(), totaleAvere());
+        totale += valorevirgola(r.*importo);
+    return totale;
 }
 
 double Borftec::totaleDocumento() const {
@@ -189,7 +194,7 @@ double Borftec::differenza() const {
     // The seller's own invoice is posted apart: this movement then carries the tax alone.
     const double atteso =
         m_documento.integrata == Integrata::No ? totaleDocumento() : totali(m_documento).somma2;
-    return scarto(m_documento.notaCredito() ? totaleAvere() : totaleDare(), atteso);
+    return scarto(totale(m_documento.notaCredito() ? Totale::Avere : Totale::Dare), atteso);
 }
 
 void Borftec::salva() {
@@ -233,7 +238,7 @@ EsitoRaffica Borftec::registra(bool& contiTrovati) {
 bool Borftec::trovaConti(Raffica& raffica) {
     bool tutti = true;
     for (int i = 0; i < righe; ++i) {
-        int& trovato = m_contoriga[static_cast<std::size_t>(i)];
+        int& trovato = elemento(m_contoriga, i);
         trovato = 0;
         // A line without amounts drops out of the movement, whatever account it names.
         if (riga(i).senzaImporti())
@@ -253,7 +258,7 @@ void Borftec::aggiornaConti(Raffica& raffica, int vecchiomovimento) {
             applicaconto(raffica, voce);
     }
     for (int i = 0; i < righe; ++i) {
-        const int n = m_contoriga[static_cast<std::size_t>(i)];
+        const int n = elemento(m_contoriga, i);
         if (n > 0)
             aggiornaconto(raffica, n, valorevirgola(riga(i).dare), valorevirgola(riga(i).avere));
     }

@@ -4,6 +4,7 @@
 
 #include "archive/contesto.h"
 #include "archive/raffica.h"
+#include "common/serie.h"
 #include "document/cella.h"
 #include "document/documento.h"
 #include "posting/movimento.h"
@@ -22,7 +23,15 @@ public:
     /// The boxes of a line, in the order of the screen.
     enum class Campo { Mastro, Conto, Sottoconto, Dare, Avere };
     /// Characters of a group of the account; 0 for an amount.
-    static constexpr std::array<int, 5> caratteri = {2, 2, 4, 0, 0};
+    static constexpr Serie<int, Campo::Mastro, Campo::Avere> caratteri{{2, 2, 4, 0, 0}};
+    /// What stands under the lines.
+    enum class Totale {
+        Dare,
+        Avere,
+        Sbilancio, ///< debit less credit; 0 when they agree to the cent
+        Documento,
+        Differenza ///< of the customer's side from what the document asks for; 0 when they agree to the cent
+    };
     /// A line of the screen is a row of the movement.
     using Cella = CellaDi<Campo>;
 
@@ -68,25 +77,21 @@ public:
     /// document stays without one.
     void lascia();
 
-    double totaleDare() const;
-    double totaleAvere() const;
-    /// Debit less credit; 0 when they agree to the cent.
-    double sbilancio() const;
-    double totaleDocumento() const;
-    /// What the movement carries on the customer's side less what the document asks for; 0 when they agree to
-    /// the cent.
-    double differenza() const;
+    double totale(Totale quale) const;
     QString importo(double x) const { return m_contesto.valuta().importotesto(x); }
 
 private:
+    double somma(QString RigaMovimento::*importo) const;
+    double totaleDocumento() const;
+    double differenza() const;
     bool salvamovimento();
     /// Writes the movement and the balances, unless an account is missing.
     EsitoRaffica registra(bool& contiTrovati);
     bool trovaConti(Raffica& raffica);
     void aggiornaConti(Raffica& raffica, int vecchiomovimento);
     void scriviMovimento(Raffica& raffica, int vecchiomovimento);
-    RigaMovimento& riga(int i) { return m_movimento.righe[static_cast<std::size_t>(i)]; }
-    const RigaMovimento& riga(int i) const { return m_movimento.righe[static_cast<std::size_t>(i)]; }
+    RigaMovimento& riga(int i) { return elemento(m_movimento.righe, i); }
+    const RigaMovimento& riga(int i) const { return elemento(m_movimento.righe, i); }
 
     Contesto& m_contesto;
     const Documento& m_documento;

@@ -1,6 +1,7 @@
 #include "posting/scarico.h"
 
 #include "archive/contesto.h"
+#include "common/posti.h"
 
 #include <cmath>
 
@@ -28,8 +29,8 @@ Mag rigaMagazzino(const Documento& documento, const Riga& riga, double prezzo) {
     mag.causale = 1;
     mag.riferimento.set((documento.notaCredito() ? u"NC "_s : u"FT "_s) + documento.estremi.numero);
     mag.stampmag = documento.coppia.fte.stamp;
-    mag.articolo = static_cast<std::int16_t>(riga.recart);
-    mag.clientemag = static_cast<std::int16_t>(documento.recordcliente);
+    mag.articolo = breve(riga.recart);
+    mag.clientemag = breve(documento.recordcliente);
     mag.quantita = documento.notaCredito() ? -riga.quantita : riga.quantita;
     mag.valore = prezzo;
     mag.segnomag = Mag::uscita;
@@ -83,7 +84,7 @@ void mettiscarico(const Documento& documento, const Contesto& contesto, Raffica&
             return;
         muovi(raffica, riga.recart, verso * riga.quantita, verso * valuta.arrotonda(p * riga.quantita));
         raffica.scrivi(raffica.archivio().mag, n, rigaMagazzino(documento, riga, p));
-        contatore.numero = static_cast<std::int16_t>(n);
+        contatore.numero = breve(n);
     }
     contatore.modificato = 1;
     raffica.scriviTot(Conta::Mag, contatore);

@@ -1,6 +1,7 @@
 #include "posting/setfat.h"
 
 #include "archive/contesto.h"
+#include "common/date.h"
 #include "common/numeri.h"
 #include "document/avvisi.h"
 #include "document/totali.h"
@@ -33,10 +34,19 @@ struct Conti {
     ContoTesti esenti;
 };
 
-/// Rows of the accounting settings.
-constexpr int contoRitenute = 5;
-constexpr int contoIvaDifferita = 8;
-constexpr int descrizioniMovimento = 15;
+/// A text of the accounting settings: its row, and where it stands in it.
+struct PostoContabile {
+    int riga;
+    Tratto tratto;
+};
+constexpr PostoContabile contoRitenute{5, {1, 8}};
+constexpr PostoContabile contoIvaDifferita{8, {81, 8}};
+constexpr PostoContabile descrizioneFattura{15, {1, 40}};
+constexpr PostoContabile descrizioneNotaCredito{15, {41, 40}};
+
+QString contabile(const Contesto& contesto, const PostoContabile& posto) {
+    return pezzo(contesto.tabelle.contabili[posto.riga], posto.tratto);
+}
 
 Conti contiDi(const Documento& documento, const Contesto& contesto) {
     const DatiCliente& testata = documento.testata.cliente;
@@ -47,10 +57,10 @@ Conti contiDi(const Documento& documento, const Contesto& contesto) {
         c.iva = ContoTesti::da(documento.cliente.contoiva.text());
         c.esenti = ContoTesti::da(documento.cliente.contoesenti.text());
     }
-    c.ritenuta = ContoTesti::da(pezzo(contesto.tabelle.contabili[contoRitenute], 1, 8));
+    c.ritenuta = ContoTesti::da(contabile(contesto, contoRitenute));
     // Tax that becomes due only with the payment waits on an account of its own.
     if (documento.coppia.fte.esigdiff.text() == u"1")
-        c.iva = ContoTesti::da(pezzo(contesto.tabelle.contabili[contoIvaDifferita], 81, 8));
+        c.iva = ContoTesti::da(contabile(contesto, contoIvaDifferita));
     return c;
 }
 
@@ -62,11 +72,11 @@ void sostituisci(QString& testo, QStringView segno, const QString& valore) {
 }
 
 QString descrizione(const Documento& documento, const Contesto& contesto) {
-    const qsizetype inizio = documento.notaCredito() ? 41 : 1;
-    QString testo = pezzo(contesto.tabelle.contabili[descrizioniMovimento], inizio, 40).trimmed();
+    QString testo =
+        contabile(contesto, documento.notaCredito() ? descrizioneNotaCredito : descrizioneFattura).trimmed();
     QString numero = puliscitesto(documento.estremi.numero);
     if (contesto.impostazioni.gnr.annoNelNumero())
-        numero += u'/' + pezzo(documento.estremi.data, 7);
+        numero += u'/' + pezzo(documento.estremi.data, postoAnno);
     sostituisci(testo, u"$D", numero);
     sostituisci(testo, u"$N", documento.cliente.sede.ragione1.trimmed());
     sostituisci(testo, u"$G", documento.estremi.data);

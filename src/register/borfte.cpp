@@ -1,5 +1,6 @@
 #include "register/borfte.h"
 
+#include "common/posti.h"
 #include "document/apripdf.h"
 #include "document/riscontromovimento.h"
 #include "register/righeelenco.h"
@@ -30,7 +31,7 @@ int primoRecord(std::optional<Selvis> selvis, int numero) {
 /// The digit of an option in the stored preference; where none is chosen it is that of the first.
 template <class Opzione>
 int cifra(std::optional<Opzione> opzione) {
-    return opzione ? static_cast<int>(*opzione) : 0;
+    return opzione ? ordinale(*opzione) : 0;
 }
 
 } // namespace
@@ -105,21 +106,21 @@ void Borfte::nuovoDocumento(int tipo) {
     sessione.documentoletto = false;
     sessione.testataletta = false;
     m_documento = {};
-    m_documento.coppia.fte.tipo = static_cast<std::int16_t>(tipo);
+    m_documento.coppia.fte.tipo = breve(tipo);
     m_contesto.navigatore.mostra(Schermo::Borftem);
 }
 
 void Borfte::cambiaFiltro(FiltroFatture filtro) {
     if (m_riordino.inCorso())
         return;
-    m_filtro = filtro;
+    m_scelte.filtro = filtro;
     caricalista();
 }
 
 void Borfte::cambiaSelvis(Selvis scelta) {
     if (m_riordino.inCorso())
         return;
-    m_selvis = scelta;
+    m_scelte.selvis = scelta;
     salvaVista();
     caricalista();
 }
@@ -127,7 +128,7 @@ void Borfte::cambiaSelvis(Selvis scelta) {
 void Borfte::cambiaVisua(Visua scelta) {
     if (m_riordino.inCorso())
         return;
-    m_visua = scelta;
+    m_scelte.visua = scelta;
     m_recordCorrente = 0;
     salvaVista();
     caricalista();
@@ -135,7 +136,7 @@ void Borfte::cambiaVisua(Visua scelta) {
 
 void Borfte::salvaVista() {
     Gnr& gnr = m_contesto.impostazioni.gnr;
-    gnr.vistalista = static_cast<std::int16_t>(10 * cifra(m_visua) + cifra(m_selvis));
+    gnr.vistalista = breve(10 * cifra(m_scelte.visua) + cifra(m_scelte.selvis));
     salvagnr(m_contesto.archivio, gnr);
 }
 
@@ -145,8 +146,8 @@ void Borfte::ripristinavista() {
     const int visua = vista / 10;
     if (vista < 0 || selvis > 2 || visua > 1)
         return;
-    m_selvis = static_cast<Selvis>(selvis);
-    m_visua = static_cast<Visua>(visua);
+    m_scelte.selvis = enumeratore<Selvis>(selvis);
+    m_scelte.visua = enumeratore<Visua>(visua);
 }
 
 void Borfte::ordina(Colonna colonna) {
@@ -209,7 +210,7 @@ void Borfte::riapriUltimo() {
 void Borfte::cerca(const QString& testo) {
     if (m_riordino.inCorso())
         return;
-    m_cercato = testo;
+    m_scelte.cercato = testo;
     m_elenco.cerca(testo);
     m_primaRiga.reset();
     ++m_edizione;
@@ -219,7 +220,7 @@ int Borfte::rigaCorrente() const {
     const int riga = m_elenco.rigaDi(m_recordCorrente);
     if (riga >= 0)
         return riga;
-    return m_visua == Visua::DallUltima ? std::max(m_elenco.quante() - 1, 0) : 0;
+    return m_scelte.visua == Visua::DallUltima ? std::max(m_elenco.quante() - 1, 0) : 0;
 }
 
 void Borfte::apriRecord(int record, Schermo schermo) {
@@ -246,10 +247,10 @@ void Borfte::caricalista() {
     const Attesa attesa(m_contesto.operatore);
     m_difetti.clear();
     m_senzaRighe.clear();
-    m_elenco.carica(m_contesto.archivio, primoRecord(m_selvis, m_numero), m_numero, filtroScelto());
+    m_elenco.carica(m_contesto.archivio, primoRecord(m_scelte.selvis, m_numero), m_numero, filtroScelto());
     const int righelista = m_elenco.quante() + 1;
     m_primaRiga = 0;
-    if (m_visua == Visua::DallUltima && righelista > righeSotto + 1)
+    if (m_scelte.visua == Visua::DallUltima && righelista > righeSotto + 1)
         m_primaRiga = std::max(righelista, righePiene + 1) - righeSotto - 1;
     // A fill colours only the cell that has the cursor, by the last document it took in; the rows get their
     // colours apart from that.
@@ -260,7 +261,7 @@ void Borfte::caricalista() {
 }
 
 ElencoFatture::Passa Borfte::filtroScelto() {
-    switch (m_filtro) {
+    switch (m_scelte.filtro) {
     case FiltroFatture::Tutte:
         break;
     case FiltroFatture::Normali:

@@ -8,7 +8,6 @@
 #include "register/comandoriordino.h"
 #include "register/elencofatture.h"
 
-#include <functional>
 #include <optional>
 #include <unordered_map>
 
@@ -18,6 +17,15 @@ namespace bor {
 enum class Selvis { Tutte, Ultime1000, Ultime5000 };
 /// Where the list opens: at its first row or at its last.
 enum class Visua { DallaPrima, DallUltima };
+
+/// Which documents the list shows, and from where on.
+struct SceltaVista {
+    FiltroFatture filtro = FiltroFatture::Tutte;
+    /// Nothing is chosen after a stored preference that names none.
+    std::optional<Selvis> selvis;
+    std::optional<Visua> visua;
+    QString cercato;
+};
 
 class Borfte {
 public:
@@ -32,7 +40,6 @@ public:
 
     void esci();
     void rileggi();
-    void scegliRiordino() { m_riordino.scegli(); }
     void riordino(TipoRiordino tipo);
     /// Starts an invoice (0) or a credit note (1).
     void nuovoDocumento(int tipo);
@@ -63,7 +70,6 @@ public:
     QString nota(int riga) const;
     /// Rows on screen, blank filler rows included.
     int righeGriglia() const;
-    const QString& cercato() const { return m_cercato; }
     /// The row, counted from 0, of the document that has the operator's cursor, also after a fill or a sort.
     /// Where it is not in the list any more, the one at which the list opens.
     int rigaCorrente() const;
@@ -73,17 +79,12 @@ public:
     /// Grows with every fill and sort.
     int edizione() const { return m_edizione; }
 
-    FiltroFatture filtro() const { return m_filtro; }
-    /// Nothing is chosen after a stored preference that names none.
-    std::optional<Selvis> selvis() const { return m_selvis; }
-    std::optional<Visua> visua() const { return m_visua; }
     /// Of the company and this run, taken now.
     Diagnosi informazioni() const;
     /// The same as a text for who helps, without names and amounts.
     QString testoInformazioni(const Diagnosi& diagnosi) const;
-    const ComandoRiordino& statoRiordino() const { return m_riordino; }
-    /// Called while a reorder runs, so that the bar is drawn.
-    void suAvanzamento(std::function<void()> funzione) { m_riordino.suAvanzamento(std::move(funzione)); }
+    const SceltaVista& scelte() const { return m_scelte; }
+    ComandoRiordino& comandoRiordino() { return m_riordino; }
 
 private:
     struct Cella {
@@ -110,15 +111,12 @@ private:
     Documento& m_documento;
     ComandoRiordino m_riordino;
     ElencoFatture m_elenco;
-    FiltroFatture m_filtro = FiltroFatture::Tutte;
-    std::optional<Selvis> m_selvis;
-    std::optional<Visua> m_visua;
+    SceltaVista m_scelte;
     int m_numero = 0; ///< documents counted when the counter was last read
     std::optional<int> m_primaRiga;
     int m_edizione = 0;
     Cella m_cellaCorrente;
-    int m_recordCorrente = 0; ///< `fte` record of the row with the cursor; 0 for none
-    QString m_cercato;
+    int m_recordCorrente = 0;                   ///< `fte` record of the row with the cursor; 0 for none
     std::unordered_map<int, QString> m_difetti; ///< of the movements by `fte` record, while the filter asks
     mutable std::unordered_map<int, bool> m_senzaRighe; ///< by `fte` record, as far as rows were looked at
     std::optional<CellaColorata> m_cellaColorata;

@@ -1,5 +1,6 @@
 #include "register/borsel.h"
 
+#include "common/posti.h"
 #include "common/testo.h"
 #include "document/borftem.h"
 #include "register/righeelenco.h"
@@ -35,8 +36,7 @@ void Borsel::caricaclienti() {
     m_righe.clear();
     for (const std::int16_t record : indice) {
         // An entry that points nowhere shows as a blank customer.
-        Riga riga =
-            record > 0 && record < std::ssize(clienti) ? clienti[static_cast<std::size_t>(record)] : Riga();
+        Riga riga = record > 0 && record < quantiIn(clienti) ? elemento(clienti, record) : Riga();
         riga.record = record;
         riga.cercato = piega(riga.ragione1.trimmed());
         if (!riga.eliminato)
@@ -66,12 +66,10 @@ std::vector<Borsel::Riga> Borsel::leggiClienti(int ultimo) const {
     // A record cut off by the end of the file counts for what is left of it.
     const auto suFile = static_cast<int>(file.lunghezza() / qint64{sizeof(Cli)} + 1);
     const int letti = std::clamp(ultimo, 0, suFile);
-    std::vector<Riga> clienti(static_cast<std::size_t>(letti) + 1);
+    std::vector<Riga> clienti(postoDaZero(letti + 1));
     file.scorri(1, letti, [&clienti](int n, const Cli& cli) {
-        clienti[static_cast<std::size_t>(n)] = {cli.sede.ragione1,  cli.sede.ragione2,
-                                                cli.sede.indirizzo, cli.sede.citta,
-                                                cli.partitaiva,     0,
-                                                cli.eliminato != 0, {}};
+        elemento(clienti, n) = {cli.sede.ragione1, cli.sede.ragione2,  cli.sede.indirizzo, cli.sede.citta,
+                                cli.partitaiva,    0, cli.eliminato != 0, {}};
         return true;
     });
     return clienti;

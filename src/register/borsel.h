@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "common/posti.h"
 
 #include <optional>
 #include <vector>
@@ -34,7 +35,7 @@ public:
     void esci();
 
     const QString& nome() const { return m_selnome; } ///< `selnome`
-    int quanti() const { return static_cast<int>(m_mostrate.size()); }
+    int quanti() const { return quantiIn(m_mostrate); }
     /// Rows on screen, blank filler rows included.
     int righeGriglia() const;
     /// Text of a cell; a row that does not exist is blank.
@@ -62,7 +63,7 @@ private:
     std::vector<Riga> leggiClienti(int ultimo) const;
     void filtra();
     bool esiste(int riga) const { return riga >= 0 && riga < quanti(); }
-    const Riga& mostrata(int riga) const { return m_righe[m_mostrate[static_cast<std::size_t>(riga)]]; }
+    const Riga& mostrata(int riga) const { return m_righe[elemento(m_mostrate, riga)]; }
     static QString testo(const Riga& riga, ColonnaCliente colonna);
 
     Contesto& m_contesto;

@@ -1,6 +1,7 @@
 #include "register/cercafatture.h"
 
 #include "common/date.h"
+#include "common/posti.h"
 #include "common/testo.h"
 
 #include <QRegularExpression>
@@ -46,7 +47,7 @@ public:
 private:
     void metti(char c) {
         if (m_lunghezza < std::ssize(m_testo))
-            m_testo[static_cast<std::size_t>(m_lunghezza++)] = c;
+            elemento(m_testo, m_lunghezza++) = c;
     }
 
     std::array<char, 16> m_testo{};

@@ -2,6 +2,7 @@
 
 #include "archive/raffica.h"
 #include "common/date.h"
+#include "common/posti.h"
 #include "document/filerighe.h"
 #include "register/cercafatture.h"
 #include "register/righeelenco.h"
@@ -27,10 +28,7 @@ double totaleDocumento(const Fte& fte, const F2e& f2e) {
 
 /// The name would still have a character after cleaning and trimming.
 bool nominato(const Text<60>& pdf) {
-    return std::ranges::any_of(pdf.bytes, [](char c) {
-        const auto codice = static_cast<unsigned char>(c);
-        return codice > 32 && codice < 255;
-    });
+    return std::ranges::any_of(pdf.bytes, [](char c) { return c != ' ' && stampabile(codiceDi(c)); });
 }
 
 /// Sets the number that cannot be one of an electronic invoice back to 0, in the records as they are by now.
@@ -59,11 +57,11 @@ void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, const Pass
     std::vector<int> guasti;
     for (int n = primo; n <= ultimo; n += documentiPerBlocco) {
         const int nelBlocco = std::min(documentiPerBlocco, ultimo - n + 1);
-        archivio.fte.leggiBlocco(n, std::span(teste).first(static_cast<std::size_t>(nelBlocco)));
-        archivio.f2e.leggiBlocco(n, std::span(code).first(static_cast<std::size_t>(nelBlocco)));
+        archivio.fte.leggiBlocco(n, std::span(teste).first(postoDaZero(nelBlocco)));
+        archivio.f2e.leggiBlocco(n, std::span(code).first(postoDaZero(nelBlocco)));
         for (int i = 0; i < nelBlocco; ++i) {
-            const Fte& fte = teste[static_cast<std::size_t>(i)];
-            F2e& f2e = code[static_cast<std::size_t>(i)];
+            const Fte& fte = elemento(teste, i);
+            F2e& f2e = elemento(code, i);
             if (f2e.fpaGuasto()) {
                 f2e.fpa = 0.0;
                 guasti.push_back(n + i);
@@ -82,19 +80,19 @@ void ElencoFatture::aggiungi(int record, const Fte& fte, const F2e& f2e) {
     const bool pdf = f2e.marca == F2e::marcaValida && nominato(f2e.pdf);
     if (pdf)
         m_pdf.push_back(f2e.pdf);
-    m_righe.push_back({fte.numero, fte.datareg, fte.datadoc, static_cast<std::int16_t>(record), fte.cliente,
-                       static_cast<std::int16_t>(pdf ? static_cast<int>(m_pdf.size()) - 1 : -1), fte.nfile,
-                       fte.parcella != 0, f2e.fatturaPa(), fte.annullata == 1, totaleDocumento(fte, f2e)});
+    m_righe.push_back({fte.numero, fte.datareg, fte.datadoc, breve(record), fte.cliente,
+                       breve(pdf ? quantiIn(m_pdf) - 1 : -1), fte.nfile, fte.parcella != 0, f2e.fatturaPa(),
+                       fte.annullata == 1, totaleDocumento(fte, f2e)});
 }
 
 void ElencoFatture::leggiNomi(const Archivio& archivio) {
     int ultimo = 0;
     for (const Riga& riga : m_righe)
         ultimo = std::max<int>(ultimo, riga.cliente);
-    m_nomi.assign(static_cast<std::size_t>(ultimo) + 1, QString());
+    m_nomi.assign(postoDaZero(ultimo + 1), QString());
     const auto suFile = static_cast<int>(archivio.cli.lunghezza() / qint64{sizeof(Cli)} + 1);
     archivio.cli.scorri(1, std::min(ultimo, suFile), [this](int n, const Cli& cli) {
-        m_nomi[static_cast<std::size_t>(n)] = puliscitesto(cli.sede.ragione1.text());
+        elemento(m_nomi, n) = puliscitesto(cli.sede.ragione1.text());
         return true;
     });
 }
@@ -102,13 +100,11 @@ void ElencoFatture::leggiNomi(const Archivio& archivio) {
 QString ElencoFatture::nomeCliente(const Riga& riga) const {
     if (riga.annullata)
         return eliminata;
-    return riga.cliente > 0 ? m_nomi[static_cast<std::size_t>(riga.cliente)] : QString();
+    return riga.cliente > 0 ? elemento(m_nomi, riga.cliente) : QString();
 }
 
 void ElencoFatture::ordina(Colonna colonna) {
-    ordinaRighe(m_righe, [this, colonna](int riga) {
-        return testo(m_righe[static_cast<std::size_t>(riga)], colonna, {});
-    });
+    ordinaRighe(m_righe, [this, colonna](int riga) { return testo(elemento(m_righe, riga), colonna, {}); });
     scegliMostrate();
 }
 
@@ -126,8 +122,7 @@ void ElencoFatture::scegliMostrate() {
         nomi.push_back(cerca.vuota() || cerca.trovaNome(nome));
     const bool eliminate = cerca.vuota() || cerca.trovaNome(eliminata);
     const auto trovata = [&](const Riga& r) {
-        const bool perNome =
-            r.annullata ? eliminate : r.cliente > 0 && nomi[static_cast<std::size_t>(r.cliente)];
+        const bool perNome = r.annullata ? eliminate : r.cliente > 0 && elemento(nomi, r.cliente);
         return cerca.vuota() || perNome ||
                cerca.trovaDocumento(r.numero.raw(), r.datareg.raw(), r.datadoc.raw(), r.totale);
     };
@@ -161,7 +156,7 @@ QString ElencoFatture::testo(const Riga& r, Colonna colonna, const Valuta& valut
     case Colonna::Pdf:
         return r.pdf >= 0 ? QStringLiteral("PDF") : QString();
     case Colonna::NomePdf:
-        return r.pdf >= 0 ? m_pdf[static_cast<std::size_t>(r.pdf)].text() : QString();
+        return r.pdf >= 0 ? elemento(m_pdf, r.pdf).text() : QString();
     case Colonna::Chiave:
         return puliscitesto(r.datareg.text());
     }
@@ -175,7 +170,7 @@ int ElencoFatture::record(int riga) const {
 int ElencoFatture::rigaDi(int record) const {
     const auto trovata =
         std::ranges::find(m_mostrate, record, [this](std::size_t i) { return int{m_righe[i].record}; });
-    return trovata == m_mostrate.end() ? -1 : static_cast<int>(trovata - m_mostrate.begin());
+    return postoDi(m_mostrate, trovata);
 }
 
 bool ElencoFatture::senzaRighe(int riga, const Archivio& archivio) const {

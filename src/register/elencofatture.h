@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/archivio.h"
+#include "common/posti.h"
 #include "common/valuta.h"
 
 #include <functional>
@@ -48,7 +49,7 @@ public:
     /// all of them back. A fill and a sort keep it.
     void cerca(const QString& testo);
 
-    int quante() const { return static_cast<int>(m_mostrate.size()); }
+    int quante() const { return quantiIn(m_mostrate); }
     /// Text of a cell; rows count from 0. A row that does not exist is blank.
     QString testo(int riga, Colonna colonna, const Valuta& valuta) const;
     /// Record number of a row; 0 for a row that does not exist.
@@ -77,7 +78,7 @@ private:
     };
 
     bool esiste(int riga) const { return riga >= 0 && riga < quante(); }
-    const Riga& mostrata(int riga) const { return m_righe[m_mostrate[static_cast<std::size_t>(riga)]]; }
+    const Riga& mostrata(int riga) const { return m_righe[elemento(m_mostrate, riga)]; }
     QString testo(const Riga& riga, Colonna colonna, const Valuta& valuta) const;
     void scegliMostrate();
     void aggiungi(int record, const Fte& fte, const F2e& f2e);

@@ -1,6 +1,7 @@
 #include "register/riordino.h"
 
 #include "common/numeri.h"
+#include "common/posti.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -45,7 +46,7 @@ struct Elenco {
 
 Elenco leggiElenco(Raffica& raffica, TipoRiordino tipo, int numero, const Avanzamento& avanzamento) {
     Elenco elenco;
-    elenco.voci.reserve(static_cast<std::size_t>(std::max(numero, 0)));
+    elenco.voci.reserve(postoDaZero(std::max(numero, 0)));
     raffica.scorri(raffica.archivio().fte, 1, numero, [&](int n, const Fte& fte) {
         if (n % documentiPerBlocco == 0)
             avanzamento(n);
@@ -74,15 +75,14 @@ bool duplica(Archivio& archivio) {
 /// All records of a copy, read at once; nothing when they could not be read.
 template <class R>
 std::optional<std::vector<R>> tutti(const RecordFile<R>& copia) {
-    std::vector<R> records(static_cast<std::size_t>(
-        std::min<qint64>(copia.lunghezza() / qint64{sizeof(R)} + 1, Archivio::massimo + 1)));
+    std::vector<R> records(
+        postoDaZero(std::min<qint64>(copia.lunghezza() / qint64{sizeof(R)} + 1, Archivio::massimo + 1)));
     return copia.leggiBlocco(1, records) < 0 ? std::nullopt : std::optional(std::move(records));
 }
 
 template <class R>
 R preso(const std::vector<R>& records, int n) {
-    const auto i = static_cast<std::size_t>(n - 1);
-    return i < records.size() ? records[i] : vuoto<R>();
+    return n >= 1 && n <= quantiIn(records) ? elemento(records, n - 1) : vuoto<R>();
 }
 
 /// Plans the record where the order changes it; the others stay as they are.
@@ -100,15 +100,15 @@ bool riscrivi(Raffica& raffica, const RecordFile<Fte>& copiaFte, const RecordFil
     if (!vecchieFte || !vecchieF2e)
         return false;
     Archivio& archivio = raffica.archivio();
-    for (std::size_t i = 0; i < voci.size(); ++i) {
-        const int n = voci[i].last(lunghezzaRecord).toInt();
+    for (int i = 0; i < quantiIn(voci); ++i) {
+        const int n = elemento(voci, i).last(lunghezzaRecord).toInt();
         F2e coda = preso(*vecchieF2e, n);
         if (coda.marca != F2e::marcaValida)
             coda = f2eVuoto();
-        prevedi(raffica, archivio.fte, *vecchieFte, static_cast<int>(i) + 1, preso(*vecchieFte, n));
-        prevedi(raffica, archivio.f2e, *vecchieF2e, static_cast<int>(i) + 1, coda);
+        prevedi(raffica, archivio.fte, *vecchieFte, i + 1, preso(*vecchieFte, n));
+        prevedi(raffica, archivio.f2e, *vecchieF2e, i + 1, coda);
         if (i % documentiPerBlocco == 0)
-            avanzamento(static_cast<int>(i));
+            avanzamento(i);
     }
     return raffica.esegui() == EsitoRaffica::Riuscita;
 }
@@ -153,7 +153,7 @@ EsitoRiordino riordina(Archivio& archivio, TipoRiordino tipo, const Avanzamento&
     if (!copiaFte.apri(archivio.reale(archivio.borlano(u"$$$")), Apertura::Esclusiva) ||
         !copiaF2e.apri(archivio.reale(archivio.borlano(u"$2$")), Apertura::Esclusiva))
         return fallito(FaseRiordino::Apertura);
-    contatore.numero = static_cast<std::int16_t>(contatore.numero - elenco.eliminati);
+    contatore.numero = breve(contatore.numero - elenco.eliminati);
     raffica.scriviTot(Conta::Fte, contatore);
     if (!riscrivi(raffica, copiaFte, copiaF2e, elenco.voci, avanzamento))
         return fallito(FaseRiordino::Salvataggio);

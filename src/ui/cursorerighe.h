@@ -1,9 +1,12 @@
-// The scroll bar of the screens that show some of a document's many rows.
+// The scroll bar, the page keys and the wheel of the screens that show some of a document's many rows.
 #pragma once
 
 #include "ui/legami.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
+
+class QWheelEvent;
 
 namespace bor {
 
@@ -19,5 +22,18 @@ QScrollBar* cursoreRighe(Legami& legami, Form& form, const QString& nome) {
         cursore, [&form] { return form.finestra().prima(); }, [&form](int prima) { form.scorri(prima); });
     return cursore;
 }
+
+/// Page Up and Page Down show the rows before or after; false for any other key.
+template <class Form>
+bool sfoglia(const QKeyEvent* tasto, Legami& legami, Form& form) {
+    if (tasto->key() != Qt::Key_PageUp && tasto->key() != Qt::Key_PageDown)
+        return false;
+    legami.esegui([&] { form.scorri(form.finestra().pagina(tasto->key() == Qt::Key_PageUp ? -1 : 1)); });
+    return true;
+}
+
+/// The wheel over the lines turns the bar, which also takes the focus: the box that has it comes to show
+/// another row, and a digit typed by surprise must not change that one.
+void gira(QWidget* cursore, QWheelEvent* evento);
 
 } // namespace bor

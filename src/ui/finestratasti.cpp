@@ -1,5 +1,7 @@
 #include "ui/finestratasti.h"
 
+#include "common/posti.h"
+
 #include <QHeaderView>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -13,7 +15,7 @@ FinestraTasti::FinestraTasti(const QString& schermo, const QList<TastoSchermo>& 
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"tasti"_s);
     setWindowTitle(u"Tasti: "_s + schermo);
-    auto* elenco = new QTableWidget(static_cast<int>(tasti.size()), 2);
+    auto* elenco = new QTableWidget(quantiIn(tasti), 2);
     elenco->setObjectName(u"elencoTasti"_s);
     elenco->setAccessibleName(u"Tasti dello schermo"_s);
     elenco->setHorizontalHeaderLabels({u"Tasto"_s, u"Che cosa fa"_s});

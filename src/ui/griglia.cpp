@@ -1,5 +1,6 @@
 #include "ui/griglia.h"
 
+#include "common/posti.h"
 #include "ui/icona.h"
 #include "ui/tinte.h"
 
@@ -94,7 +95,7 @@ int ModelloGriglia::rowCount(const QModelIndex& padre) const {
 }
 
 int ModelloGriglia::columnCount(const QModelIndex& padre) const {
-    return padre.isValid() ? 0 : static_cast<int>(m_colonne.size());
+    return padre.isValid() ? 0 : quantiIn(m_colonne);
 }
 
 QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
@@ -140,7 +141,7 @@ std::optional<QColor> ModelloGriglia::fondoDi(const QModelIndex& indice) const {
 QVariant ModelloGriglia::headerData(int sezione, Qt::Orientation orientamento, int ruolo) const {
     if (orientamento != Qt::Horizontal || sezione < 0 || sezione >= columnCount())
         return {};
-    const ColonnaGriglia& colonna = m_colonne[static_cast<std::size_t>(sezione)];
+    const ColonnaGriglia& colonna = elemento(m_colonne, sezione);
     if (ruolo == Qt::DisplayRole)
         return colonna.intestazione.toString();
     if (ruolo == Qt::TextAlignmentRole)
@@ -170,7 +171,7 @@ void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne,
     QHeaderView* testata = elenco->horizontalHeader();
     testata->setHighlightSections(false);
     for (int i = 0; i < std::ssize(colonne); ++i) {
-        const int larghezza = colonne[static_cast<std::size_t>(i)].larghezza;
+        const int larghezza = elemento(colonne, i).larghezza;
         if (larghezza == ColonnaGriglia::nascosta)
             elenco->hideColumn(i);
         else if (larghezza == ColonnaGriglia::elastica)

@@ -29,19 +29,21 @@ struct Colonna {
     bool numero;
 };
 
-/// In the order of `Campo`.
-constexpr std::array<Colonna, 8> disposizione = {{{u"artic", u"Articolo", 15, false},
-                                                  {u"ds", u"Descrizione", 60, false},
-                                                  {u"um", u"UM", 2, false},
-                                                  {u"quantita", u"Quantità", 10, true},
-                                                  {u"sc1", u"Primo sconto", 3, true},
-                                                  {u"sc2", u"Secondo sconto", 3, true},
-                                                  {u"prezzo", u"Prezzo", 12, true},
-                                                  {u"civ", u"Iva", 2, false}}};
+constexpr Serie<Colonna, Campo::Artic, Campo::Civ> disposizione({{{u"artic", u"Articolo", 15, false},
+                                                                  {u"ds", u"Descrizione", 60, false},
+                                                                  {u"um", u"UM", 2, false},
+                                                                  {u"quantita", u"Quantità", 10, true},
+                                                                  {u"sc1", u"Primo sconto", 3, true},
+                                                                  {u"sc2", u"Secondo sconto", 3, true},
+                                                                  {u"prezzo", u"Prezzo", 12, true},
+                                                                  {u"civ", u"Iva", 2, false}}});
 
-const Colonna& colonna(Campo campo) {
-    return disposizione[static_cast<std::size_t>(campo)];
+/// Columns of the layout: the row's number, the boxes, the row's rate and amount.
+constexpr int colonnaDi(Campo campo) {
+    return 1 + ordinale(campo);
 }
+constexpr int colonnaAliquota = colonnaDi(Campo::Civ) + 1;
+constexpr int colonnaImporto = colonnaAliquota + 1;
 
 /// The keys of the boxes that move through the rows or look for an article.
 std::optional<Borftex::Comando> comandoDi(QKeyCombination tasti) {
@@ -80,7 +82,7 @@ GrigliaBorftex::GrigliaBorftex(Borftex& form, Legami& legami, PercorsoInvio& inv
     creaTestate(griglia);
     for (int linea = 0; linea < Borftex::linee; ++linea)
         creaLinea(griglia, linea);
-    griglia->setColumnStretch(primoCampo + static_cast<int>(Campo::Ds), 1);
+    griglia->setColumnStretch(colonnaDi(Campo::Ds), 1);
     constexpr int molto = 100;
     for (int linea = 0; linea < Borftex::linee; ++linea)
         griglia->setRowStretch(linea + 1, molto);
@@ -97,13 +99,13 @@ void GrigliaBorftex::creaTestate(QGridLayout* griglia) {
                            numero ? Qt::AlignRight : Qt::Alignment(Qt::AlignLeft));
     };
     const auto diCampo = [&](const QString& testo, Campo campo) {
-        testata(testo, primoCampo + static_cast<int>(campo), colonna(campo).numero);
+        testata(testo, colonnaDi(campo), disposizione[campo].numero);
     };
     diCampo(u"Articolo"_s, Campo::Artic);
     diCampo(u"Descrizione"_s, Campo::Ds);
     diCampo(u"UM"_s, Campo::Um);
     diCampo(u"Quantità"_s, Campo::Quantita);
-    testata(u"Sconti"_s, primoCampo + static_cast<int>(Campo::Sc1), false, doppia);
+    testata(u"Sconti"_s, colonnaDi(Campo::Sc1), false, doppia);
     diCampo(u"Prezzo"_s, Campo::Prezzo);
     diCampo(u"Iva"_s, Campo::Civ);
     testata(u"Importo"_s, colonnaImporto, true);
@@ -122,8 +124,8 @@ void GrigliaBorftex::creaLinea(QGridLayout* griglia, int linea) {
     };
     mostra(u"numero", u"Numero della riga", 0, 3,
            [this, linea] { return QString::number(m_form.finestra().riga(linea)); });
-    for (int c = 0; c < campi; ++c)
-        griglia->addWidget(creaCampo({static_cast<Campo>(c), linea}), linea + 1, primoCampo + c);
+    for (Campo campo = Campo::Artic; campo <= Campo::Civ; campo = prossimo(campo))
+        griglia->addWidget(creaCampo({campo, linea}), linea + 1, colonnaDi(campo));
     mostra(u"aliquota", u"Aliquota iva", colonnaAliquota, 4,
            [this, linea] { return m_form.righe().aliquota(m_form.finestra().riga(linea)); });
     mostra(u"importo", u"Importo", colonnaImporto, 9,
@@ -131,7 +133,7 @@ void GrigliaBorftex::creaLinea(QGridLayout* griglia, int linea) {
 }
 
 QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
-    const Colonna& modello = colonna(cella.campo);
+    const Colonna& modello = disposizione[cella.campo];
     const QString nome = u"%1(%2)"_s.arg(modello.nome).arg(cella.linea);
     const QString didascalia = u"%1, riga %2"_s.arg(modello.didascalia).arg(cella.linea + 1);
     CampoTesto* nuovo = modello.numero ? new CampoImporto(nome, didascalia)
@@ -145,7 +147,7 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     // The rows share the height that the window has to give.
     nuovo->setSizePolicy(nuovo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     nuovo->setMaximumHeight(fontMetrics().height() * 5 / 2);
-    m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)] = nuovo;
+    m_campi[cella.linea][cella.campo] = nuovo;
 
     const auto leggi = [this, cella] { return m_form.testo(cella); };
     if (cella.campo == Campo::Civ) {
@@ -209,7 +211,7 @@ void GrigliaBorftex::aggiornaListaIva() {
 }
 
 QLineEdit* GrigliaBorftex::campo(Cella cella) const {
-    return m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)];
+    return m_campi[cella.linea][cella.campo];
 }
 
 void GrigliaBorftex::vaiA(Cella cella) {
@@ -247,7 +249,7 @@ bool GrigliaBorftex::tastoIva(int tasto, const QString& testo) {
         m_listaIva->setCurrentRow(ultima);
         return true;
     case Qt::Key_Escape:
-        m_legami.esegui([this] { m_form.chiudiIva(); });
+        m_legami.esegui([this] { m_form.esegui(Borftex::Comando::ChiudiIva); });
         return true;
     default:
         if (testo.isEmpty() || !testo.front().isPrint())
@@ -258,9 +260,7 @@ bool GrigliaBorftex::tastoIva(int tasto, const QString& testo) {
 }
 
 void GrigliaBorftex::wheelEvent(QWheelEvent* evento) {
-    // The box in focus comes to show another line: a letter typed by surprise must not change that one.
-    m_cursore->setFocus();
-    QApplication::sendEvent(m_cursore, evento);
+    gira(m_cursore, evento);
 }
 
 } // namespace bor

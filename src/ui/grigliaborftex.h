@@ -2,11 +2,10 @@
 // codes.
 #pragma once
 
+#include "common/serie.h"
 #include "document/borftex.h"
 
 #include <QWidget>
-
-#include <array>
 
 class QGridLayout;
 class QListWidget;
@@ -31,11 +30,7 @@ protected:
     void wheelEvent(QWheelEvent* evento) override;
 
 private:
-    static constexpr int campi = 8;
-    /// Columns of the layout: the row's number, the boxes, the row's rate and amount.
-    static constexpr int primoCampo = 1;
-    static constexpr int colonnaAliquota = primoCampo + campi;
-    static constexpr int colonnaImporto = colonnaAliquota + 1;
+    using Campo = Borftex::Campo;
 
     void creaTestate(QGridLayout* griglia);
     void creaLinea(QGridLayout* griglia, int linea);
@@ -48,7 +43,7 @@ private:
     Borftex& m_form;
     Legami& m_legami;
     PercorsoInvio& m_invio;
-    std::array<std::array<QLineEdit*, campi>, Borftex::linee> m_campi{};
+    Serie<Serie<QLineEdit*, Campo::Artic, Campo::Civ>, 0, Borftex::linee - 1> m_campi;
     QScrollBar* m_cursore;
     QListWidget* m_listaIva;
 };

@@ -1,4 +1,5 @@
 // The panels that take the place of the VAT rows: deferred VAT, withholding, yearly communication.
+#include "common/posti.h"
 #include "ui/riquadritea.h"
 
 #include <QCheckBox>
@@ -46,7 +47,7 @@ RiquadroTea creaIvaDifferita(const BancoTea& banco) {
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(7);
     Borftea& form = banco.form;
-    const int righe = static_cast<int>(form.dato(&Prospetti::differita).size());
+    const int righe = quantiIn(form.dato(&Prospetti::differita));
     std::vector<QWidget*> percorso;
     griglia->addWidget(new QLabel(u"Periodo di competenza iva differita"_s), 0, 0);
     intestazioni(griglia, {u"Importo pagato"_s, u"Quota iva di competenza"_s}, 1, Qt::AlignRight);
@@ -83,7 +84,7 @@ RiquadroTea creaRitenute(const BancoTea& banco) {
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(10);
     Borftea& form = banco.form;
-    const int righe = static_cast<int>(form.dato(&Prospetti::ritenute).size());
+    const int righe = quantiIn(form.dato(&Prospetti::ritenute));
     std::vector<QWidget*> percorso;
     intestazioni(griglia, {u"Imponibile rit.acconto"_s, u"Importo rit.acconto"_s}, 1, Qt::AlignRight);
     intestazioni(griglia, {u"Scadenza versamento"_s, u"Data versamento"_s}, 3, Qt::AlignLeft);

@@ -45,8 +45,7 @@ RiquadroTea creaEstremi(const BancoTea& banco) {
     riga(griglia, 1, u"Data di registrazione"_s, registrazione, 2);
     griglia->addWidget(esig, 3, 0, 1, 4, Qt::AlignHCenter);
     griglia->setColumnStretch(3, 1);
-    for (QWidget* campo :
-         {static_cast<QWidget*>(numero), static_cast<QWidget*>(registro), static_cast<QWidget*>(protocollo)})
+    for (QWidget* campo : std::initializer_list<QWidget*>{numero, registro, protocollo})
         campo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     banco.invio.catena({numero, emissione->campo(), registrazione->campo(), protocollo});

@@ -61,9 +61,9 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
     const int linee = form.finestra().linee();
     for (int i = 0; i < linee; ++i) {
         auto* iv = etichetta(banco, indicizzato(u"iv", i), u"Non imponibile art. 8"_s,
-                             [&form, i] { return form.etichettaIva(i); });
+                             [&form, i] { return form.etichetta(i, VoceIva::Imponibile); });
         auto* es = etichetta(banco, indicizzato(u"es", i), u"Art. 17 c. 6 DPR 633/72"_s,
-                             [&form, i] { return form.etichettaEsente(i); });
+                             [&form, i] { return form.etichetta(i, VoceIva::Esente); });
         griglia->addWidget(iv, i + 1, 0);
         griglia->addWidget(es, i + 1, 3);
         for (const ColonnaIva& c : colonne) {

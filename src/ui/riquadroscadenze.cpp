@@ -56,7 +56,7 @@ QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso)
                                          legame(form, &Scadenze::provaliq), caratteriProvvigione);
     auto* importo =
         banco.campi.importo(u"pro(1)"_s, u"Provvigione agente: Importo"_s, legame(form, &Scadenze::provimp));
-    for (QWidget* campo : {static_cast<QWidget*>(aliquota), static_cast<QWidget*>(importo)})
+    for (QWidget* campo : std::initializer_list<QWidget*>{aliquota, importo})
         campo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     linea->addWidget(new QLabel(u"Provvigione agente"_s));
     linea->spazio(12);

@@ -1,5 +1,6 @@
 #include "ui/vistaborfte.h"
 
+#include "common/posti.h"
 #include "common/versione.h"
 #include "register/borfte.h"
 #include "ui/barraintestazioni.h"
@@ -62,7 +63,7 @@ QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList
         opzione->setAccessibleName(titolo + u": "_s + didascalie[i]);
         bottoni->addButton(opzione, i);
         colonna->addWidget(opzione);
-        const auto quale = static_cast<Opzione>(i);
+        const auto quale = enumeratore<Opzione>(i);
         legami.spunta(
             opzione, [leggi, quale] { return leggi() == quale; }, [scrivi, quale](bool) { scrivi(quale); });
     }
@@ -77,9 +78,9 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
       m_modello(new ModelloGriglia(
           colonne,
           {[&form] { return form.righeGriglia(); },
-           [&form](int riga, int colonna) { return form.testo(riga, static_cast<Colonna>(colonna)); },
-           [&form](int riga, int colonna) { return form.colore(riga, static_cast<Colonna>(colonna)); },
-           [&form](int riga) { return form.nota(riga); }, static_cast<int>(Colonna::Numero)},
+           [&form](int riga, int colonna) { return form.testo(riga, enumeratore<Colonna>(colonna)); },
+           [&form](int riga, int colonna) { return form.colore(riga, enumeratore<Colonna>(colonna)); },
+           [&form](int riga) { return form.nota(riga); }, ordinale(Colonna::Numero)},
           this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
@@ -90,7 +91,7 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
     layout->addWidget(creaComandi());
     creaScorciatoie();
     legami.altro([this] { aggiornaElenco(); });
-    m_form.suAvanzamento([this] { legami.aggiorna(); });
+    m_form.comandoRiordino().suAvanzamento([this] { legami.aggiorna(); });
 }
 
 QWidget* VistaBorfte::creaOpzioni() {
@@ -101,12 +102,14 @@ QWidget* VistaBorfte::creaOpzioni() {
         u"Registrazioni"_s, u"selvis"_s,
         {u"Visualizza tutte le registrazioni"_s, u"Visualizza solo le ultime 1000 registrazioni"_s,
          u"Visualizza solo le ultime 5000 registrazioni"_s},
-        legami, [this] { return m_form.selvis(); }, [this](Selvis scelta) { m_form.cambiaSelvis(scelta); }));
+        legami, [this] { return m_form.scelte().selvis; },
+        [this](Selvis scelta) { m_form.cambiaSelvis(scelta); }));
     layout->addWidget(opzioni<Visua>(
         u"Posizione"_s, u"visua"_s,
         {u"Visualizza a partire dalla prima registrazione"_s,
          u"Visualizza a partire dall'ultima registrazione"_s},
-        legami, [this] { return m_form.visua(); }, [this](Visua scelta) { m_form.cambiaVisua(scelta); }));
+        legami, [this] { return m_form.scelte().visua; },
+        [this](Visua scelta) { m_form.cambiaVisua(scelta); }));
     layout->addWidget(creaFiltro());
     return barra;
 }
@@ -122,8 +125,8 @@ QGroupBox* VistaBorfte::creaFiltro() {
                      u"Visualizza solo le fatturePA"_s,
                      u"Visualizza solo le fatture con movimento da controllare"_s});
     legami.lista(
-        lista, [this] { return static_cast<int>(m_form.filtro()); },
-        [this](int i) { m_form.cambiaFiltro(static_cast<FiltroFatture>(i)); });
+        lista, [this] { return ordinale(m_form.scelte().filtro); },
+        [this](int i) { m_form.cambiaFiltro(enumeratore<FiltroFatture>(i)); });
     colonna->addWidget(lista);
     const QString cerca = u"Cerca"_s;
     m_cerca = new CampoTesto(u"cerca"_s, cerca);
@@ -131,7 +134,8 @@ QGroupBox* VistaBorfte::creaFiltro() {
     m_cerca->setToolTip(u"Restano in elenco i documenti che rispondono; Esc li mostra tutti"_s);
     m_cerca->setClearButtonEnabled(true);
     legami.testo(
-        m_cerca, [this] { return m_form.cercato(); }, [this](const QString& testo) { m_form.cerca(testo); });
+        m_cerca, [this] { return m_form.scelte().cercato; },
+        [this](const QString& testo) { m_form.cerca(testo); });
     invio.passo(m_cerca, [this] { vaiA(m_elenco); });
     auto* linea = new QHBoxLayout;
     linea->addWidget(didascalia(cerca, m_cerca));
@@ -148,11 +152,11 @@ QWidget* VistaBorfte::creaElenco() {
     m_elenco->setModel(m_modello);
     preparaElenco(m_elenco, colonne, [this] { return m_form.elenco().quante(); });
     connect(m_elenco, &QTableView::doubleClicked, this, [this](const QModelIndex& cella) {
-        legami.esegui([&] { m_form.apri(cella.row(), static_cast<Colonna>(cella.column())); });
+        legami.esegui([&] { m_form.apri(cella.row(), enumeratore<Colonna>(cella.column())); });
     });
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) {
-                m_form.cellaCorrente(cella.row(), static_cast<Colonna>(cella.column()));
+                m_form.cellaCorrente(cella.row(), enumeratore<Colonna>(cella.column()));
                 m_nota->setText(m_form.nota(cella.row()));
             });
     invio.passo(m_elenco, [this] {
@@ -168,10 +172,10 @@ QWidget* VistaBorfte::creaElenco() {
     std::vector<BarraIntestazioni::Comando> comandi;
     for (const Colonna colonna : {Colonna::Registrazione, Colonna::DataRegistrazione, Colonna::Cliente}) {
         const QKeySequence tasto(u"Ctrl+%1"_s.arg(comandi.size() + 1));
-        comandi.push_back({static_cast<int>(colonna), u"Riordina"_s, tasto});
+        comandi.push_back({ordinale(colonna), u"Riordina"_s, tasto});
     }
     layout->addWidget(new BarraIntestazioni(m_elenco, comandi, [this](int colonna) {
-        legami.esegui([&] { m_form.ordina(static_cast<Colonna>(colonna)); });
+        legami.esegui([&] { m_form.ordina(enumeratore<Colonna>(colonna)); });
     }));
     layout->addWidget(m_elenco);
     m_nota = new QLabel;
@@ -191,7 +195,7 @@ QWidget* VistaBorfte::creaComandi() {
     auto* avanzamento = new QProgressBar;
     avanzamento->setObjectName(u"srt"_s);
     avanzamento->setAccessibleName(u"Avanzamento del riordino"_s);
-    const ComandoRiordino& riordino = m_form.statoRiordino();
+    const ComandoRiordino& riordino = m_form.comandoRiordino();
     legami.visibile(avanzamento, [&riordino] { return riordino.inCorso() && riordino.massimo() > 0; });
     legami.altro([&riordino, avanzamento] {
         avanzamento->setRange(1, std::max(riordino.massimo(), 1));
@@ -211,7 +215,7 @@ QWidget* VistaBorfte::creaComandi() {
 }
 
 void VistaBorfte::creaBottoni(Flusso* layout) {
-    const ComandoRiordino& riordino = m_form.statoRiordino();
+    const ComandoRiordino& riordino = m_form.comandoRiordino();
     const auto comando = [&](int indice, const QString& testo, const QString& icona, const QString& tasto,
                              std::function<void()> azione, const std::function<bool()>& visibile) {
         auto* bottone = new BottoneComando(u"bottone(%1)"_s.arg(indice), testo, icona, QKeySequence(tasto));
@@ -229,7 +233,7 @@ void VistaBorfte::creaBottoni(Flusso* layout) {
     comando(
         1, u"Aggiorna"_s, u"aggiorna"_s, u"F5"_s, [this] { m_form.rileggi(); }, sempre);
     comando(
-        2, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.scegliRiordino(); }, fermo);
+        2, u"Riordina"_s, u"riordina"_s, u"F6"_s, [this] { m_form.comandoRiordino().scegli(); }, fermo);
     layout->spazio(24);
     auto* etichetta = new QLabel;
     etichetta->setObjectName(u"Label3"_s);
@@ -291,12 +295,12 @@ void VistaBorfte::aggiornaElenco() {
     const int vista = m_elenco->verticalScrollBar()->value();
     const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
-    const QModelIndex cella = m_modello->index(corrente, static_cast<int>(Colonna::DataRegistrazione));
+    const QModelIndex cella = m_modello->index(corrente, ordinale(Colonna::DataRegistrazione));
     m_elenco->setCurrentIndex(cella);
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));
     if (!prima)
         m_elenco->scrollTo(cella);
-    else if (m_form.visua() == Visua::DallUltima)
+    else if (m_form.scelte().visua == Visua::DallUltima)
         mostraUltima();
 }
 
@@ -310,7 +314,7 @@ void VistaBorfte::keyPressEvent(QKeyEvent* evento) {
     const bool esce = evento->key() == Qt::Key_Escape && evento->modifiers() == Qt::NoModifier;
     if (inCerca && evento->key() == Qt::Key_Down) {
         vaiA(m_elenco);
-    } else if (esce && (inCerca || !m_form.cercato().isEmpty())) {
+    } else if (esce && (inCerca || !m_form.scelte().cercato.isEmpty())) {
         m_cerca->clear();
         legami.esegui([this] { m_form.cerca({}); });
         vaiA(m_elenco);

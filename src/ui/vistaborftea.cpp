@@ -2,17 +2,15 @@
 
 #include "ui/affiancati.h"
 #include "ui/barracomandi.h"
+#include "ui/cursorerighe.h"
 #include "ui/flusso.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -23,11 +21,6 @@ namespace {
 constexpr int caratteriPdf = 60;
 
 using Comando = Borftea::Comando;
-using Prospetto = Borftea::Prospetto;
-
-std::size_t indice(Prospetto prospetto) {
-    return static_cast<std::size_t>(prospetto);
-}
 
 } // namespace
 
@@ -59,11 +52,14 @@ VistaBorftea::VistaBorftea(Borftea& form, QWidget* parent) : Vista(parent), m_fo
 }
 
 QWidget* VistaBorftea::creaProspetti(const BancoTea& banco) {
-    m_prospetti = {creaRigheIva(banco), creaIvaDifferita(banco), creaRitenute(banco), creaSpesometro(banco)};
+    m_prospetti[Prospetto::RigheIva] = creaRigheIva(banco);
+    m_prospetti[Prospetto::IvaDifferita] = creaIvaDifferita(banco);
+    m_prospetti[Prospetto::Ritenute] = creaRitenute(banco);
+    m_prospetti[Prospetto::Spesometro] = creaSpesometro(banco);
     m_pila = new QStackedWidget;
     for (const RiquadroTea& prospetto : m_prospetti)
         m_pila->addWidget(prospetto.gruppo);
-    legami.altro([this] { m_pila->setCurrentIndex(static_cast<int>(indice(m_form.prospetto()))); });
+    legami.altro([this] { m_pila->setCurrentIndex(ordinale(m_form.prospetto())); });
     return m_pila;
 }
 
@@ -91,7 +87,7 @@ QWidget* VistaBorftea::creaTotali() {
     for (int i = 0; i < testi.size(); ++i) {
         auto* casella = new CampoTesto(indicizzato(u"total", i), testi[i], 24);
         casella->setAlignment(Qt::AlignRight);
-        legami.testo(casella, [this, i] { return m_form.totale(static_cast<Borftea::Totale>(i)); });
+        legami.testo(casella, [this, i] { return m_form.totale(enumeratore<Borftea::Totale>(i)); });
         riga(griglia, i, testi[i], casella);
         if (i + 1 == testi.size()) {
             griglia->itemAtPosition(i, 0)->widget()->setObjectName(u"Label1(14)"_s);
@@ -177,7 +173,7 @@ QWidget* VistaBorftea::creaComandi() {
 
 void VistaBorftea::collegaPercorso(const RiquadroTea& estremi, const RiquadroTea& scadenze,
                                    const RiquadroTea& ricavi) {
-    invio.passo(estremi.ultimo, [this] { vaiA(m_prospetti[indice(m_form.prospetto())].primo); });
+    invio.passo(estremi.ultimo, [this] { vaiA(m_prospetti[m_form.prospetto()].primo); });
     for (const RiquadroTea& prospetto : m_prospetti)
         invio.passo(prospetto.ultimo, scadenze.primo);
     invio.passo(scadenze.ultimo, ricavi.primo);
@@ -188,7 +184,7 @@ void VistaBorftea::mostraProspetto(Prospetto prospetto) {
     bool mostrato = false;
     legami.eseguiComando([&] { mostrato = m_form.mostraProspetto(prospetto); });
     if (mostrato)
-        vaiA(m_prospetti[indice(prospetto)].primo);
+        vaiA(m_prospetti[prospetto].primo);
 }
 
 void VistaBorftea::esegui(Comando comando) {
@@ -235,20 +231,13 @@ QString VistaBorftea::titolo() const {
 }
 
 void VistaBorftea::keyPressEvent(QKeyEvent* evento) {
-    const int tasto = evento->key();
-    if (tasto == Qt::Key_PageDown || tasto == Qt::Key_PageUp)
-        legami.esegui([&] { m_form.scorri(tasto == Qt::Key_PageDown ? m_form.finestra().ultima() : 1); });
-    else
+    if (!sfoglia(evento, legami, m_form))
         Vista::keyPressEvent(evento);
 }
 
 void VistaBorftea::wheelEvent(QWheelEvent* evento) {
-    if (m_form.prospetto() != Prospetto::RigheIva || !m_pila->underMouse())
-        return;
-    // The box in focus comes to show another row: a digit typed by surprise must not change that one.
-    QWidget* cursore = controllo(u"VScroll1"_s);
-    cursore->setFocus();
-    QApplication::sendEvent(cursore, evento);
+    if (m_form.prospetto() == Prospetto::RigheIva && m_pila->underMouse())
+        gira(controllo(u"VScroll1"_s), evento);
 }
 
 } // namespace bor

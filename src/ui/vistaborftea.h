@@ -1,11 +1,10 @@
 // The document form on screen.
 #pragma once
 
+#include "common/serie.h"
 #include "document/borftea.h"
 #include "ui/riquadritea.h"
 #include "ui/vista.h"
-
-#include <array>
 
 class QStackedWidget;
 
@@ -26,7 +25,7 @@ protected:
     void wheelEvent(QWheelEvent* evento) override;
 
 private:
-    static constexpr std::size_t prospetti = 4;
+    using Prospetto = Borftea::Prospetto;
 
     QWidget* creaProspetti(const BancoTea& banco);
     QWidget* creaScelta();
@@ -34,7 +33,7 @@ private:
     QWidget* creaPdf(const BancoTea& banco);
     QWidget* creaComandi();
     void collegaPercorso(const RiquadroTea& estremi, const RiquadroTea& scadenze, const RiquadroTea& ricavi);
-    void mostraProspetto(Borftea::Prospetto prospetto);
+    void mostraProspetto(Prospetto prospetto);
     void comando(Flusso* barra, int indice, Borftea::Comando quale, const QString& testo,
                  const QString& icona, const QString& tasto);
     void esegui(Borftea::Comando comando);
@@ -42,7 +41,7 @@ private:
     QWidget* controllo(const QString& nome) const;
 
     Borftea& m_form;
-    std::array<RiquadroTea, prospetti> m_prospetti{}; ///< in the order of `Borftea::Prospetto`
+    Serie<RiquadroTea, Prospetto::RigheIva, Prospetto::Spesometro> m_prospetti;
     QStackedWidget* m_pila = nullptr;
 };
 

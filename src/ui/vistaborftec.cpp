@@ -20,6 +20,7 @@ namespace bor {
 namespace {
 
 using Campo = Borftec::Campo;
+using Totale = Borftec::Totale;
 
 struct Colonna {
     Campo campo;
@@ -37,7 +38,7 @@ constexpr std::array<Colonna, 5> colonne = {{
 
 /// The account's name stands between its groups and the amounts.
 int colonnaGriglia(Campo campo) {
-    return campo < Campo::Dare ? static_cast<int>(campo) : static_cast<int>(campo) + 1;
+    return campo < Campo::Dare ? ordinale(campo) : ordinale(campo) + 1;
 }
 
 } // namespace
@@ -99,13 +100,13 @@ QWidget* VistaBorftec::creaRighe() {
 
 void VistaBorftec::creaLinea(QGridLayout* griglia, int linea) {
     for (const auto& [campo, radice, descrizione] : colonne) {
-        const int caratteri = Borftec::caratteri[static_cast<std::size_t>(campo)];
+        const int caratteri = Borftec::caratteri[campo];
         const Borftec::Cella cella{campo, linea};
         const QString nome = u"%1(%2)"_s.arg(radice).arg(linea);
         const QString letto = u"%1, riga %2"_s.arg(descrizione).arg(linea + 1);
-        QLineEdit* casella = caratteri > 0 ? static_cast<QLineEdit*>(new CampoTesto(nome, letto, caratteri))
-                                           : new CampoImporto(nome, letto);
-        m_campi[static_cast<std::size_t>(linea)][static_cast<std::size_t>(campo)] = casella;
+        CampoTesto* casella =
+            caratteri > 0 ? new CampoTesto(nome, letto, caratteri) : new CampoImporto(nome, letto);
+        m_campi[linea][campo] = casella;
         griglia->addWidget(casella, linea + 1, colonnaGriglia(campo));
         legami.testo(
             casella, [this, cella] { return m_form.testo(cella); },
@@ -143,23 +144,23 @@ QWidget* VistaBorftec::creaConti() {
 QWidget* VistaBorftec::creaTotali() {
     auto* riquadro = new QGroupBox(u"Totali"_s);
     auto* riga = new Flusso(riquadro);
-    const auto mostra = [&](int indice, const QString& testo, const std::function<double()>& leggi) {
-        auto* casella = new CampoTesto(u"Label1(%1)"_s.arg(indice), testo, 16);
+    const auto mostra = [&](const QString& testo, Totale quale) {
+        auto* casella = new CampoTesto(u"Label1(%1)"_s.arg(ordinale(quale)), testo, 16);
         casella->setAlignment(Qt::AlignRight);
-        legami.testo(casella, [this, leggi] { return m_form.importo(leggi()); });
+        legami.testo(casella, [this, quale] { return m_form.importo(m_form.totale(quale)); });
         riga->addWidget(conDidascalia(testo, casella));
         riga->spazio(8);
         return casella;
     };
-    const auto mostraScarto = [&](int indice, const QString& testo, const std::function<double()>& leggi) {
-        auto* casella = mostra(indice, testo, leggi);
-        legami.altro([casella, leggi] { segna(casella, "scarto", leggi() != 0.0); });
+    const auto mostraScarto = [&](const QString& testo, Totale quale) {
+        auto* casella = mostra(testo, quale);
+        legami.altro([this, casella, quale] { segna(casella, "scarto", m_form.totale(quale) != 0.0); });
     };
-    mostra(0, u"Totale dare"_s, [this] { return m_form.totaleDare(); });
-    mostra(1, u"Totale avere"_s, [this] { return m_form.totaleAvere(); });
-    mostraScarto(2, u"Sbilancio"_s, [this] { return m_form.sbilancio(); });
-    mostra(3, u"Totale documento"_s, [this] { return m_form.totaleDocumento(); });
-    mostraScarto(4, u"Differenza"_s, [this] { return m_form.differenza(); });
+    mostra(u"Totale dare"_s, Totale::Dare);
+    mostra(u"Totale avere"_s, Totale::Avere);
+    mostraScarto(u"Sbilancio"_s, Totale::Sbilancio);
+    mostra(u"Totale documento"_s, Totale::Documento);
+    mostraScarto(u"Differenza"_s, Totale::Differenza);
     return riquadro;
 }
 
@@ -189,7 +190,7 @@ void VistaBorftec::aggiornaConti() {
 }
 
 void VistaBorftec::vai(Borftec::Cella cella) {
-    vaiA(m_campi[static_cast<std::size_t>(cella.linea)][static_cast<std::size_t>(cella.campo)]);
+    vaiA(m_campi[cella.linea][cella.campo]);
 }
 
 void VistaBorftec::attiva() {

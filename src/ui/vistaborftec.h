@@ -1,10 +1,9 @@
 // The movement editor on screen.
 #pragma once
 
+#include "common/serie.h"
 #include "posting/borftec.h"
 #include "ui/vista.h"
-
-#include <array>
 
 class QGridLayout;
 class QHBoxLayout;
@@ -22,7 +21,7 @@ public:
     QString titolo() const override;
 
 private:
-    static constexpr std::size_t campiPerLinea = 5;
+    using Campo = Borftec::Campo;
 
     QWidget* creaTestata();
     QWidget* creaRighe();
@@ -35,7 +34,7 @@ private:
     void vai(Borftec::Cella cella);
 
     Borftec& m_form;
-    std::array<std::array<QLineEdit*, campiPerLinea>, Borftec::righe> m_campi{};
+    Serie<Serie<QLineEdit*, Campo::Mastro, Campo::Avere>, 0, Borftec::righe - 1> m_campi;
     QLineEdit* m_cerca = nullptr;
     QListWidget* m_conti = nullptr;
     int m_edizione = 0;

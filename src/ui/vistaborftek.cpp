@@ -6,13 +6,10 @@
 #include "ui/cursorerighe.h"
 #include "ui/flusso.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QWheelEvent>
 
 #include <utility>
 
@@ -31,6 +28,7 @@ struct Colonna {
     QStringView intestazione;
 };
 
+/// In the order of the screen.
 constexpr std::array<Colonna, 5> colonne = {{
     {Campo::Data, u"artic", u"Data"},
     {Campo::Descrizione, u"ds", u"Descrizione prestazione"},
@@ -52,7 +50,7 @@ VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_fo
     legami.altro([this] { aggiornaPrestazioni(); });
     legami.altro([this] {
         if (const auto cella = m_form.prendiFuoco())
-            vaiA(m_campi[static_cast<std::size_t>(cella->linea)][static_cast<std::size_t>(cella->campo)]);
+            vaiA(m_campi[cella->linea][cella->campo]);
     });
     altriTasti = {{u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s}};
 }
@@ -61,39 +59,36 @@ QWidget* VistaBorftek::creaRighe() {
     auto* riquadro = new QGroupBox(u"Prestazioni del documento"_s);
     auto* griglia = new QGridLayout(riquadro);
     griglia->setVerticalSpacing(8);
-    for (std::size_t c = 0; c < colonne.size(); ++c) {
-        auto* intestazione = new QLabel(colonne[c].intestazione.toString());
-        griglia->addWidget(intestazione, 0, static_cast<int>(c), c < 2 ? Qt::AlignLeft : Qt::AlignRight);
-    }
+    for (const Colonna& colonna : colonne)
+        griglia->addWidget(new QLabel(colonna.intestazione.toString()), 0, ordinale(colonna.campo),
+                           colonna.campo <= Campo::Descrizione ? Qt::AlignLeft : Qt::AlignRight);
     for (int linea = 0; linea < Borftek::linee; ++linea)
         creaLinea(griglia, linea);
     m_cursore = cursoreRighe(legami, m_form, u"Prima riga visibile"_s);
     m_cursore->setFocusPolicy(Qt::StrongFocus);
-    griglia->addWidget(m_cursore, 1, static_cast<int>(colonne.size()), Borftek::linee, 1);
+    griglia->addWidget(m_cursore, 1, quantiIn(colonne), Borftek::linee, 1);
     griglia->setColumnStretch(1, 1);
     griglia->setRowStretch(Borftek::linee + 1, 1);
     return riquadro;
 }
 
 void VistaBorftek::creaLinea(QGridLayout* griglia, int linea) {
-    for (std::size_t c = 0; c < colonne.size(); ++c) {
-        const auto& [campo, radice, intestazione] = colonne[c];
+    for (const auto& [campo, radice, intestazione] : colonne) {
         const QString nome = u"%1(%2)"_s.arg(radice).arg(linea);
         const QString didascalia = u"%1, riga %2"_s.arg(intestazione).arg(linea + 1);
         QWidget* widget = nullptr;
+        QLineEdit*& casella = m_campi[linea][campo];
         if (campo == Campo::Data) {
             auto* giorno = new CampoData(nome, u"aartic(%1)"_s.arg(linea), didascalia, m_form.bordata());
-            m_campi[static_cast<std::size_t>(linea)][c] = giorno->campo();
+            casella = giorno->campo();
             widget = giorno;
         } else {
-            auto* casella = campo == Campo::Descrizione
-                                ? static_cast<QLineEdit*>(new CampoTesto(nome, didascalia, 50))
-                                : new CampoImporto(nome, didascalia);
-            m_campi[static_cast<std::size_t>(linea)][c] = casella;
+            casella = campo == Campo::Descrizione ? new CampoTesto(nome, didascalia, 50)
+                                                  : new CampoImporto(nome, didascalia);
             widget = casella;
         }
-        griglia->addWidget(widget, linea + 1, static_cast<int>(c));
-        lega({campo, linea}, m_campi[static_cast<std::size_t>(linea)][c]);
+        griglia->addWidget(widget, linea + 1, ordinale(campo));
+        lega({campo, linea}, casella);
     }
 }
 
@@ -174,17 +169,12 @@ QString VistaBorftek::titolo() const {
 }
 
 void VistaBorftek::keyPressEvent(QKeyEvent* evento) {
-    const int tasto = evento->key();
-    if (tasto != Qt::Key_PageUp && tasto != Qt::Key_PageDown)
-        return Vista::keyPressEvent(evento);
-    const int passo = tasto == Qt::Key_PageUp ? -Borftek::linee : Borftek::linee;
-    legami.esegui([&] { m_form.scorri(m_form.finestra().prima() + passo); });
+    if (!sfoglia(evento, legami, m_form))
+        Vista::keyPressEvent(evento);
 }
 
 void VistaBorftek::wheelEvent(QWheelEvent* evento) {
-    // The box in focus would be left on another line than the one it was entered for.
-    m_cursore->setFocus();
-    QApplication::sendEvent(m_cursore, evento);
+    gira(m_cursore, evento);
 }
 
 } // namespace bor

@@ -1,10 +1,9 @@
 // The lines of a fee bill on screen.
 #pragma once
 
+#include "common/serie.h"
 #include "document/borftek.h"
 #include "ui/vista.h"
-
-#include <array>
 
 class QGridLayout;
 class QLineEdit;
@@ -26,7 +25,7 @@ protected:
     void wheelEvent(QWheelEvent* evento) override;
 
 private:
-    static constexpr std::size_t campiPerLinea = 5;
+    using Campo = Borftek::Campo;
 
     QWidget* creaRighe();
     void creaLinea(QGridLayout* griglia, int linea);
@@ -37,7 +36,7 @@ private:
     void aggiornaPrestazioni();
 
     Borftek& m_form;
-    std::array<std::array<QLineEdit*, campiPerLinea>, Borftek::linee> m_campi{};
+    Serie<Serie<QLineEdit*, Campo::Data, Campo::Onorari>, 0, Borftek::linee - 1> m_campi;
     QScrollBar* m_cursore = nullptr;
     QListWidget* m_prestazioni = nullptr;
     int m_edizione = 0;

@@ -1,11 +1,11 @@
 // The customer and the head of a document on screen.
 #pragma once
 
+#include "common/serie.h"
 #include "document/borftem.h"
 #include "ui/campilegati.h"
 #include "ui/vista.h"
 
-#include <array>
 #include <vector>
 
 class QComboBox;
@@ -55,12 +55,12 @@ private:
     void conto(QGridLayout* griglia, int numero, Percorso& percorso, int indice, const QString& didascalia,
                ContoTesti DatiCliente::*dato);
     QGroupBox* riquadro(const QString& nome, const QString& titolo, RiquadroTestata quale);
-    Percorso& percorso(RiquadroTestata quale) { return m_percorsi[static_cast<std::size_t>(quale)]; }
+    Percorso& percorso(RiquadroTestata quale) { return m_percorsi[quale]; }
 
     Borftem& m_form;
     CampiLegati m_campi{legami, m_form.bordata()};
-    std::array<Percorso, 3> m_percorsi; ///< by `RiquadroTestata`
-    std::array<QRadioButton*, 3> m_mezzo{};
+    Serie<Percorso, RiquadroTestata::Contabili, RiquadroTestata::Pratica> m_percorsi;
+    Serie<QRadioButton*, Mezzo::Vettore, Mezzo::Mittente> m_mezzo;
     QLineEdit* m_nome = nullptr;
     QScrollBar* m_cursore = nullptr;
 };

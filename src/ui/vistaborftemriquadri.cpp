@@ -1,4 +1,5 @@
 // The frames of the head form: what the operator sees and types of the customer, transport and practice.
+#include "common/posti.h"
 #include "ui/vistaborftem.h"
 
 #include "ui/campi.h"
@@ -29,7 +30,7 @@ void affianca(QGridLayout* griglia, int numero, const QString& testo, const std:
     auto* insieme = new QHBoxLayout;
     insieme->setSpacing(distanza);
     for (int i = 0; i < std::ssize(campi); ++i) {
-        QWidget* campo = campi[static_cast<std::size_t>(i)];
+        QWidget* campo = elemento(campi, i);
         if (i != larga)
             campo->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
         insieme->addWidget(campo, i == larga ? 1 : 0);
@@ -188,27 +189,24 @@ QWidget* VistaBorftem::creaSpedizione() {
 
 void VistaBorftem::creaMezzo(QGridLayout* griglia, int numero, Percorso& passi) {
     const QString mezzo = u"Spedizione a mezzo:"_s;
-    constexpr std::array<QStringView, 3> didascalie = {u"Vettore", u"Destinatario", u"Mittente"};
     auto* gruppo = new QButtonGroup(this);
     std::vector<QWidget*> bottoni;
-    for (int i = 0; i < std::ssize(didascalie); ++i) {
-        const QString testo = didascalie[static_cast<std::size_t>(i)].toString();
+    for (const Mezzo quale : {Mezzo::Vettore, Mezzo::Destinatario, Mezzo::Mittente}) {
+        const QString testo = nomeMezzo[quale].toString();
         auto* bottone = new QRadioButton(testo);
-        bottone->setObjectName(indicizzato(u"sped", i));
+        bottone->setObjectName(indicizzato(u"sped", ordinale(quale)));
         bottone->setAccessibleName(mezzo + u' ' + testo);
         gruppo->addButton(bottone);
         legami.spunta(
-            bottone, [this, i] { return m_form.dato(&Trasporto::spedizione) == i; },
-            [this, i](bool) { m_form.cambia(i, &Trasporto::spedizione); });
+            bottone, [this, quale] { return m_form.dato(&Trasporto::spedizione) == quale; },
+            [this, quale](bool) { m_form.cambia(quale, &Trasporto::spedizione); });
         invio.passo(bottone, [this] { vaiA(m_nome); });
-        m_mezzo[static_cast<std::size_t>(i)] = bottone;
+        m_mezzo[quale] = bottone;
         bottoni.push_back(bottone);
     }
     affianca(griglia, numero, mezzo, bottoni);
     // Enter comes to the option that is chosen, as the Tab key does.
-    invio.passo(passi.back(), [this] {
-        vaiA(m_mezzo[static_cast<std::size_t>(std::clamp(m_form.dato(&Trasporto::spedizione), 0, 2))]);
-    });
+    invio.passo(passi.back(), [this] { vaiA(m_mezzo[m_form.dato(&Trasporto::spedizione)]); });
 }
 
 QWidget* VistaBorftem::creaPratica() {

@@ -1,5 +1,6 @@
 #include "ui/vistaborftepa.h"
 
+#include "common/posti.h"
 #include "ui/barracomandi.h"
 #include "ui/campodata.h"
 #include "ui/finestrarilievi.h"
@@ -21,36 +22,42 @@ VistaBorftepa::VistaBorftepa(Borftepa& form, QWidget* parent) : Vista(parent), m
     layout->addWidget(creaCliente());
     layout->addWidget(creaEstremi(), 1);
     layout->addWidget(creaComandi());
+    legami.altro([this] {
+        if (const auto posto = m_form.prendiFuoco())
+            vaiA(m_caselle[indiceFpa(*posto)]);
+    });
 }
 
 QWidget* VistaBorftepa::creaCliente() {
+    using enum CasellaCliente;
     auto* riquadro = new QGroupBox(u"Sede legale e dati fiscali"_s);
     auto* griglia = new QGridLayout(riquadro);
     const auto etichetta = [&](int linea, int colonna, const QString& testo) {
         griglia->addWidget(new QLabel(testo), linea, colonna, Qt::AlignRight | Qt::AlignVCenter);
     };
     etichetta(0, 0, u"Intestazione "_s);
-    mostraCliente(griglia, 0, 1, 20, u"Intestazione"_s, 40,
+    mostraCliente(griglia, 0, 1, Ragione1, u"Intestazione"_s, 40,
                   [](const Cli& c) { return c.sede.ragione1.trimmed(); });
-    mostraCliente(griglia, 0, 2, 21, u"Intestazione, seguito"_s, 40,
+    mostraCliente(griglia, 0, 2, Ragione2, u"Intestazione, seguito"_s, 40,
                   [](const Cli& c) { return c.sede.ragione2.trimmed(); });
     etichetta(0, 4, u"Codice fiscale"_s);
-    mostraCliente(griglia, 0, 5, 18, u"Codice fiscale"_s, 16,
+    mostraCliente(griglia, 0, 5, CodiceFiscale, u"Codice fiscale"_s, 16,
                   [](const Cli& c) { return c.codicefiscale.trimmed(); });
     etichetta(1, 0, u"Indirizzo"_s);
-    mostraCliente(griglia, 1, 1, 22, u"Indirizzo"_s, 40,
+    mostraCliente(griglia, 1, 1, Indirizzo, u"Indirizzo"_s, 40,
                   [](const Cli& c) { return c.sede.indirizzo.trimmed(); });
     auto* citta = new QGridLayout;
-    mostraCliente(citta, 0, 1, 23, u"CAP"_s, 5, [](const Cli& c) { return c.sede.cap.trimmed(); });
-    mostraCliente(citta, 0, 2, 24, u"Città"_s, 40, [](const Cli& c) { return c.sede.citta.trimmed(); });
+    mostraCliente(citta, 0, 1, Cap, u"CAP"_s, 5, [](const Cli& c) { return c.sede.cap.trimmed(); });
+    mostraCliente(citta, 0, 2, Citta, u"Città"_s, 40, [](const Cli& c) { return c.sede.citta.trimmed(); });
     citta->addWidget(new QLabel(u"CAP Città"_s), 0, 0);
     citta->setColumnStretch(2, 1);
     griglia->addLayout(citta, 1, 2);
     etichetta(1, 4, u"Partita iva"_s);
     auto* iva = new QGridLayout;
-    mostraCliente(iva, 0, 0, 17, u"Paese della partita iva"_s, 2,
+    mostraCliente(iva, 0, 0, Nazione, u"Paese della partita iva"_s, 2,
                   [](const Cli& c) { return c.nazione.trimmed(); });
-    mostraCliente(iva, 0, 1, 19, u"Partita iva"_s, 11, [](const Cli& c) { return c.partitaiva.trimmed(); });
+    mostraCliente(iva, 0, 1, PartitaIva, u"Partita iva"_s, 11,
+                  [](const Cli& c) { return c.partitaiva.trimmed(); });
     iva->setColumnStretch(1, 1);
     griglia->addLayout(iva, 1, 5);
     griglia->setColumnStretch(1, 3);
@@ -59,12 +66,12 @@ QWidget* VistaBorftepa::creaCliente() {
     return riquadro;
 }
 
-void VistaBorftepa::mostraCliente(QGridLayout* griglia, int riga, int colonna, int indice,
+void VistaBorftepa::mostraCliente(QGridLayout* griglia, int riga, int colonna, CasellaCliente quale,
                                   const QString& descrizione, int caratteri,
                                   const std::function<QString(const Cli&)>& leggi) {
-    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(indice), descrizione, caratteri);
+    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(ordinale(quale)), descrizione, caratteri);
     legami.testo(campo, [this, leggi] { return leggi(m_form.cliente()); });
-    legami.entrato(campo, [this] { vai(TestoFpa::Numero); });
+    legami.entrato(campo, [this] { m_form.entraCliente(); });
     griglia->addWidget(campo, riga, colonna);
 }
 
@@ -164,24 +171,21 @@ QLayout* VistaBorftepa::creaPagamento() {
 }
 
 QLineEdit* VistaBorftepa::creaTesto(TestoFpa quale, const QString& descrizione, int caratteri) {
-    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(static_cast<int>(quale)), descrizione, caratteri);
+    auto* campo = new CampoTesto(u"Text2(%1)"_s.arg(ordinale(quale)), descrizione, caratteri);
     lega(campo, quale);
-    invio.passo(campo, [this, quale] { vai(casellaFpa(quale).dopo); });
     return campo;
 }
 
 QWidget* VistaBorftepa::creaData(DataFpa quale, const QString& descrizione) {
-    const int indice = static_cast<int>(quale);
+    const int indice = ordinale(quale);
     auto* casella =
         new CampoData(u"dsca(%1)"_s.arg(indice), u"ddsca(%1)"_s.arg(indice), descrizione, m_form.bordata());
     QLineEdit* campo = casella->campo();
     lega(campo, quale);
     legami.lasciato(campo, [this, quale] { m_form.lasciaData(quale); });
-    const auto avanti = [this, quale] { vai(casellaFpa(quale).dopo); };
-    invio.passo(campo, avanti);
-    connect(campo, &QLineEdit::textEdited, this, [this, campo, quale, avanti] {
+    connect(campo, &QLineEdit::textEdited, this, [this, campo, quale] {
         if (campo->hasFocus() && m_form.dataCompleta(quale))
-            avanti();
+            legami.esegui([&] { m_form.invio(quale); });
     });
     return casella;
 }
@@ -191,11 +195,12 @@ void VistaBorftepa::lega(QLineEdit* campo, PostoFpa posto) {
     legami.testo(
         campo, [this, posto] { return m_form.testo(posto); },
         [this, posto](const QString& t) { m_form.cambia(posto, t); });
+    invio.passo(campo, [this, posto] { legami.esegui([&] { m_form.invio(posto); }); });
 }
 
 QComboBox* VistaBorftepa::creaLista(ListaFpa lista, const QString& descrizione) {
     auto* scelta = new QComboBox;
-    scelta->setObjectName(u"Combo7(%1)"_s.arg(static_cast<int>(lista)));
+    scelta->setObjectName(u"Combo7(%1)"_s.arg(ordinale(lista)));
     scelta->setAccessibleName(descrizione);
     scelta->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     scelta->setMinimumContentsLength(20);
@@ -265,16 +270,11 @@ void VistaBorftepa::hideEvent(QHideEvent* evento) {
         chiudiRilievi();
 }
 
-void VistaBorftepa::vai(PostoFpa posto) {
-    vaiA(m_caselle[indiceFpa(posto)]);
-}
-
 void VistaBorftepa::attiva() {
     m_form.attiva();
     m_vettori->clear();
     m_vettori->addItems(m_form.vettori());
     legami.aggiorna();
-    vai(TestoFpa::Numero);
 }
 
 void VistaBorftepa::lascia() {

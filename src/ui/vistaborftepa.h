@@ -34,6 +34,18 @@ private:
         TestoFpa commessa;
     };
 
+    /// The customer's boxes, `Text2(17)` to `Text2(24)`.
+    enum class CasellaCliente {
+        Nazione = numeroTestiFpa,
+        CodiceFiscale,
+        PartitaIva,
+        Ragione1,
+        Ragione2,
+        Indirizzo,
+        Cap,
+        Citta
+    };
+
     QWidget* creaCliente();
     QWidget* creaEstremi();
     QLayout* creaDocumento();
@@ -48,9 +60,9 @@ private:
     QComboBox* creaLista(ListaFpa lista, const QString& descrizione);
     QComboBox* creaVettori();
     QWidget* creaSpunta(const QString& nome, const QString& testo, bool Borftepa::*dato);
-    void mostraCliente(QGridLayout* griglia, int riga, int colonna, int indice, const QString& descrizione,
-                       int caratteri, const std::function<QString(const Cli&)>& leggi);
-    void vai(PostoFpa posto);
+    void mostraCliente(QGridLayout* griglia, int riga, int colonna, CasellaCliente quale,
+                       const QString& descrizione, int caratteri,
+                       const std::function<QString(const Cli&)>& leggi);
     void genera();
     void controlla();
     void chiudiRilievi();

@@ -1,5 +1,6 @@
 #include "ui/vistaborsel.h"
 
+#include "common/posti.h"
 #include "register/borsel.h"
 #include "ui/barracomandi.h"
 #include "ui/barraintestazioni.h"
@@ -36,7 +37,7 @@ VistaBorsel::VistaBorsel(Borsel& form, QWidget* parent)
       m_modello(new ModelloGriglia(
           colonne,
           {[&form] { return form.righeGriglia(); },
-           [&form](int riga, int colonna) { return form.testo(riga, static_cast<ColonnaCliente>(colonna)); },
+           [&form](int riga, int colonna) { return form.testo(riga, enumeratore<ColonnaCliente>(colonna)); },
            [&form](int riga, int) { return form.colore(riga); }},
           this)) {
     auto* layout = new QVBoxLayout(this);
@@ -81,6 +82,7 @@ QWidget* VistaBorsel::creaElenco() {
     invio.passo(m_elenco, [this] { scegli(); });
 
     std::vector<BarraIntestazioni::Comando> comandi;
+    comandi.reserve(colonneCliente);
     for (int i = 0; i < colonneCliente; ++i)
         comandi.push_back({i, u"Riordina"_s, QKeySequence(u"Ctrl+%1"_s.arg(i + 1))});
     auto* nessuno = new QLabel(u"Nessun cliente"_s);
@@ -93,7 +95,7 @@ QWidget* VistaBorsel::creaElenco() {
     layout->setSpacing(0);
     layout->addWidget(nessuno);
     layout->addWidget(new BarraIntestazioni(m_elenco, comandi, [this](int i) {
-        legami.esegui([&] { m_form.ordina(static_cast<ColonnaCliente>(i)); });
+        legami.esegui([&] { m_form.ordina(enumeratore<ColonnaCliente>(i)); });
     }));
     layout->addWidget(m_elenco);
     return riquadro;

@@ -57,22 +57,11 @@ protected:
                  documento,
                  registrazioni,
                  sospese,
-                 {.stampa = {},
-                  .anteprima = {},
-                  .scegliPdf = {},
-                  .fatturaPa = [] {},
-                  .fatturaElettronica = [this] { ++fattureElettroniche; }}};
+                 {.fatturaPa = [] {}, .fatturaElettronica = [this] { ++fattureElettroniche; }}};
     int fattureElettroniche = 0; ///< times that the electronic invoice was asked for
     bool stampato = true;
-    Borftea conStampa{contesto.contesto,
-                      documento,
-                      registrazioni,
-                      sospese,
-                      {.stampa = [this] { return stampato; },
-                       .anteprima = {},
-                       .scegliPdf = {},
-                       .fatturaPa = {},
-                       .fatturaElettronica = {}}};
+    Borftea conStampa{
+        contesto.contesto, documento, registrazioni, sospese, {.stampa = [this] { return stampato; }}};
 };
 
 TEST_F(DocumentForm, LaFatturaElettronicaEsceSoloDalDocumentoRegistrato) {
@@ -168,15 +157,16 @@ TEST_F(DocumentForm, RigheIva_EtichetteScorrimentoETotali) {
     contesto.tabelle.esenzioni[2] = {u"Art. 15"_s, u"x"_s};
     contesto.tabelle.esenzioni[5] = {u"Art. 8"_s, u"Cessioni UE"_s};
     nuovo();
-    EXPECT_EQ(form.etichettaIva(0), u"Aliquota iva 22%");
-    EXPECT_EQ(form.etichettaIva(1), u"Non definito") << "a caption of one character is none";
-    EXPECT_EQ(form.etichettaEsente(1), u"Art. 15");
-    EXPECT_EQ(form.etichettaIva(4), u"Cessioni UE");
+    EXPECT_EQ(form.etichetta(0, VoceIva::Imponibile), u"Aliquota iva 22%");
+    EXPECT_EQ(form.etichetta(1, VoceIva::Imponibile), u"Non definito")
+        << "a caption of one character is none";
+    EXPECT_EQ(form.etichetta(1, VoceIva::Esente), u"Art. 15");
+    EXPECT_EQ(form.etichetta(4, VoceIva::Imponibile), u"Cessioni UE");
     EXPECT_EQ(form.totale(Borftea::Totale::Documento), u" ");
     form.cambiaImporto(1, VoceIva::Imponibile, u"1000,505"_s);
     form.scorri(9);
     EXPECT_EQ(form.finestra().prima(), 5);
-    EXPECT_EQ(form.etichettaIva(0), u"Cessioni UE");
+    EXPECT_EQ(form.etichetta(0, VoceIva::Imponibile), u"Cessioni UE");
     form.cambiaImporto(7, VoceIva::Esente, u"50"_s);
     form.cambiaImporto(7, VoceIva::Imposta, u"2x"_s);
     EXPECT_EQ(double{documento.coppia.fte.impon[1]}, 1000.505) << "typed amounts are not rounded";

@@ -284,7 +284,7 @@ TEST_F(SalvaTest, FileDalNomeVecchioOMancante) {
     EXPECT_EQ(p.documento.ddd[1].recart, 7);
     EXPECT_EQ(p.documento.testata.trasporto.causale, -1);
     EXPECT_EQ(p.documento.testata.trasporto.aspetto, 2);
-    EXPECT_EQ(p.documento.testata.trasporto.spedizione, 1);
+    EXPECT_EQ(p.documento.testata.trasporto.spedizione, Mezzo::Destinatario);
     p.salva();
     EXPECT_TRUE(azienda.leggi(u"f1"_s).contains("\r\n 99 \r\n"));
 }

@@ -201,7 +201,7 @@ TEST_F(VociTest, DiUnaFattura) {
                                    .ora = u"9.30"_s,
                                    .causale = 0,
                                    .aspetto = 0,
-                                   .spedizione = 1};
+                                   .spedizione = Mezzo::Destinatario};
     documento.ddd[0] = {.descrizione = u"Vite"_s, .iva = 1, .quantita = 4, .prezzo = 25};
     documento.ddd[1] = {.descrizione = u"Bollo"_s, .iva = 15, .quantita = Riga::soloPrezzo, .prezzo = 2};
     documento.coppia.f2e.fpa = 1.0F;

@@ -73,10 +73,10 @@ TEST_F(MovimentoTest, FatturaConRitenutaENotaDiCredito) {
     EXPECT_EQ(m.data, u"16/03/2015"_s);
     EXPECT_TRUE(prova.operatore.domande.isEmpty());
     form.prepara(m);
-    EXPECT_EQ(form.totaleDocumento(), 122);
-    EXPECT_EQ(form.differenza(), 0);
+    EXPECT_EQ(form.totale(Borftec::Totale::Documento), 122);
+    EXPECT_EQ(form.totale(Borftec::Totale::Differenza), 0);
     form.cambia({Borftec::Campo::Dare, 1}, u"19,50"_s);
-    EXPECT_EQ(form.differenza(), -0.5);
+    EXPECT_EQ(form.totale(Borftec::Totale::Differenza), -0.5);
 
     documento.coppia.fte.tipo = 1;
     documento.coppia.fte.esigdiff.set(u"1");
@@ -86,13 +86,13 @@ TEST_F(MovimentoTest, FatturaConRitenutaENotaDiCredito) {
               QStringList({u"10010001  102"_s, u"11220033  20"_s, u"40010001 100 "_s, u"44550066 22 "_s}));
     EXPECT_EQ(m.descrizione, u"N.C. 12/A/2015"_s);
     form.prepara(m);
-    EXPECT_EQ(form.differenza(), 0);
+    EXPECT_EQ(form.totale(Borftec::Totale::Differenza), 0);
 
     documento.integrata = Integrata::ReverseCharge;
     documento.prospetti.ritenute[2].raimp.clear();
     EXPECT_EQ(righe(setfat(documento, prova.contesto)), QStringList({u"10010001  22"_s, u"44550066 22 "_s}));
     form.prepara(setfat(documento, prova.contesto));
-    EXPECT_EQ(form.differenza(), 0) << "the tax alone is posted";
+    EXPECT_EQ(form.totale(Borftec::Totale::Differenza), 0) << "the tax alone is posted";
 }
 
 TEST_F(MovimentoTest, OgniParcellaQuadra) {
@@ -109,9 +109,9 @@ TEST_F(MovimentoTest, OgniParcellaQuadra) {
         documento.testata.pratica.ivaono = giro % 2;
         documento.testata.pratica.ivaspe = giro % 3;
         form.prepara(setpar(documento, prova.contesto));
-        ASSERT_EQ(form.sbilancio(), 0) << giro;
-        ASSERT_EQ(form.differenza(), 0) << giro;
-        ASSERT_GT(form.totaleDare(), 0);
+        ASSERT_EQ(form.totale(Borftec::Totale::Sbilancio), 0) << giro;
+        ASSERT_EQ(form.totale(Borftec::Totale::Differenza), 0) << giro;
+        ASSERT_GT(form.totale(Borftec::Totale::Dare), 0);
     }
 }
 
@@ -158,7 +158,7 @@ TEST_F(MovimentoTest, ScriveGiornaleESaldiEPoiSostituisceSulPosto) {
     form.prepara(setfat(documento, prova.contesto));
     EXPECT_EQ(form.testo({Borftec::Campo::Avere, 3}), u"22"_s);
     form.cambia({Borftec::Campo::Avere, 3}, u"22,50"_s);
-    EXPECT_EQ(form.sbilancio(), -0.5);
+    EXPECT_EQ(form.totale(Borftec::Totale::Sbilancio), -0.5);
     form.salva();
     EXPECT_EQ(prova.archivio.leggiTot(Conta::Gio).numero, 1);
     EXPECT_EQ(saldi(iva), QList<double>({0, 22.5}));

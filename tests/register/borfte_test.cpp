@@ -137,7 +137,7 @@ TEST_F(RegistroTest, LaVistaPreferitaRestaNelleImpostazioni) {
     for (int i = 1; i <= 24; ++i)
         azienda.documento(documentoDi(1, QString::number(i), i, 0));
     apri();
-    EXPECT_EQ(form().selvis(), Selvis::Tutte);
+    EXPECT_EQ(form().scelte().selvis, Selvis::Tutte);
     EXPECT_EQ(form().primaRigaVisibile(), 0);
     form().cambiaVisua(Visua::DallUltima);
     form().cambiaSelvis(Selvis::Ultime5000);
@@ -145,8 +145,8 @@ TEST_F(RegistroTest, LaVistaPreferitaRestaNelleImpostazioni) {
     EXPECT_EQ(form().primaRigaVisibile(), 3);
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.gnr")).left(2), QByteArray("\x0c\0", 2));
     apri();
-    EXPECT_EQ(form().selvis(), Selvis::Ultime5000);
-    EXPECT_EQ(form().visua(), Visua::DallUltima);
+    EXPECT_EQ(form().scelte().selvis, Selvis::Ultime5000);
+    EXPECT_EQ(form().scelte().visua, Visua::DallUltima);
 }
 
 TEST_F(RegistroTest, ApreDocumentiEPdf) {

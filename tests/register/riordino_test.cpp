@@ -38,7 +38,7 @@ struct RiordinoTest : testing::Test {
         Documento documento;
         Borfte form(prova.contesto, documento);
         form.carica();
-        form.scegliRiordino();
+        form.comandoRiordino().scegli();
         form.riordino(tipo);
     }
 };
@@ -75,13 +75,14 @@ TEST_F(RiordinoTest, UnRifiutoNonToccaNullaERiportaIBottoni) {
     Documento documento;
     Borfte form(prova.contesto, documento);
     form.carica();
-    form.scegliRiordino();
-    EXPECT_EQ(form.statoRiordino().etichetta(), QStringLiteral("Seleziona il tipo di riordino da eseguire"));
+    form.comandoRiordino().scegli();
+    EXPECT_EQ(form.comandoRiordino().etichetta(),
+              QStringLiteral("Seleziona il tipo di riordino da eseguire"));
     form.apri(0, Colonna::DataRegistrazione);
     EXPECT_TRUE(prova.operatore.messaggi.isEmpty()) << "no document opens while the choice is pending";
     form.riordino(TipoRiordino::PerData);
-    EXPECT_FALSE(form.statoRiordino().scelta());
-    EXPECT_EQ(form.statoRiordino().etichetta(), QStringLiteral("Inserisci"));
+    EXPECT_FALSE(form.comandoRiordino().scelta());
+    EXPECT_EQ(form.comandoRiordino().etichetta(), QStringLiteral("Inserisci"));
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.fte")), fte);
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.tot")), tot);
 }

@@ -3,20 +3,18 @@
 #include "borcrea/bianco.h"
 #include "borcrea/tabellatesto.h"
 #include "common/codicifiscali.h"
+#include "common/posti.h"
 #include "document/codiceiva.h"
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace bor::crea {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::int16_t breve(int n) {
-    return static_cast<std::int16_t>(n);
-}
 
 void segna(Text<1>& campo, bool acceso) {
     campo.set(acceso ? u"1" : u"0");
@@ -75,10 +73,15 @@ void commerciali(const RigaTabella& riga, Cli& cli) {
     cli.nota2.set(riga.testo(u"nota2", 37));
     cli.banca.set(riga.testo(u"banca", 36));
     const QString coordinate = riga.testo(u"coordinate", 26);
-    cli.banca1.set(coordinate.mid(0, 4));
-    cli.abi.set(coordinate.mid(4, 5));
-    cli.cab.set(coordinate.mid(9, 5));
-    cli.contocorrente.set(coordinate.mid(14));
+    qsizetype posto = 0;
+    const auto prossime = [&](auto& campo) {
+        campo.set(coordinate.mid(posto, quantiIn(campo.bytes)));
+        posto += quantiIn(campo.bytes);
+    };
+    prossime(cli.banca1);
+    prossime(cli.abi);
+    prossime(cli.cab);
+    prossime(cli.contocorrente);
 }
 
 Cli cliente(const RigaTabella& riga, const std::vector<Con>& conti) {
@@ -87,7 +90,7 @@ Cli cliente(const RigaTabella& riga, const std::vector<Con>& conti) {
     sede(riga, QString(), cli.sede);
     sede(riga, u"a"_s, cli.amministrazione);
     for (int i = 0; i < 3; ++i)
-        cli.telefono[static_cast<std::size_t>(i)].set(riga.testo(u"telefono%1"_s.arg(i + 1), 15));
+        elemento(cli.telefono, i).set(riga.testo(u"telefono%1"_s.arg(i + 1), 15));
     cli.email.set(riga.testo(u"email", 36));
     fiscali(riga, cli);
     commerciali(riga, cli);
@@ -108,13 +111,13 @@ Prx testoAggiunto(const RigaTabella& riga) {
     if (riga.vuoto(u"testo"))
         return prx;
     const QStringList righe = riga.testo(u"testo", senzaLimite).split(u'|');
-    if (righe.size() > static_cast<qsizetype>(prx.riga.size()))
+    if (quantiIn(righe) > quantiIn(prx.riga))
         riga.problema(u"testo: ci sono %1 righe, ne sono ammesse dieci."_s.arg(righe.size()));
-    for (std::size_t i = 0; i < prx.riga.size(); ++i) {
-        const QString testo = righe.value(static_cast<qsizetype>(i)).trimmed();
+    for (int i = 0; i < quantiIn(prx.riga); ++i) {
+        const QString testo = righe.value(i).trimmed();
         if (testo.size() > 50)
             riga.problema(u"testo: la riga \"%1\" ha più di 50 caratteri."_s.arg(testo));
-        prx.riga[i].set(testo);
+        elemento(prx.riga, i).set(testo);
     }
     prx.marca = Prx::marcaValida;
     return prx;
@@ -140,11 +143,11 @@ Art articolo(const RigaTabella& riga) {
 }
 
 /// Notes the record of a code; a code that comes twice is a problem.
-void nota(const RigaTabella& riga, QHash<QString, int>& record, std::size_t numero) {
+void nota(const RigaTabella& riga, QHash<QString, int>& record, int numero) {
     const QString codice = riga.testo(u"codice", 15);
     if (record.contains(codice))
         riga.problema(u"codice: \"%1\" è già usato da un'altra riga."_s.arg(codice));
-    record.insert(codice, static_cast<int>(numero));
+    record.insert(codice, numero);
 }
 
 void leggiClienti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
@@ -157,7 +160,7 @@ void leggiClienti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
     for (const RigaTabella& riga : foglio.righe()) {
         a.clienti.push_back(cliente(riga, a.conti));
         riga.obbligatorio(u"codice", 15);
-        nota(riga, a.recordCliente, a.clienti.size());
+        nota(riga, a.recordCliente, quantiIn(a.clienti));
     }
 }
 
@@ -169,7 +172,7 @@ void leggiArticoli(const QString& cartella, Anagrafiche& a, Problemi& problemi) 
     for (const RigaTabella& riga : foglio.righe()) {
         a.articoli.push_back(articolo(riga));
         a.testi.push_back(testoAggiunto(riga));
-        nota(riga, a.recordArticolo, a.articoli.size());
+        nota(riga, a.recordArticolo, quantiIn(a.articoli));
     }
 }
 
@@ -207,32 +210,33 @@ void leggiAgenti(const QString& cartella, Anagrafiche& a, Problemi& problemi) {
     }
 }
 
+/// Writes the records from number 1 on.
+template <class R>
+bool scriviTutti(RecordFile<R>& file, const std::vector<R>& records) {
+    int n = 0;
+    return std::ranges::all_of(records, [&](const R& record) { return file.scrivi(++n, record); });
+}
+
 template <class R>
 bool scrivi(Archivio& archivio, RecordFile<R>& file, Conta conta, const std::vector<R>& records) {
     Tot tot = vuoto<Tot>();
-    tot.numero = breve(static_cast<int>(records.size()));
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (!file.scrivi(static_cast<int>(i) + 1, records[i]))
-            return false;
-    }
-    return archivio.scriviTot(conta, tot);
+    tot.numero = breve(quantiIn(records));
+    return scriviTutti(file, records) && archivio.scriviTot(conta, tot);
 }
 
 /// Writes an index: the key and number of each record, sorted by the upper-case key.
 template <class Indice, class R, class Chiave>
 bool indicizza(RecordFile<Indice>& file, const std::vector<R>& records, Chiave chiave) {
     std::vector<std::pair<QString, Indice>> voci;
-    for (std::size_t i = 0; i < records.size(); ++i) {
+    for (const R& record : records) {
         Indice voce;
-        const QString testo = chiave(records[i], voce, breve(static_cast<int>(i) + 1));
+        const QString testo = chiave(record, voce, breve(quantiIn(voci) + 1));
         voci.emplace_back(maiuscolo(testo), voce);
     }
     std::ranges::stable_sort(voci, {}, &std::pair<QString, Indice>::first);
-    for (std::size_t i = 0; i < voci.size(); ++i) {
-        if (!file.scrivi(static_cast<int>(i) + 1, voci[i].second))
-            return false;
-    }
-    return true;
+    std::vector<Indice> ordinate;
+    std::ranges::transform(voci, std::back_inserter(ordinate), &std::pair<QString, Indice>::second);
+    return scriviTutti(file, ordinate);
 }
 
 } // namespace
@@ -247,10 +251,8 @@ Anagrafiche leggiAnagrafiche(const QString& cartella, Problemi& problemi) {
 }
 
 bool scriviAnagrafiche(Archivio& archivio, const Anagrafiche& a) {
-    for (std::size_t i = 0; i < a.testi.size(); ++i) {
-        if (!archivio.prx.scrivi(static_cast<int>(i) + 1, a.testi[i]))
-            return false;
-    }
+    if (!scriviTutti(archivio.prx, a.testi))
+        return false;
     const auto nome = [](const Cli& cli, Src& voce, std::int16_t n) {
         // A deleted customer is found by his name, not by the mark before it.
         voce.chiave.set(cli.sede.ragione1.text().mid(cli.eliminato == 1 ? 1 : 0));

@@ -4,6 +4,7 @@
 #include "borcrea/registra.h"
 #include "borcrea/tabellatesto.h"
 #include "common/numeri.h"
+#include "common/portemute.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -18,30 +19,6 @@ namespace {
 const QString fileLogo = u"logo.png"_s;
 
 constexpr std::size_t clientiPerMisure = 1000;
-
-/// Ports for a run without anybody to talk to: what is worked out here asks nothing.
-class SenzaOperatore : public Operatore {
-public:
-    QStringList messaggi;
-
-    void messaggio(const QString& testo, const QString&, Icona) override { messaggi.append(testo); }
-    bool chiedi(const QString&, const QString&, Icona, Predefinita) override { return false; }
-    void attesa(bool) override {}
-    void lasciaEventi() override {}
-    QString scegliFile(const QString&, const QString&) override { return {}; }
-};
-
-class SenzaSistema : public Sistema {
-public:
-    int apri(const QString&) override { return 2; }
-    bool avvia(const QString&, const QStringList&) override { return false; }
-};
-
-class SenzaSchermi : public Navigatore {
-public:
-    void mostra(Schermo) override {}
-    void termina() override {}
-};
 
 /// The making of one company, in a drive of its own that becomes the real one at the end.
 class Cantiere {

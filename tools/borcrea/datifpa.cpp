@@ -2,6 +2,7 @@
 
 #include "borcrea/bianco.h"
 #include "borcrea/tabellatesto.h"
+#include "common/posti.h"
 
 #include <QFile>
 
@@ -94,7 +95,7 @@ std::optional<Fpa> leggiFpaAzienda(const QString& cartella, Problemi& problemi) 
             if (nomeCampo != campo)
                 return;
             trovato = true;
-            testo.set(riga.testo(u"valore", static_cast<int>(testo.bytes.size())));
+            testo.set(riga.testo(u"valore", quantiIn(testo.bytes)));
         });
         if (!trovato)
             riga.problema(u"campo: \"%1\" non esiste."_s.arg(campo));
@@ -111,9 +112,8 @@ QStringList colonneFpa() {
 
 Fpa leggiFpaDocumento(const RigaTabella& riga) {
     Fpa fpa = bianco<Fpa>();
-    campiDocumento(fpa, [&](QStringView nome, auto& testo) {
-        testo.set(riga.testo(nome, static_cast<int>(testo.bytes.size())));
-    });
+    campiDocumento(
+        fpa, [&](QStringView nome, auto& testo) { testo.set(riga.testo(nome, quantiIn(testo.bytes))); });
     return fpa;
 }
 

@@ -2,6 +2,7 @@
 
 #include "borcrea/tabellatesto.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/apridoc.h"
 #include "document/defaultcliente.h"
 #include "document/scadenze.h"
@@ -40,7 +41,7 @@ Riga leggiRiga(const RigaTabella& foglio, const Anagrafiche& a, const Cli& clien
         if (riga.recart == 0)
             foglio.problema(u"articolo: \"%1\" non è in articoli.csv."_s.arg(articolo));
         else
-            daArticolo(riga, a.articoli[static_cast<std::size_t>(riga.recart - 1)], cliente);
+            daArticolo(riga, elemento(a.articoli, riga.recart - 1), cliente);
     }
     if (!foglio.vuoto(u"descrizione"))
         riga.descrizione = foglio.testo(u"descrizione", 60);
@@ -74,7 +75,7 @@ struct Chiave {
 
 template <class T>
 void accoda(const RigaTabella& foglio, std::vector<T>& tabella, const T& riga, int massimo) {
-    if (static_cast<int>(tabella.size()) == massimo)
+    if (quantiIn(tabella) == massimo)
         foglio.problema(u"il documento ha più di %1 righe."_s.arg(massimo));
     else
         tabella.push_back(riga);
@@ -107,8 +108,8 @@ Righe leggiRighe(const QString& cartella, const Anagrafiche& a, const QHash<QStr
         const int cliente = chiavi.value(documento).cliente;
         if (cliente == 0)
             continue;
-        accoda(foglio, righe.merce[documento],
-               leggiRiga(foglio, a, a.clienti[static_cast<std::size_t>(cliente - 1)]), righeMerce);
+        accoda(foglio, righe.merce[documento], leggiRiga(foglio, a, elemento(a.clienti, cliente - 1)),
+               righeMerce);
     }
     const TabellaTesto parcelle(cartella, u"prestazioni.csv"_s,
                                 u"documento data descrizione spese anticipazioni onorari"_s.split(u' '),
@@ -147,7 +148,7 @@ void leggiTestata(const RigaTabella& foglio, Documento& d) {
     t.ora = foglio.testo(u"ora", 10);
     t.causale = foglio.intero(u"causale", 0, 40) - 1;
     t.aspetto = foglio.intero(u"aspetto", 0, 40) - 1;
-    t.spedizione = foglio.intero(u"spedizione", 0, 2);
+    t.spedizione = enumeratore<Mezzo>(foglio.intero(u"spedizione", 0, ordinale(Mezzo::Mittente)));
     Pratica& p = d.testata.pratica;
     p.ivaono = foglio.intero(u"ivaonorari", 1, righeIva, 1) - 1;
     p.ivaspe = foglio.intero(u"ivaspese", 1, righeIva, 1) - 1;

@@ -1,6 +1,7 @@
 // Stores and posts the documents of a new company, by the program's own procedures.
 #include "borcrea/registra.h"
 
+#include "common/date.h"
 #include "common/numeri.h"
 #include "document/filerighe.h"
 #include "document/recorddoc.h"
@@ -40,7 +41,7 @@ bool invecchia(Archivio& archivio, const Documento& d, bool conFile) {
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const QString vecchio =
-        u"ftr%1.a%2"_s.arg(testoDecimale(valore(d.estremi.numero)), pezzo(d.estremi.data, 9));
+        u"ftr%1.a%2"_s.arg(testoDecimale(valore(d.estremi.numero)), pezzo(d.estremi.data, postoAnnoBreve));
     return (!conFile ||
             archivio.disco().scriviFile(archivio.reale(archivio.file(vecchio)), allAntica(file.readAll()))) &&
            archivio.disco().elimina(percorso);
@@ -61,7 +62,7 @@ bool caricaGiacenze(Archivio& archivio, const std::vector<DocumentoPronto>& docu
         mag.data.set(QDate(giorno.year(), 1, 1).toString(u"yyyyMMdd"_s));
         mag.descrizione.set(u"Giacenza iniziale");
         mag.riferimento.blank();
-        mag.articolo = static_cast<std::int16_t>(n);
+        mag.articolo = breve(n);
         mag.quantita = art.giacenza;
         contatore.numero += 1;
         riuscito = archivio.mag.scrivi(contatore.numero, mag);
@@ -117,16 +118,15 @@ bool Registratore::scrivi(std::vector<DocumentoPronto>& documenti) {
     Tot fpa = vuoto<Tot>();
     if (!caricaGiacenze(m_contesto.archivio, documenti))
         return false;
-    for (std::size_t i = 0; i < documenti.size(); ++i) {
-        DocumentoPronto& pronto = documenti[i];
-        const int n = static_cast<int>(i) + 1;
+    int n = 0;
+    for (DocumentoPronto& pronto : documenti) {
+        ++n;
         if (!scrivi(pronto, n))
             return false;
-        tot.numero = static_cast<std::int16_t>(n);
-        tot.ultimonumero = static_cast<std::int16_t>(valoreIntero(pronto.documento.estremi.numero));
+        tot.numero = breve(n);
+        tot.ultimonumero = breve(valoreIntero(pronto.documento.estremi.numero));
         tot.progressivo = static_cast<float>(n);
-        fpa.numero =
-            std::max<std::int16_t>(fpa.numero, static_cast<std::int16_t>(pronto.documento.recordfpa));
+        fpa.numero = std::max<std::int16_t>(fpa.numero, breve(static_cast<int>(pronto.documento.recordfpa)));
     }
     return m_contesto.archivio.scriviTot(Conta::Fte, tot) && m_contesto.archivio.scriviTot(Conta::Fpa, fpa);
 }
@@ -139,14 +139,14 @@ bool ripetiDocumenti(Archivio& archivio, int quanti) {
         return true;
     for (int n = originali + 1; n <= quanti; ++n) {
         CoppiaFte coppia = archivio.leggi((n - 1) % originali + 1);
-        coppia.fte.cliente = static_cast<std::int16_t>((n - 1) % clienti + 1);
+        coppia.fte.cliente = breve((n - 1) % clienti + 1);
         coppia.fte.numero.set(QString::number(n));
         coppia.fte.stamp = coppia.fte.stamp + (n - (n - 1) % originali - 1) / 86400.0;
         coppia.fte.nfile = 0;
         if (!archivio.scrivi(n, coppia))
             return false;
     }
-    tot.numero = static_cast<std::int16_t>(quanti);
+    tot.numero = breve(quanti);
     tot.ultimonumero = tot.numero;
     return archivio.scriviTot(Conta::Fte, tot);
 }

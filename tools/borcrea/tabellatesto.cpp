@@ -1,6 +1,7 @@
 #include "borcrea/tabellatesto.h"
 
 #include "common/date.h"
+#include "common/posti.h"
 #include "common/testo.h"
 
 #include <QFile>
@@ -25,11 +26,10 @@ QStringList leggiLinee(const QString& percorso, const QString& nome, Problemi& p
     if (testo.endsWith(u'\n'))
         testo.chop(1);
     const QStringList linee = testo.split(u'\n');
-    for (qsizetype i = 0; i < linee.size(); ++i) {
+    for (int i = 0; i < linee.size(); ++i) {
         const auto estraneo = std::ranges::find_if_not(linee[i], inCodePage);
         if (estraneo != linee[i].end())
-            problemi.append({nome, static_cast<int>(i) + 1,
-                             u"il carattere \"%1\" non esiste nell'archivio."_s.arg(*estraneo)});
+            problemi.append({nome, i + 1, u"il carattere \"%1\" non esiste nell'archivio."_s.arg(*estraneo)});
     }
     return linee;
 }
@@ -105,8 +105,8 @@ TabellaTesto::TabellaTesto(const QString& cartella, const QString& nome, const Q
     if (!necessario && !QFile::exists(percorso))
         return;
     const QStringList linee = leggiLinee(percorso, nome, problemi);
-    for (qsizetype i = 0; i < linee.size(); ++i) {
-        const int numero = static_cast<int>(i) + 1;
+    for (int i = 0; i < linee.size(); ++i) {
+        const int numero = i + 1;
         if (linee[i].trimmed().isEmpty() || linee[i].startsWith(u'#'))
             continue;
         if (m_colonne == 0) {
@@ -121,7 +121,7 @@ TabellaTesto::TabellaTesto(const QString& cartella, const QString& nome, const Q
 
 void TabellaTesto::leggiIntestazione(int numero, const QString& linea, const QStringList& colonne) {
     const QStringList nomi = linea.split(u';');
-    m_colonne = static_cast<int>(nomi.size());
+    m_colonne = quantiIn(nomi);
     for (int i = 0; i < m_colonne; ++i) {
         const QString nome = nomi[i].trimmed();
         if (!colonne.contains(nome))

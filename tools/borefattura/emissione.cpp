@@ -1,5 +1,6 @@
 #include "borefattura/emissione.h"
 
+#include "common/portemute.h"
 #include "document/apridoc.h"
 #include "document/righeinsospeso.h"
 #include "fatturapa/generafattura.h"
@@ -13,31 +14,9 @@ namespace bor::emette {
 
 namespace {
 
-/// Ports for a run without anybody to talk to.
-class SenzaOperatore : public Operatore {
-public:
-    void messaggio(const QString&, const QString&, Icona) override {}
-    bool chiedi(const QString&, const QString&, Icona, Predefinita) override { return false; }
-    void attesa(bool) override {}
-    void lasciaEventi() override {}
-    QString scegliFile(const QString&, const QString&) override { return {}; }
-};
-
 class OrologioDiSistema : public Orologio {
 public:
     QDateTime adesso() const override { return QDateTime::currentDateTime(); }
-};
-
-class SenzaSistema : public Sistema {
-public:
-    int apri(const QString&) override { return 2; }
-    bool avvia(const QString&, const QStringList&) override { return false; }
-};
-
-class SenzaSchermi : public Navigatore {
-public:
-    void mostra(Schermo) override {}
-    void termina() override {}
 };
 
 /// Everything that documents are read with.

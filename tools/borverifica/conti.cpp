@@ -1,5 +1,6 @@
 #include "borverifica/verifica.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 
 #include <cmath>
 #include <unordered_map>
@@ -38,8 +39,8 @@ struct Spiegato {
 class PianoDeiConti {
 public:
     explicit PianoDeiConti(const Archivio& archivio)
-        : m_saldi(static_cast<std::size_t>(inUso(archivio, Conta::Con, archivio.con)) + 1) {
-        archivio.con.scorri(1, static_cast<int>(m_saldi.size()) - 1, [this](int n, const Con& conto) {
+        : m_saldi(postoDaZero(inUso(archivio, Conta::Con, archivio.con) + 1)) {
+        archivio.con.scorri(1, quantiIn(m_saldi) - 1, [this](int n, const Con& conto) {
             // Of two accounts with one code every posting takes the first.
             m_record.emplace(valore(conto.codice.text()), n);
             return true;
@@ -48,10 +49,10 @@ public:
     /// The account of a slot; none when it is not in the chart.
     Spiegato* cerca(const VoceGio& voce) {
         const auto trovato = m_record.find(valore(voce.conto.text()));
-        return trovato == m_record.end() ? nullptr : &m_saldi[static_cast<std::size_t>(trovato->second)];
+        return trovato == m_record.end() ? nullptr : &elemento(m_saldi, trovato->second);
     }
-    const Spiegato& saldo(int record) const { return m_saldi[static_cast<std::size_t>(record)]; }
-    int conti() const { return static_cast<int>(m_saldi.size()) - 1; }
+    const Spiegato& saldo(int record) const { return elemento(m_saldi, record); }
+    int conti() const { return quantiIn(m_saldi) - 1; }
 
 private:
     std::vector<Spiegato> m_saldi;

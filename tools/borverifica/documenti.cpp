@@ -1,4 +1,5 @@
 #include "borverifica/verifica.h"
+#include "common/posti.h"
 
 #include "archive/fpa.h"
 #include "common/numeri.h"
@@ -35,9 +36,9 @@ struct Confronto {
 Confronto confrontoPer(const Archivio& archivio, const ElencoFile& file) {
     Confronto c{archivio, {}, {}, {}, {}, {}};
     const int clienti = inUso(archivio, Conta::Cli, archivio.cli);
-    c.clientiEliminati.resize(static_cast<std::size_t>(clienti) + 1);
+    c.clientiEliminati.resize(postoDaZero(clienti + 1));
     archivio.cli.scorri(1, clienti, [&](int n, const Cli& cli) {
-        c.clientiEliminati[static_cast<std::size_t>(n)] = cli.eliminato == 1;
+        elemento(c.clientiEliminati, n) = cli.eliminato == 1;
         return true;
     });
     for (auto f = file.constKeyValueBegin(); f != file.constKeyValueEnd(); ++f)
@@ -49,7 +50,7 @@ void verificaCliente(Confronto& c, const Fte& fte, int n) {
     if (fte.cliente < 1 || fte.cliente >= std::ssize(c.clientiEliminati))
         c.aggiungi(Gravita::Errore, fte, n, u"il cliente %1 non c'è"_s.arg(fte.cliente),
                    Rimedio::ScegliCliente);
-    else if (c.clientiEliminati[static_cast<std::size_t>(fte.cliente)])
+    else if (elemento(c.clientiEliminati, int{fte.cliente}))
         c.aggiungi(Gravita::Informazione, fte, n, u"il cliente %1 è stato eliminato"_s.arg(fte.cliente),
                    Rimedio::Nessuno);
 }
@@ -166,11 +167,11 @@ Discordanze verificaDocumenti(const Archivio& archivio, const ElencoFile& file) 
     Confronto c = confrontoPer(archivio, file);
     const int documenti = inUso(archivio, Conta::Fte, archivio.fte);
     const int conF2e = inUso(archivio, Conta::Fte, archivio.f2e);
-    std::vector<F2e> code(static_cast<std::size_t>(documenti));
+    std::vector<F2e> code(postoDaZero(documenti));
     archivio.f2e.leggiBlocco(1, code);
     archivio.fte.scorri(1, documenti, [&](int n, const Fte& fte) {
         if (fte.annullata != 1)
-            verificaDocumento(c, fte, code[static_cast<std::size_t>(n - 1)], n, n <= conF2e);
+            verificaDocumento(c, fte, elemento(code, n - 1), n, n <= conF2e);
         return true;
     });
     verificaProgressivo(c);

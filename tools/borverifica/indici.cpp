@@ -1,4 +1,5 @@
 #include "borverifica/verifica.h"
+#include "common/posti.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +15,7 @@ QString posizione(QStringView estensione, int n) {
 class ControlloIndice {
 public:
     ControlloIndice(QStringView estensione, int records, Discordanze& trovate)
-        : m_estensione(estensione), m_visti(static_cast<std::size_t>(records) + 1), m_trovate(trovate) {}
+        : m_estensione(estensione), m_visti(postoDaZero(records + 1)), m_trovate(trovate) {}
 
     /// False when the entry points nowhere.
     bool voce(int n, const QString& chiave, int record) {
@@ -29,10 +30,10 @@ public:
             m_trovate.append({Gravita::Errore, posizione(m_estensione, n),
                               u"punta al record %1, che non c'è"_s.arg(record), Rimedio::RicostruisciIndici});
         else
-            m_visti[static_cast<std::size_t>(record)] = true;
+            elemento(m_visti, record) = true;
         return esiste;
     }
-    bool visto(int record) const { return m_visti[static_cast<std::size_t>(record)]; }
+    bool visto(int record) const { return elemento(m_visti, record); }
 
 private:
     QStringView m_estensione;
@@ -59,16 +60,16 @@ void verificaSrc(const Archivio& archivio, Discordanze& trovate) {
 
 void verificaSrb(const Archivio& archivio, Discordanze& trovate) {
     const int articoli = inUso(archivio, Conta::Art, archivio.art);
-    std::vector<QString> barcode(static_cast<std::size_t>(articoli) + 1);
+    std::vector<QString> barcode(postoDaZero(articoli + 1));
     archivio.art.scorri(1, articoli, [&](int n, const Art& art) {
-        barcode[static_cast<std::size_t>(n)] = maiuscolo(puliscitesto(art.barcode.text()));
+        elemento(barcode, n) = maiuscolo(puliscitesto(art.barcode.text()));
         return true;
     });
     ControlloIndice controllo(u"srb", articoli, trovate);
     archivio.srb.scorri(1, inUso(archivio, Conta::Art, archivio.srb), [&](int n, const Srb& voce) {
         const QString chiave = voce.barcode.text();
         if (controllo.voce(n, chiave, voce.recordart) &&
-            maiuscolo(puliscitesto(chiave)) != barcode[static_cast<std::size_t>(voce.recordart)])
+            maiuscolo(puliscitesto(chiave)) != elemento(barcode, int{voce.recordart}))
             trovate.append({Gravita::Avviso, posizione(u"srb", n),
                             u"l'articolo %1 ha un altro codice a barre"_s.arg(voce.recordart),
                             Rimedio::RicostruisciIndici});

@@ -1,4 +1,5 @@
 #include "borverifica/verifica.h"
+#include "common/posti.h"
 
 #include "archive/impostazioni.h"
 #include "common/numeri.h"
@@ -67,14 +68,14 @@ std::unordered_set<double> documentiVivi(const Archivio& archivio) {
 std::vector<Mosso> leggiRighe(const Archivio& archivio, int articoli, Discordanze& trovate) {
     const std::unordered_set<double> documenti = documentiVivi(archivio);
     const Valuta valuta = leggiValuta(archivio);
-    std::vector<Mosso> mossi(static_cast<std::size_t>(articoli) + 1);
+    std::vector<Mosso> mossi(postoDaZero(articoli + 1));
     archivio.mag.scorri(1, inUso(archivio, Conta::Mag, archivio.mag), [&](int n, const Mag& mag) {
         const bool vendita = collegato(mag.stampmag);
         const bool esiste = mag.articolo >= 1 && mag.articolo <= articoli;
         if (esiste && vendita)
-            contaVendita(mossi[static_cast<std::size_t>(mag.articolo)], mag, valuta);
+            contaVendita(elemento(mossi, int{mag.articolo}), mag, valuta);
         else if (esiste && mag.stampmag == 0.0)
-            contaAltra(mossi[static_cast<std::size_t>(mag.articolo)], mag);
+            contaAltra(elemento(mossi, int{mag.articolo}), mag);
         if (!vendita || mag.cancellato == 1)
             return true;
         const QString dove = u"riga di magazzino %1 (%2)"_s.arg(n).arg(puliscitesto(mag.riferimento.text()));
@@ -113,7 +114,7 @@ Discordanze verificaMagazzino(const Archivio& archivio) {
     const int articoli = inUso(archivio, Conta::Art, archivio.art);
     const std::vector<Mosso> mossi = leggiRighe(archivio, articoli, trovate);
     archivio.art.scorri(1, articoli, [&](int n, const Art& art) {
-        const Mosso& suo = mossi[static_cast<std::size_t>(n)];
+        const Mosso& suo = elemento(mossi, n);
         if (suo.conRighe || suo.conCarico)
             confronta(art, suo, trovate);
         return true;

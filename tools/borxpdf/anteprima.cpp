@@ -1,6 +1,7 @@
 #include "borxpdf/anteprima.h"
 
 #include "borxpdf/pdf.h"
+#include "common/posti.h"
 
 #include <QAction>
 #include <QLabel>
@@ -55,8 +56,7 @@ protected:
         const LayoutPdf& layout = m_documento.layout;
         pittore.scale(m_zoom * logicalDpiX() / kUnitaPollice, m_zoom * logicalDpiX() / kUnitaPollice);
         pittore.translate(-unitaDaMillimetri(layout.taglioSinistra), -unitaDaMillimetri(layout.taglioAlto));
-        m_documento.disegnatore.disegna(pittore,
-                                        m_documento.stampa.pagine[static_cast<std::size_t>(m_pagina)]);
+        m_documento.disegnatore.disegna(pittore, elemento(m_documento.stampa.pagine, m_pagina));
     }
 
 private:
