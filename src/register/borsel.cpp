@@ -68,8 +68,10 @@ std::vector<Borsel::Riga> Borsel::leggiClienti(int ultimo) const {
     const int letti = std::clamp(ultimo, 0, suFile);
     std::vector<Riga> clienti(postoDaZero(letti + 1));
     file.scorri(1, letti, [&clienti](int n, const Cli& cli) {
-        elemento(clienti, n) = {cli.sede.ragione1, cli.sede.ragione2,  cli.sede.indirizzo, cli.sede.citta,
-                                cli.partitaiva,    0, cli.eliminato != 0, {}};
+        elemento(clienti, n) = {cli.sede.ragione1,  cli.sede.ragione2,
+                                cli.sede.indirizzo, cli.sede.citta,
+                                cli.partitaiva,     0,
+                                cli.eliminato != 0, {}};
         return true;
     });
     return clienti;
