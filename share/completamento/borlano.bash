@@ -12,11 +12,11 @@ _borlano() {
     local parola=${COMP_WORDS[COMP_CWORD]} prima=${COMP_WORDS[COMP_CWORD - 1]} opzioni unita="" i
     case ${COMP_WORDS[0]##*/} in
     lanciatore) opzioni="--unita --azienda --dimostrazione --help --version" ;;
-    borcopia) opzioni="--unita --azienda --in --conserva --verifica --ripristina --elenca --avanzamento --aiuto --version" ;;
-    borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --version" ;;
-    borverifica) opzioni="--unita --azienda --json --aiuto --version" ;;
-    borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --version" ;;
-    borxmlcheck) opzioni="--json --mostra --html --aiuto --version" ;;
+    borcopia) opzioni="--unita --azienda --in --conserva --verifica --ripristina --elenca --avanzamento --aiuto --help --version" ;;
+    borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --help --version" ;;
+    borverifica) opzioni="--unita --azienda --json --aiuto --help --version" ;;
+    borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --help --version" ;;
+    borxmlcheck) opzioni="--json --mostra --html --aiuto --help --version" ;;
     borxpdf) opzioni="--anteprima --version" ;;
     *) return ;;
     esac
