@@ -57,7 +57,7 @@ private:
         int libera = m_elenco->viewport()->width();
         int parti = 0;
         for (int i = 0; i < std::ssize(m_colonne); ++i) {
-            const ColonnaGriglia& colonna = m_colonne[static_cast<std::size_t>(i)];
+            const ColonnaGriglia& colonna = elemento(m_colonne, i);
             if (diTesto(colonna))
                 parti += colonna.larghezza;
             else if (colonna.larghezza == ColonnaGriglia::elastica)
@@ -66,7 +66,7 @@ private:
                 libera -= punti(colonna.larghezza);
         }
         for (int i = 0; i < std::ssize(m_colonne); ++i) {
-            const ColonnaGriglia& colonna = m_colonne[static_cast<std::size_t>(i)];
+            const ColonnaGriglia& colonna = elemento(m_colonne, i);
             if (diTesto(colonna))
                 testata->resizeSection(
                     i, std::max(testata->sectionSizeHint(i), libera * colonna.larghezza / parti));

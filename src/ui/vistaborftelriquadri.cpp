@@ -45,7 +45,7 @@ constexpr std::array<ColonnaGriglia, 3> colonneRate = {{
     {u"Conto o banca", ColonnaGriglia::elastica},
 }};
 constexpr std::array<ColonnaGriglia, 2> colonneAltro = {{
-    {u"Dato", 2000},
+    {u"Dato", 1900},
     {u"Nel file", ColonnaGriglia::elastica},
 }};
 
