@@ -17,6 +17,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QLayout>
 #include <QScrollArea>
 #include <QTableView>
 #include <QTemporaryDir>
