@@ -288,8 +288,9 @@ double luminosita(const QColor& colore) {
 }
 
 double contrasto(const QColor& a, const QColor& b) {
-    const auto [piu, meno] = std::minmax(luminosita(a), luminosita(b), std::greater<>());
-    return (piu + 0.05) / (meno + 0.05);
+    const double diA = luminosita(a);
+    const double diB = luminosita(b);
+    return (std::max(diA, diB) + 0.05) / (std::min(diA, diB) + 0.05);
 }
 
 TEST(Tinte, SiLeggeTuttoSuChiaroESuScuro) {
