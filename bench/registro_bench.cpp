@@ -161,12 +161,15 @@ void Pavimento_CopiaDeiDueFile(benchmark::State& stato) {
     QFile::remove(azienda.percorso(u"copia"_s));
 }
 
-void RiordinoPerData(benchmark::State& stato) {
+/// By date and by number in turn: each time nearly every document moves.
+void Riordino(benchmark::State& stato) {
+    TipoRiordino tipo = TipoRiordino::PerNumero;
     for (auto _ : stato) {
         stato.PauseTiming();
         auto prova = std::make_unique<ContestoDiProva>(grande());
+        tipo = tipo == TipoRiordino::PerData ? TipoRiordino::PerNumero : TipoRiordino::PerData;
         stato.ResumeTiming();
-        const EsitoRiordino esito = riordina(prova->archivio, TipoRiordino::PerData, [](int) {});
+        const EsitoRiordino esito = riordina(prova->archivio, tipo, [](int) {});
         stato.PauseTiming();
         if (esito.fase != FaseRiordino::Riuscito)
             stato.SkipWithError("the reorder failed");
@@ -214,7 +217,7 @@ BENCHMARK(Ordinamento)->Arg(0)->Arg(4)->Arg(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(Pavimento_AvvioSenzaDocumenti)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(AvvioFinoAllElenco)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(Pavimento_CopiaDeiDueFile)->Unit(benchmark::kMillisecond);
-BENCHMARK(RiordinoPerData)->Unit(benchmark::kMillisecond);
+BENCHMARK(Riordino)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

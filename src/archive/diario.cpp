@@ -4,6 +4,8 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 namespace bor {
@@ -71,7 +73,7 @@ std::optional<QByteArrayView> corpo(QByteArrayView bytes) {
     if (!prendi(resto, indice) || indice.lunghezza > resto.size())
         return std::nullopt;
     const QByteArrayView coperti = bytes.first(qsizetype{sizeof(Indice)} + indice.lunghezza);
-    if (QCryptographicHash::hash(coperti.toByteArray(), algoritmo) !=
+    if (QCryptographicHash::hash(coperti, algoritmo) !=
         QByteArrayView(testa.impronta.data(), std::ssize(testa.impronta)))
         return std::nullopt;
     return coperti;
@@ -80,23 +82,32 @@ std::optional<QByteArrayView> corpo(QByteArrayView bytes) {
 } // namespace
 
 QByteArray codifica(const Diario& diario) {
-    QByteArray voci;
-    for (const VoceDiario& v : diario.voci) {
-        TestaVoce testa;
-        testa.file.set(fileDiRaffica[v.file].estensione);
-        testa.record = breve(v.record);
-        aggiungi(voci, testa);
-        voci += v.prima;
-        voci += v.dopo;
-    }
+    qsizetype lunghezza = 0;
+    for (const VoceDiario& v : diario.voci)
+        lunghezza += qsizetype{sizeof(TestaVoce)} + v.prima.size() + v.dopo.size();
+    Testa testa;
+    std::ranges::copy(marca, testa.marca.begin());
+    testa.impronta = {};
     Indice indice;
     indice.voci = static_cast<std::uint32_t>(diario.voci.size());
-    indice.lunghezza = static_cast<std::uint32_t>(voci.size());
+    indice.lunghezza = static_cast<std::uint32_t>(lunghezza);
     indice.documento.set(diario.documento);
-    QByteArray coperti;
-    aggiungi(coperti, indice);
-    coperti += voci;
-    return marca.toByteArray() + QCryptographicHash::hash(coperti, algoritmo) + coperti;
+    QByteArray bytes;
+    bytes.reserve(qsizetype{sizeof(Testa)} + qsizetype{sizeof(Indice)} + lunghezza);
+    aggiungi(bytes, testa);
+    aggiungi(bytes, indice);
+    for (const VoceDiario& v : diario.voci) {
+        TestaVoce voce;
+        voce.file.set(fileDiRaffica[v.file].estensione);
+        voce.record = static_cast<std::int16_t>(v.record);
+        aggiungi(bytes, voce);
+        bytes += v.prima;
+        bytes += v.dopo;
+    }
+    const QByteArray impronta =
+        QCryptographicHash::hash(QByteArrayView(bytes).sliced(sizeof(Testa)), algoritmo);
+    std::ranges::copy(impronta, bytes.begin() + offsetof(Testa, impronta));
+    return bytes;
 }
 
 std::optional<Diario> decodifica(QByteArrayView bytes) {
