@@ -248,7 +248,7 @@ std::optional<Appunti> leggiAppunti(const QString& copia) {
 
 EsitoLetturaCopia ripristina(const QString& copia, const Percorsi& percorsi, const Avanzamento& avanzamento) {
     EsitoLetturaCopia esito;
-    const QString cartella = percorsi.radiceCorrente();
+    const QString& cartella = percorsi.radiceCorrente();
     QDir meta(cartella);
     if (meta.exists() &&
         !meta.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
