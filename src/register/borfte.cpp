@@ -90,6 +90,7 @@ void Borfte::riordino(TipoRiordino tipo) {
     // The documents have other numbers now.
     m_recordCorrente = 0;
     m_contesto.sessione.ultimosalvato = 0;
+    m_scelta.dimentica();
     caricalista();
 }
 

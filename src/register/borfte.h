@@ -7,6 +7,7 @@
 #include "document/documento.h"
 #include "register/comandoriordino.h"
 #include "register/elencofatture.h"
+#include "register/sceltadocumenti.h"
 
 #include <optional>
 #include <unordered_map>
@@ -50,6 +51,13 @@ public:
     void ordina(Colonna colonna);
     /// The cell that has the operator's cursor; rows count from 0, as in `elenco()`.
     void cellaCorrente(int riga, Colonna colonna);
+    /// The rows that the operator has chosen, that of the cursor among them or not; blank filler rows do not
+    /// count.
+    void scegli(const std::vector<TrattoRighe>& righe) { m_scelta.scegli(m_elenco, righe); }
+    /// The rows of the chosen documents after a fill or a sort; those that left the list are no longer
+    /// chosen.
+    std::vector<TrattoRighe> righeScelte() { return m_scelta.ritrova(m_elenco); }
+    const std::vector<Identita>& scelti() const { return m_scelta.documenti(); }
     /// Double click on a cell: its PDF, or its document.
     void apri(int riga, Colonna colonna);
     /// Enter on a row: its document.
@@ -112,6 +120,7 @@ private:
     ComandoRiordino m_riordino;
     ElencoFatture m_elenco;
     SceltaVista m_scelte;
+    SceltaDocumenti m_scelta;
     int m_numero = 0; ///< documents counted when the counter was last read
     std::optional<int> m_primaRiga;
     int m_edizione = 0;

@@ -81,8 +81,8 @@ void ElencoFatture::aggiungi(int record, const Fte& fte, const F2e& f2e) {
     if (pdf)
         m_pdf.push_back(f2e.pdf);
     m_righe.push_back({fte.numero, fte.datareg, fte.datadoc, breve(record), fte.cliente,
-                       breve(pdf ? quantiIn(m_pdf) - 1 : -1), fte.nfile, fte.parcella != 0, f2e.fatturaPa(),
-                       fte.annullata == 1, totaleDocumento(fte, f2e)});
+                       breve(pdf ? quantiIn(m_pdf) - 1 : -1), fte.stamp, fte.nfile, fte.parcella != 0,
+                       f2e.fatturaPa(), fte.annullata == 1, totaleDocumento(fte, f2e)});
 }
 
 void ElencoFatture::leggiNomi(const Archivio& archivio) {
@@ -165,6 +165,13 @@ QString ElencoFatture::testo(const Riga& r, Colonna colonna, const Valuta& valut
 
 int ElencoFatture::record(int riga) const {
     return esiste(riga) ? mostrata(riga).record : 0;
+}
+
+Identita ElencoFatture::identita(int riga) const {
+    if (!esiste(riga))
+        return {};
+    const Riga& r = mostrata(riga);
+    return {r.record, r.numero, r.datadoc, r.cliente, r.stamp, r.nfile};
 }
 
 int ElencoFatture::rigaDi(int record) const {

@@ -5,6 +5,7 @@
 #include "archive/archivio.h"
 #include "common/posti.h"
 #include "common/valuta.h"
+#include "document/identita.h"
 
 #include <functional>
 #include <vector>
@@ -54,6 +55,8 @@ public:
     QString testo(int riga, Colonna colonna, const Valuta& valuta) const;
     /// Record number of a row; 0 for a row that does not exist.
     int record(int riga) const;
+    /// The document of a row; record 0 for a row that does not exist.
+    Identita identita(int riga) const;
     /// The row of a record; -1 when it is not in the list.
     int rigaDi(int record) const;
     bool haPdf(int riga) const;
@@ -70,6 +73,7 @@ private:
         std::int16_t record;
         std::int16_t cliente;
         std::int16_t pdf; ///< index in `m_pdf`; -1 none
+        double stamp;
         float nfile;
         bool parcella;
         bool pa;

@@ -98,6 +98,11 @@ int ModelloGriglia::columnCount(const QModelIndex& padre) const {
     return padre.isValid() ? 0 : quantiIn(m_colonne);
 }
 
+Qt::ItemFlags ModelloGriglia::flags(const QModelIndex& indice) const {
+    const bool riempitiva = m_celle.scegliibili && indice.row() >= m_celle.scegliibili();
+    return riempitiva ? Qt::ItemFlags(Qt::ItemIsEnabled) : QAbstractTableModel::flags(indice);
+}
+
 QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
     if (!indice.isValid())
         return {};

@@ -32,6 +32,8 @@ struct CelleGriglia {
     /// What is to be known of a row, which then bears a mark at the column `segnata`; without it no row does.
     std::function<QString(int riga)> nota = {};
     int segnata = 0;
+    /// Rows that may be chosen, the first ones; without it all may.
+    std::function<int()> scegliibili = {};
 };
 
 class ModelloGriglia : public QAbstractTableModel {
@@ -44,6 +46,7 @@ public:
 
     int rowCount(const QModelIndex& padre = {}) const override;
     int columnCount(const QModelIndex& padre = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& indice) const override;
     QVariant data(const QModelIndex& indice, int ruolo) const override;
     QVariant headerData(int sezione, Qt::Orientation orientamento, int ruolo) const override;
 

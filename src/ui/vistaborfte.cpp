@@ -8,6 +8,7 @@
 #include "ui/finestrainformazioni.h"
 #include "ui/flusso.h"
 #include "ui/griglia.h"
+#include "ui/sceltarighe.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -80,7 +81,8 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
           {[&form] { return form.righeGriglia(); },
            [&form](int riga, int colonna) { return form.testo(riga, enumeratore<Colonna>(colonna)); },
            [&form](int riga, int colonna) { return form.colore(riga, enumeratore<Colonna>(colonna)); },
-           [&form](int riga) { return form.nota(riga); }, ordinale(Colonna::Numero)},
+           [&form](int riga) { return form.nota(riga); }, ordinale(Colonna::Numero),
+           [&form] { return form.elenco().quante(); }},
           this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
@@ -151,6 +153,9 @@ QWidget* VistaBorfte::creaElenco() {
     m_elenco->setAccessibleName(u"Registro delle fatture emesse"_s);
     m_elenco->setModel(m_modello);
     preparaElenco(m_elenco, colonne, [this] { return m_form.elenco().quante(); });
+    m_scelta = new SceltaRighe(
+        m_elenco, [this] { return m_form.elenco().quante(); },
+        [this](const std::vector<TrattoRighe>& righe) { m_form.scegli(righe); });
     connect(m_elenco, &QTableView::doubleClicked, this, [this](const QModelIndex& cella) {
         legami.esegui([&] { m_form.apri(cella.row(), enumeratore<Colonna>(cella.column())); });
     });
@@ -296,7 +301,7 @@ void VistaBorfte::aggiornaElenco() {
     const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
     const QModelIndex cella = m_modello->index(corrente, ordinale(Colonna::DataRegistrazione));
-    m_elenco->setCurrentIndex(cella);
+    m_scelta->rimetti(cella, m_form.righeScelte());
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));
     if (!prima)
         m_elenco->scrollTo(cella);

@@ -13,6 +13,7 @@ class Borfte;
 class CampoTesto;
 class Flusso;
 class ModelloGriglia;
+class SceltaRighe;
 
 class VistaBorfte : public Vista {
 public:
@@ -40,6 +41,7 @@ private:
     ModelloGriglia* m_modello;
     QLabel* m_nota = nullptr;
     QTableView* m_elenco = nullptr;
+    SceltaRighe* m_scelta = nullptr;
     CampoTesto* m_cerca = nullptr;
     int m_edizione = -1;
 };

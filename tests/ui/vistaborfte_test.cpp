@@ -147,6 +147,52 @@ TEST_F(VistaRegistroTest, InvioApreIlDocumentoEInizioEFineVannoAgliEstremi) {
     EXPECT_TRUE(griglia->viewport()->rect().contains(griglia->visualRect(griglia->model()->index(29, 0))));
 }
 
+TEST_F(VistaRegistroTest, SiScelgonoPiuDocumentiCheRestanoQuelli) {
+    const auto scelti = [this] {
+        QList<int> record;
+        for (const Identita& scelto : form->scelti())
+            record.append(scelto.record);
+        return record;
+    };
+    EXPECT_EQ(scelti(), QList{1});
+    tasto(*vista, Qt::Key_Down);
+    tasto(*vista, Qt::Key_Down, Qt::ShiftModifier);
+    tasto(*vista, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(scelti(), (QList{2, 3, 4}));
+    QTest::mouseClick(griglia->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      griglia->visualRect(griglia->model()->index(6, 4)).center());
+    EXPECT_EQ(scelti(), (QList{2, 3, 4, 7}));
+    // By customer the even ones come first; the rows move, the documents stay. Ctrl, held for the sort, does
+    // not turn the cursor's row over.
+    tasto(*vista, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(scelti(), (QList{2, 4, 3, 7}));
+    EXPECT_EQ(griglia->selectionModel()->selectedRows().size(), 4);
+    EXPECT_TRUE(griglia->selectionModel()->isRowSelected(0));
+
+    // Another program has meanwhile put another document into the place of number 4.
+    prova->archivio.fte.scrivi(4, documentoDi(1, QStringLiteral("99"), 1, 0).fte);
+    tasto(*vista, Qt::Key_F5);
+    EXPECT_EQ(scelti(), (QList{2, 3, 7}));
+    tasto(*vista, Qt::Key_Home);
+    EXPECT_EQ(scelti(), QList{1});
+    tasto(*vista, Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(scelti().size(), 30);
+}
+
+TEST_F(VistaRegistroTest, TuttiSonoQuelliCercatiSenzaLeRigheVuote) {
+    tasto(*vista, Qt::Key_F, Qt::ControlModifier);
+    scrivi(*vista, QStringLiteral("edith"));
+    tasto(*vista, Qt::Key_Down);
+    griglia->setCurrentIndex(griglia->model()->index(20, 0));
+    EXPECT_TRUE(form->scelti().empty()) << "a blank row";
+    tasto(*vista, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(form->scelti().size(), 15U);
+    EXPECT_EQ(form->scelti().front().record, 2);
+    tasto(*vista, Qt::Key_Escape);
+    EXPECT_EQ(form->scelti().size(), 15U);
+    EXPECT_EQ(griglia->selectionModel()->selectedRows().size(), 15);
+}
+
 TEST_F(VistaRegistroTest, SiCercaScrivendoEdEscRimetteTutto) {
     tasto(*vista, Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(fuoco(*vista), QStringLiteral("cerca"));
