@@ -64,9 +64,10 @@ QString ultimoProgressivo(const FileFel& file) {
     for (const QString& sezione : file.sezioni()) {
         if (!sezione.startsWith(prefissoDocumento))
             continue;
-        const QString suo = file.valore(sezione, u"file");
-        if (progressivoValido(suo))
-            ultimo = std::max(ultimo, suo);
+        const QString suoi = file.valore(sezione, u"file") + u' ' + file.valore(sezione, u"scartati");
+        for (const QStringView suo : QStringView(suoi).split(u' '))
+            if (progressivoValido(suo))
+                ultimo = std::max(ultimo, suo.toString());
     }
     return ultimo;
 }
@@ -172,6 +173,7 @@ bool ArchivioFel::salva(const Fte& fte, const DocumentoFel& documento) {
         const QString sezione = sezioneDocumento(fte);
         DocumentoFel nuovo = documento;
         nuovo.file = file.valore(sezione, u"file"); // never taken back by an edit
+        nuovo.scartati = file.valore(sezione, u"scartati");
         scriviCampi(file, sezione, nuovo);
         return true;
     });
@@ -203,6 +205,18 @@ QStringList ArchivioFel::progressivi(std::span<const Fte> documenti, const Occup
         dati.clear();
     dati.resize(std::ssize(documenti));
     return dati;
+}
+
+bool ArchivioFel::scarta(const Fte& fte) {
+    return cambia([&](FileFel& file) {
+        const QString sezione = sezioneDocumento(fte);
+        const QString dato = file.valore(sezione, u"file");
+        if (dato.isEmpty())
+            return false;
+        file.metti(sezione, u"scartati", (file.valore(sezione, u"scartati") + u' ' + dato).trimmed());
+        file.metti(sezione, u"file", {});
+        return true;
+    });
 }
 
 QString ArchivioFel::progressivo(const Fte& fte, const Occupato& occupato) {

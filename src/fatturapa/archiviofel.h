@@ -41,6 +41,9 @@ public:
     /// all of them when they could not be stored.
     QStringList progressivi(std::span<const Fte> documenti, const Occupato& occupato);
     QString progressivo(const Fte& fte, const Occupato& occupato);
+    /// The receiving system has refused the document's file. It takes no name twice, also of a refused file:
+    /// the document goes without one until the next is given out. False when that could not be stored.
+    bool scarta(const Fte& fte);
 
 private:
     bool cambia(const std::function<bool(FileFel&)>& come);

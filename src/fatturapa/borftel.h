@@ -79,6 +79,8 @@ public:
     bool registra();
     /// Stores what was typed and writes the file.
     void genera();
+    /// The receiving system has refused the file: on request the next one gets a new name.
+    void scartata();
     /// There is a file on disk.
     bool generato() const { return m_suDisco != FileDocumento::Assente; }
     /// Path on this machine of the document's file; empty as long as it has no name.

@@ -1,6 +1,8 @@
 // The command bar of the screen of today's electronic invoice.
 #include "fatturapa/borftel.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -65,6 +67,30 @@ void Borftel::racconta(const EsitoFel& esito) {
         m_contesto.operatore.messaggio(u"La fattura elettronica non è stata generata.\n\n%1"_s.arg(motivo),
                                        titoloForm, Icona::Stop);
     m_fuoco = postoDi(*primo);
+}
+
+void Borftel::scartata() {
+    if (!m_generatore || !registra() || !generato())
+        return;
+    const QString file = QFileInfo(percorso()).fileName();
+    const bool scartata = m_contesto.operatore.chiedi(
+        u"Il sistema di interscambio ha scartato il file %1?\n\nAnche il nome di un file scartato vale una "
+        u"volta "
+        u"sola: il prossimo file del documento ne avrà uno nuovo, e questo resta nella cartella come "
+        u"%1.scartata. Per un file accettato, o non ancora trasmesso, rispondere No."_s.arg(file),
+        titoloForm, Icona::Domanda, Predefinita::No);
+    if (!scartata)
+        return;
+    const GeneratoreFel::Scarto esito = m_generatore->scarta(m_registrato);
+    rileggi();
+    if (esito == GeneratoreFel::Scarto::NonScritto)
+        m_contesto.operatore.messaggio(
+            u"Il nome non è cambiato: il file borlano.fel dell'azienda non si può scrivere."_s, titoloForm,
+            Icona::Stop);
+    else if (esito == GeneratoreFel::Scarto::FileRimasto)
+        m_contesto.operatore.messaggio(u"Il prossimo file avrà un nome nuovo, ma %1 non si è potuto "
+                                       u"rinominare: toglierlo dalla cartella a mano."_s.arg(file),
+                                       titoloForm, Icona::Esclamazione);
 }
 
 QString Borftel::percorso() const {

@@ -34,9 +34,10 @@ struct ClienteFel {
 
 /// Dates are "dd/mm/yyyy". Empty is the proposal that the document itself makes.
 struct DocumentoFel {
-    QString file;            ///< progressive of the file's name, given out once and never changed
-    QString tipo;            ///< "TD01" to "TD29"
-    QString bollo;           ///< "SI" stamp duty, "NO" none; empty: by the exempt amounts
+    QString file;     ///< progressive of the file's name, given out once
+    QString scartati; ///< progressives of refused files, with blanks between them: never given out again
+    QString tipo;     ///< "TD01" to "TD29"
+    QString bollo;    ///< "SI" stamp duty, "NO" none; empty: by the exempt amounts
     QString collegatanumero; ///< invoice that a credit note corrects
     QString collegatadata;
     QString ordinenumero; ///< purchase order; empty: the order of the head
@@ -80,6 +81,7 @@ void campiFel(ClienteFel& c, F f) {
 template <class F>
 void campiFel(DocumentoFel& d, F f) {
     f(u"file", d.file);
+    f(u"scartati", d.scartati);
     f(u"tipo", d.tipo);
     f(u"bollo", d.bollo);
     f(u"collegatanumero", d.collegatanumero);

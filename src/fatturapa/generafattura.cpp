@@ -202,6 +202,13 @@ EsitoFel GeneratoreFel::emetti(const Documento& documento, Composta composta,
     return esito;
 }
 
+GeneratoreFel::Scarto GeneratoreFel::scarta(const Documento& documento) {
+    const QString file = percorso(documento);
+    if (!m_propri.scarta(documento.coppia.fte))
+        return Scarto::NonScritto;
+    return QFile::rename(file, file + u".scartata"_s) ? Scarto::Fatto : Scarto::FileRimasto;
+}
+
 GeneratoreFel GeneratoreFel::perAzienda(Contesto& contesto, const QString& cartellaPdf) {
     GeneratoreFel generatore(contesto, {});
     const QString propria = generatore.m_azienda ? generatore.m_azienda->cartellaxml.trimmed() : QString();

@@ -54,6 +54,12 @@ public:
     /// The same for many. All their names are stored in one write, before the first of them is used.
     std::vector<EsitoFel> genera(std::span<const Documento> documenti);
 
+    enum class Scarto { Fatto, NonScritto, FileRimasto };
+    /// The receiving system has refused the document's file: the file gets `.scartata` behind its name, and
+    /// the next one a new name. `NonScritto`: nothing has changed. `FileRimasto`: only the file keeps its
+    /// name.
+    Scarto scarta(const Documento& documento);
+
     /// Folder of this machine; empty when the company names none of the program.
     const QString& cartella() const { return m_cartella; }
     /// Of the document's file on this machine; empty as long as it has no name.

@@ -3,7 +3,7 @@
 #include "common/date.h"
 #include "common/numeri.h"
 #include "fatturapa/scrivifattura.h"
-#include "fatturapa/vocifel.h"
+#include "xmlcheck/codicifattura.h"
 
 #include <cmath>
 
@@ -83,7 +83,7 @@ void mettiCampi(UscitaFel& u, const FatturaElettronica& f) {
     for (const LineaFel& l : f.linee)
         if (!l.intento.isEmpty())
             in[Intento] = l.intento;
-    in[Tipo] = voceFel(ListaFel::TipoDocumento, f.tipo);
+    in[Tipo] = codiceInParole(ListaCodici::TipoEmesso, f.tipo);
     in[Bollo] = f.bollo ? importo(*f.bollo) : u"nessuno"_s;
     in[Collegata] = primo(f.collegate);
     in[Ordine] = primo(f.ordini);
@@ -91,10 +91,11 @@ void mettiCampi(UscitaFel& u, const FatturaElettronica& f) {
     mettiCodici(u, f);
     in[Ddt] = f.ddt.empty() ? QString() : riferimento(f.ddt.front().numero, f.ddt.front().data);
     if (!f.ritenute.empty()) {
-        in[TipoRitenuta] = voceFel(ListaFel::TipoRitenuta, f.ritenute.front().tipo);
-        in[CausaleRitenuta] = voceFel(ListaFel::CausaleRitenuta, f.ritenute.front().causale);
+        in[TipoRitenuta] = codiceInParole(ListaCodici::TipoRitenuta, f.ritenute.front().tipo);
+        in[CausaleRitenuta] = codiceInParole(ListaCodici::CausaleRitenuta, f.ritenute.front().causale);
     }
-    in[Modalita] = f.pagamento.rate.empty() ? QString() : voceFel(ListaFel::Modalita, f.pagamento.modalita);
+    in[Modalita] =
+        f.pagamento.rate.empty() ? QString() : codiceInParole(ListaCodici::Modalita, f.pagamento.modalita);
     in[Iban] = f.pagamento.iban;
 }
 
@@ -128,7 +129,7 @@ void mettiAltro(UscitaFel& u, const FatturaElettronica& f) {
     voce(u"Totale documento"_s, importo(f.totale));
     for (const CassaFel& c : f.casse)
         voce(u"Cassa"_s,
-             u"%1, %2% di %3: %4"_s.arg(voceFel(ListaFel::Cassa, c.tipo), testoDecimale(c.aliquota),
+             u"%1, %2% di %3: %4"_s.arg(codiceInParole(ListaCodici::Cassa, c.tipo), testoDecimale(c.aliquota),
                                         importo(c.imponibile), importo(c.importo)));
     for (const RitenutaFel& r : f.ritenute)
         voce(u"Ritenuta"_s, u"%1, %2%: %3, causale %4"_s.arg(r.tipo, importoLungo(r.aliquota),

@@ -85,6 +85,10 @@ QWidget* VistaBorftel::creaComandi() {
     legami.abilitato(copia, [this] { return m_form.generato(); });
     barra->comando(u"cartella"_s, u"Apri la cartella"_s, u"cartella"_s, u"F6"_s,
                    [this] { m_form.apriCartella(); });
+    barra->spazio();
+    auto* scartata = barra->comando(u"scartata"_s, u"File scartato"_s, u"togli"_s, u"F11"_s,
+                                    [this] { m_form.scartata(); });
+    legami.abilitato(scartata, [this] { return m_form.generato(); });
     return barra;
 }
 

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "fatturapa/borftel.h"
-#include "fatturapa/vocifel.h"
 #include "ui/campilegati.h"
 #include "ui/griglia.h"
 #include "ui/vista.h"
+#include "xmlcheck/codicifattura.h"
 
 #include <array>
 #include <map>
@@ -57,7 +57,7 @@ private:
     QWidget* spunta(const QString& nome, const QString& didascalia, Passi... passi);
     /// A list of codes with `niente` above them, for none.
     template <class... Passi>
-    QComboBox* lista(const QString& nome, const QString& didascalia, ListaFel voci, const QString& niente,
+    QComboBox* lista(const QString& nome, const QString& didascalia, ListaCodici voci, const QString& niente,
                      Passi... passi);
     /// Caption, fields side by side, and below the findings.
     void riga(QGridLayout* griglia, PostoFel posto, const std::vector<QWidget*>& campi);

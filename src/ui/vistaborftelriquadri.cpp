@@ -66,23 +66,23 @@ void chiudi(QGridLayout* griglia) {
     griglia->setRowStretch(griglia->rowCount(), 1);
 }
 
-QStringList vociDi(ListaFel lista, const QString& niente) {
+QStringList vociDi(ListaCodici lista, const QString& niente) {
     QStringList testi{niente};
-    for (const VoceFel& voce : vociFel(lista))
-        testi.append(voceFel(lista, voce.codice));
+    for (const VoceCodice& voce : vociCodici(lista))
+        testi.append(codiceInParole(lista, voce.codice));
     return testi;
 }
 
 /// Position in a list whose first row is for none; -1 for a code that it does not have.
-int posizioneDi(ListaFel lista, const QString& codice) {
-    const auto voci = vociFel(lista);
-    const auto trovata = std::ranges::find(voci, QStringView(codice), &VoceFel::codice);
+int posizioneDi(ListaCodici lista, const QString& codice) {
+    const auto voci = vociCodici(lista);
+    const auto trovata = std::ranges::find(voci, QStringView(codice), &VoceCodice::codice);
     return codice.isEmpty() ? 0 : trovata == voci.end() ? -1 : static_cast<int>(trovata - voci.begin()) + 1;
 }
 
-QString codiceA(ListaFel lista, int posizione) {
+QString codiceA(ListaCodici lista, int posizione) {
     return posizione <= 0 ? QString()
-                          : vociFel(lista)[static_cast<std::size_t>(posizione - 1)].codice.toString();
+                          : vociCodici(lista)[static_cast<std::size_t>(posizione - 1)].codice.toString();
 }
 
 } // namespace
@@ -107,7 +107,7 @@ QWidget* VistaBorftel::spunta(const QString& nome, const QString& didascalia, Pa
 }
 
 template <class... Passi>
-QComboBox* VistaBorftel::lista(const QString& nome, const QString& didascalia, ListaFel voci,
+QComboBox* VistaBorftel::lista(const QString& nome, const QString& didascalia, ListaCodici voci,
                                const QString& niente, Passi... passi) {
     const Legame<QString> dato = legame(m_form, passi...);
     auto* scelta =
@@ -258,7 +258,7 @@ QWidget* VistaBorftel::creaPagamento() {
     auto* gruppo = new QGroupBox(u"Pagamento"_s);
     auto* griglia = grigliaIn(gruppo);
     rigaConUscita(griglia, PostoFel::Modalita,
-                  {lista(u"modalita"_s, nomePosto(PostoFel::Modalita), ListaFel::Modalita,
+                  {lista(u"modalita"_s, nomePosto(PostoFel::Modalita), ListaCodici::Modalita,
                          u"come il documento"_s, &DatiFel::documento, &DocumentoFel::modalita)});
     auto* rate = tabella(u"rate"_s, u"Scadenze nel file"_s, colonneRate, &UscitaFel::rate);
     m_posti[PostoFel::Pagamento] = rate;
@@ -284,7 +284,7 @@ QWidget* VistaBorftel::creaDati() {
             {testo(nome + u"numero"_s, nomePosto(posto) + u", numero"_s, 20, &DatiFel::documento, numero),
              data(nome + u"data"_s, nomePosto(posto) + u", data"_s, &DatiFel::documento, giorno)});
     };
-    const auto scelta = [&](PostoFel posto, const QString& nome, ListaFel voci, const QString& niente,
+    const auto scelta = [&](PostoFel posto, const QString& nome, ListaCodici voci, const QString& niente,
                             QString DocumentoFel::*dato) {
         rigaConUscita(griglia, posto,
                       {lista(nome, nomePosto(posto), voci, niente, &DatiFel::documento, dato)});
@@ -292,9 +292,9 @@ QWidget* VistaBorftel::creaDati() {
     const auto codice = [&](PostoFel posto, const QString& nome, QString DocumentoFel::*dato) {
         rigaConUscita(griglia, posto, {testo(nome, nomePosto(posto), 15, &DatiFel::documento, dato)});
     };
-    scelta(Tipo, u"tipo"_s, ListaFel::TipoDocumento, u"secondo il documento"_s, &DocumentoFel::tipo);
+    scelta(Tipo, u"tipo"_s, ListaCodici::TipoEmesso, u"secondo il documento"_s, &DocumentoFel::tipo);
     m_posti[Documento] = m_posti[Tipo];
-    scelta(Bollo, u"bollo"_s, ListaFel::Bollo, u"secondo gli importi esenti"_s, &DocumentoFel::bollo);
+    scelta(Bollo, u"bollo"_s, ListaCodici::Bollo, u"secondo gli importi esenti"_s, &DocumentoFel::bollo);
     numeroEData(Collegata, u"collegata"_s, &DocumentoFel::collegatanumero, &DocumentoFel::collegatadata);
     numeroEData(Ordine, u"ordine"_s, &DocumentoFel::ordinenumero, &DocumentoFel::ordinedata);
     numeroEData(Contratto, u"contratto"_s, &DocumentoFel::contrattonumero, &DocumentoFel::contrattodata);
@@ -303,9 +303,9 @@ QWidget* VistaBorftel::creaDati() {
     riga(
         griglia, Ddt,
         {data(u"ddtdata"_s, u"Documento di trasporto, data"_s, &DatiFel::documento, &DocumentoFel::ddtdata)});
-    scelta(TipoRitenuta, u"tiporitenuta"_s, ListaFel::TipoRitenuta, u"come l'azienda"_s,
+    scelta(TipoRitenuta, u"tiporitenuta"_s, ListaCodici::TipoRitenuta, u"come l'azienda"_s,
            &DocumentoFel::tiporitenuta);
-    scelta(CausaleRitenuta, u"causaleritenuta"_s, ListaFel::CausaleRitenuta, u"come l'azienda"_s,
+    scelta(CausaleRitenuta, u"causaleritenuta"_s, ListaCodici::CausaleRitenuta, u"come l'azienda"_s,
            &DocumentoFel::causaleritenuta);
     chiudi(griglia);
     chiudiPercorso(Prospetto::Documento);
@@ -357,21 +357,22 @@ QWidget* VistaBorftel::creaDatiAzienda() {
     m_posti[Azienda] = m_posti[Iban];
     riga(griglia, Pdf, {spunta(u"allegapdf"_s, nomePosto(Pdf), &DatiFel::azienda, &AziendaFel::allegapdf)});
     riga(griglia, Cassa,
-         {lista(u"cassacp"_s, nomePosto(Cassa), ListaFel::Cassa, u"TC22 INPS, se non si sceglie"_s,
+         {lista(u"cassacp"_s, nomePosto(Cassa), ListaCodici::Cassa, u"TC22 INPS, se non si sceglie"_s,
                 &DatiFel::azienda, &AziendaFel::cassacp)});
     const QString cassaci = u"Cassa del contributo C.I."_s;
-    rigaSola(griglia, cassaci,
-             lista(u"cassaci"_s, cassaci, ListaFel::Cassa, nessuna, &DatiFel::azienda, &AziendaFel::cassaci));
+    rigaSola(
+        griglia, cassaci,
+        lista(u"cassaci"_s, cassaci, ListaCodici::Cassa, nessuna, &DatiFel::azienda, &AziendaFel::cassaci));
     riga(griglia, NaturaCi,
-         {lista(u"naturaci"_s, nomePosto(NaturaCi), ListaFel::Natura, nessuna, &DatiFel::azienda,
+         {lista(u"naturaci"_s, nomePosto(NaturaCi), ListaCodici::Natura, nessuna, &DatiFel::azienda,
                 &AziendaFel::naturaci)});
     const QString tipo = u"Tipo di ritenuta solito"_s;
     const QString causale = u"Causale di ritenuta solita"_s;
     rigaSola(griglia, tipo,
-             lista(u"azienda.tiporitenuta"_s, tipo, ListaFel::TipoRitenuta, u"persona fisica o giuridica"_s,
-                   &DatiFel::azienda, &AziendaFel::tiporitenuta));
+             lista(u"azienda.tiporitenuta"_s, tipo, ListaCodici::TipoRitenuta,
+                   u"persona fisica o giuridica"_s, &DatiFel::azienda, &AziendaFel::tiporitenuta));
     rigaSola(griglia, causale,
-             lista(u"azienda.causaleritenuta"_s, causale, ListaFel::CausaleRitenuta, nessuna,
+             lista(u"azienda.causaleritenuta"_s, causale, ListaCodici::CausaleRitenuta, nessuna,
                    &DatiFel::azienda, &AziendaFel::causaleritenuta));
     chiudi(griglia);
     return gruppo;
@@ -386,7 +387,7 @@ QWidget* VistaBorftel::creaNature() {
     griglia->addWidget(rilievi(PostoFel::Nature), 0, 0, 1, 2);
     for (int codice = 1; codice <= CodiceIva::ultimo; ++codice) {
         auto* natura = lista(u"natura(%1)"_s.arg(codice), u"Natura del codice IVA %1"_s.arg(codice),
-                             ListaFel::Natura, u"secondo la suite"_s, &DatiFel::nature, codice);
+                             ListaCodici::Natura, u"secondo la suite"_s, &DatiFel::nature, codice);
         auto* nome = new QLabel;
         nome->setTextFormat(Qt::PlainText);
         nome->setWordWrap(true);

@@ -2,10 +2,10 @@
 
 #include "common/date.h"
 #include "common/numeri.h"
+#include "xmlcheck/codicifattura.h"
 #include "xmlcheck/controllifattura.h"
 #include "xmlcheck/paginahtml.h"
 
-#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -20,17 +20,8 @@ constexpr int vociMassime = 4000;
 constexpr qsizetype righeMassime = 2000;
 
 QString tipoInParole(const QString& codice) {
-    static const QHash<QString, QString> nomi = {{u"TD01"_s, u"Fattura"_s},
-                                                 {u"TD02"_s, u"Acconto su fattura"_s},
-                                                 {u"TD03"_s, u"Acconto su parcella"_s},
-                                                 {u"TD04"_s, u"Nota di credito"_s},
-                                                 {u"TD05"_s, u"Nota di debito"_s},
-                                                 {u"TD06"_s, u"Parcella"_s},
-                                                 {u"TD24"_s, u"Fattura differita"_s},
-                                                 {u"TD25"_s, u"Fattura differita (triangolare)"_s},
-                                                 {u"TD26"_s, u"Cessione di beni ammortizzabili"_s},
-                                                 {u"TD27"_s, u"Autoconsumo o cessione gratuita"_s}};
-    return nomi.value(codice, u"Documento %1"_s.arg(codice));
+    const QString testo = testoCodice(ListaCodici::TipoDocumento, codice);
+    return testo.isEmpty() ? u"Documento %1"_s.arg(codice) : testo;
 }
 
 QString unisci(const QStringList& parti, const QString& fra) {
@@ -67,7 +58,7 @@ void mostraSoggetto(PaginaHtml& pagina, const QString& titolo, const Nodo* sogge
         if (const Nodo* id = dati->figlio(u"IdFiscaleIVA"))
             pagina.voce(u"Partita IVA"_s, id->valore(u"IdPaese") + u' ' + id->valore(u"IdCodice"));
         pagina.voce(u"Codice fiscale"_s, dati->valore(u"CodiceFiscale"));
-        pagina.voce(u"Regime fiscale"_s, dati->valore(u"RegimeFiscale"));
+        pagina.voce(u"Regime fiscale"_s, codiceInParole(ListaCodici::Regime, dati->valore(u"RegimeFiscale")));
     }
     if (const Nodo* sede = soggetto->figlio(u"Sede"))
         pagina.voce(u"Sede"_s, indirizzoDi(*sede));
@@ -172,15 +163,18 @@ void mostraDocumento(PaginaHtml& pagina, const Nodo& corpo) {
         else if (n.nome == u"DatiBollo")
             pagina.voce(u"Bollo"_s, numeroItaliano(n.valore(u"ImportoBollo")));
         else if (n.nome == u"DatiRitenuta")
-            pagina.voce(u"Ritenuta"_s, u"%1 (%2%, %3, causale %4)"_s.arg(
-                                           numeroItaliano(n.valore(u"ImportoRitenuta")),
-                                           numeroItaliano(n.valore(u"AliquotaRitenuta")),
-                                           n.valore(u"TipoRitenuta"), n.valore(u"CausalePagamento")));
+            pagina.voce(u"Ritenuta"_s,
+                        u"%1 (%2%, %3, causale %4)"_s.arg(
+                            numeroItaliano(n.valore(u"ImportoRitenuta")),
+                            numeroItaliano(n.valore(u"AliquotaRitenuta")),
+                            codiceInParole(ListaCodici::TipoRitenuta, n.valore(u"TipoRitenuta")),
+                            codiceInParole(ListaCodici::CausaleRitenuta, n.valore(u"CausalePagamento"))));
         else if (n.nome == u"DatiCassaPrevidenziale")
-            pagina.voce(u"Cassa"_s, u"%1 %2%: %3 su %4"_s.arg(
-                                        n.valore(u"TipoCassa"), numeroItaliano(n.valore(u"AlCassa")),
-                                        numeroItaliano(n.valore(u"ImportoContributoCassa")),
-                                        numeroItaliano(n.valore(u"ImponibileCassa"))));
+            pagina.voce(u"Cassa"_s,
+                        u"%1 %2%: %3 su %4"_s.arg(codiceInParole(ListaCodici::Cassa, n.valore(u"TipoCassa")),
+                                                  numeroItaliano(n.valore(u"AlCassa")),
+                                                  numeroItaliano(n.valore(u"ImportoContributoCassa")),
+                                                  numeroItaliano(n.valore(u"ImponibileCassa"))));
     }
 }
 

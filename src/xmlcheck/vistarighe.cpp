@@ -1,3 +1,4 @@
+#include "xmlcheck/codicifattura.h"
 #include "xmlcheck/paginahtml.h"
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,15 @@ QString scontiDi(const Nodo& linea) {
 QString ivaDi(const Nodo& nodo) {
     const QString natura = nodo.valore(u"Natura");
     return natura.isEmpty() ? numeroItaliano(nodo.valore(u"AliquotaIVA")) + u'%' : natura;
+}
+
+/// The rate, or why there is none, in words: for the summaries, where each stands once.
+QString ivaInParole(const Nodo& riepilogo) {
+    const QString natura = riepilogo.valore(u"Natura");
+    const QString testo = testoCodice(ListaCodici::Natura, natura);
+    if (!testo.isEmpty())
+        return natura + u' ' + testo;
+    return natura.isEmpty() ? ivaDi(riepilogo) : codiceInParole(ListaCodici::NaturaDiPrima, natura);
 }
 
 QStringList rigaDi(const Nodo& linea) {
@@ -65,7 +75,7 @@ void mostraPagamento(PaginaHtml& pagina, const Nodo& corpo) {
             continue;
         for (const Nodo& n : blocco.figli)
             if (n.nome == u"DettaglioPagamento")
-                righe << QStringList{n.valore(u"ModalitaPagamento"),
+                righe << QStringList{codiceInParole(ListaCodici::Modalita, n.valore(u"ModalitaPagamento")),
                                      dataItaliana(n.valore(u"DataScadenzaPagamento")),
                                      n.valore(u"IBAN") + n.valore(u"IstitutoFinanziario"),
                                      numeroItaliano(n.valore(u"ImportoPagamento"))};
@@ -88,9 +98,10 @@ void mostraRighe(PaginaHtml& pagina, const Nodo& corpo) {
             if (n.nome == u"DettaglioLinee")
                 linee << rigaDi(n);
             else if (n.nome == u"DatiRiepilogo")
-                riepiloghi << QStringList{ivaDi(n), n.valore(u"RiferimentoNormativo"),
-                                          numeroItaliano(n.valore(u"ImponibileImporto")),
-                                          numeroItaliano(n.valore(u"Imposta")), n.valore(u"EsigibilitaIVA")};
+                riepiloghi << QStringList{
+                    ivaInParole(n), n.valore(u"RiferimentoNormativo"),
+                    numeroItaliano(n.valore(u"ImponibileImporto")), numeroItaliano(n.valore(u"Imposta")),
+                    codiceInParole(ListaCodici::Esigibilita, n.valore(u"EsigibilitaIVA"))};
         }
     }
     pagina.sezione(u"Righe"_s);

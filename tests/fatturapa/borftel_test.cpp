@@ -63,6 +63,35 @@ TEST(Borftel, IlFileTieneIlSuoNomeEDiceSeNonEPiuAttuale) {
     EXPECT_TRUE(QFile::exists(s.xml(u"IT01234567897_00002.xml"_s)));
 }
 
+TEST(Borftel, DopoUnoScartoIlFileHaUnNomeNuovoEIlVecchioNonSiRida) {
+    SchermataFel s;
+    s.form.genera();
+    s.prova.operatore.risposte = {false, true};
+    s.form.scartata();
+    EXPECT_EQ(s.form.percorso(), s.xml()) << "the operator said no";
+    const QByteArray scartato = s.contenuto();
+    s.form.scartata();
+    EXPECT_FALSE(s.form.generato());
+    QFile vecchio(s.xml() + u".scartata"_s);
+    ASSERT_TRUE(vecchio.open(QIODevice::ReadOnly));
+    EXPECT_EQ(vecchio.readAll(), scartato);
+    QByteArray propri = s.azienda.leggi(u"borlano.fel"_s);
+    s.azienda.scrivi(u"borlano.fel"_s, propri.replace("contatore=00001", "contatore="));
+    s.apri(1);
+    s.form.genera();
+    EXPECT_EQ(s.form.percorso(), s.xml(u"IT01234567897_00002.xml"_s));
+    EXPECT_TRUE(s.prova.operatore.messaggi.isEmpty());
+
+    QFile::remove(vecchio.fileName());
+    ASSERT_TRUE(QDir().mkdir(s.form.percorso() + u".scartata"_s));
+    s.prova.operatore.risposte = {true};
+    s.form.scartata();
+    ASSERT_EQ(s.prova.operatore.messaggi.size(), 1);
+    EXPECT_TRUE(s.prova.operatore.messaggi[0].testo.contains(u"a mano"_s));
+    s.form.genera();
+    EXPECT_EQ(s.form.percorso(), s.xml(u"IT01234567897_00003.xml"_s));
+}
+
 TEST(Borftel, UnRilievoStaAccantoAlSuoCampoEFermaIlFile) {
     SchermataFel s;
     s.form.cambia(u"AB"_s, &DatiFel::cliente, &ClienteFel::codice);

@@ -21,7 +21,8 @@ TEST(VistaFattura, DiceChiVendeChiCompraRigheERate) {
     const QString pagina = vistaFattura(fatturaBuona());
     for (const QString& testo :
          {u"Fattura n. 12/PA del 31/03/2015"_s, u"Comune di Prova"_s, u"IT 01234567897"_s,
-          u"Viti e bulloni"_s, u"<td align=\"right\">90,00</td>"_s, u"N4"_s, u"19,80"_s,
+          u"Viti e bulloni"_s, u"<td align=\"right\">90,00</td>"_s, u"N4 Esenti"_s, u"19,80"_s,
+          u"MP05 Bonifico"_s, u"RF01 Ordinario"_s, u"RT01 Ritenuta, persone fisiche"_s, u"I immediata"_s,
           u"IT60X0542811101000000123456"_s, u"101,80"_s})
         EXPECT_TRUE(pagina.contains(testo)) << testo.toStdString();
 }
