@@ -19,6 +19,11 @@ public:
     /// Columns whose name begins with ">" are numbers, aligned to the right.
     void tabella(const QStringList& colonne, const QList<QStringList>& righe);
 
+    /// What follows stands in the first of two columns, then in the second, then over the whole width again.
+    void affianca() { m_corpo += u"<table width=\"100%\"><tr><td width=\"50%\">\n"; }
+    void secondaColonna() { m_corpo += u"</td><td width=\"50%\">\n"; }
+    void fineColonne() { m_corpo += u"</td></tr></table>\n"; }
+
     QString html(const QString& nomePagina) const;
 
 private:

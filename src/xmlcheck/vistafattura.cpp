@@ -68,6 +68,11 @@ void mostraSoggetto(PaginaHtml& pagina, const QString& titolo, const Nodo* sogge
 }
 
 void mostraTestata(PaginaHtml& pagina, const Nodo& testata) {
+    pagina.affianca();
+    mostraSoggetto(pagina, u"Chi vende"_s, testata.figlio(u"CedentePrestatore"));
+    pagina.secondaColonna();
+    mostraSoggetto(pagina, u"Chi compra"_s, testata.figlio(u"CessionarioCommittente"));
+    pagina.fineColonne();
     if (const Nodo* trasmissione = testata.figlio(u"DatiTrasmissione")) {
         pagina.sezione(u"Trasmissione"_s);
         pagina.voce(u"Progressivo"_s, trasmissione->valore(u"ProgressivoInvio"));
@@ -75,8 +80,6 @@ void mostraTestata(PaginaHtml& pagina, const Nodo& testata) {
         pagina.voce(u"Codice destinatario"_s, trasmissione->valore(u"CodiceDestinatario"));
         pagina.voce(u"PEC"_s, trasmissione->valore(u"PECDestinatario"));
     }
-    mostraSoggetto(pagina, u"Chi vende"_s, testata.figlio(u"CedentePrestatore"));
-    mostraSoggetto(pagina, u"Chi compra"_s, testata.figlio(u"CessionarioCommittente"));
 }
 
 } // namespace
@@ -142,8 +145,11 @@ QString PaginaHtml::html(const QString& nomePagina) const {
             ? QString()
             : u"<p>La pagina non mostra tutto: altre %1 voci del file restano fuori.</p>\n"_s.arg(m_fuori);
     return u"<!DOCTYPE html>\n<html lang=\"it\"><head><meta charset=\"utf-8\"><title>"_s +
-           nomePagina.toHtmlEscaped() + u"</title></head>\n<body>\n"_s + m_corpo + fine +
-           u"</body></html>\n"_s;
+           nomePagina.toHtmlEscaped() +
+           u"</title>\n<style>p { margin: 2px 0 } h2 { margin: 12px 0 4px } td { vertical-align: top "
+           u"}</style></head>\n"
+           u"<body>\n"_s +
+           m_corpo + fine + u"</body></html>\n"_s;
 }
 
 void mostraDocumento(PaginaHtml& pagina, const Nodo& corpo) {

@@ -65,6 +65,9 @@ void mostraRiferimenti(PaginaHtml& pagina, const Nodo& generali) {
             if (n.nome == b.nome)
                 righe << QStringList{b.titolo, n.valore(b.numero), dataItaliana(n.valore(b.data)),
                                      n.valore(u"CodiceCUP"), n.valore(u"CodiceCIG")};
+    if (righe.isEmpty())
+        return;
+    pagina.sezione(u"Riferimenti"_s);
     pagina.tabella({u"Documento"_s, u"Numero"_s, u"Data"_s, u"CUP"_s, u"CIG"_s}, righe);
 }
 
