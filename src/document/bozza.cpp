@@ -31,7 +31,7 @@ void visita(auto& a, Tale<Bozza> auto& x) {
 
 void visita(auto& a, Tale<RigheSospese> auto& x) {
     auto& [ddd, dddp, trasporto, pratica, scorporo] = x;
-    a(tabella(ddd, righeMerce), tabella(dddp, righeParcella), trasporto, pratica, scorporo);
+    a(tabellaFissa(ddd, righeMerce), tabellaFissa(dddp, righeParcella), trasporto, pratica, scorporo);
 }
 
 int quante(const TabellaRighe&) {
@@ -64,7 +64,7 @@ private:
             metti(parte);
     }
     template <class V>
-    void metti(const Tabella<V>& tabella) {
+    void metti(const TabellaFissa<V>& tabella) {
         using Riga = typename V::value_type;
         const auto usata = [](const Riga& riga) { return !(riga == Riga()); };
         const auto fine = std::find_if(tabella.righe.rbegin(), tabella.righe.rend(), usata).base();
@@ -75,7 +75,7 @@ private:
     void metti(const std::optional<T>& parte) {
         metti(parte.has_value());
         if (parte)
-            metti(tabella(*parte, quante(*parte)));
+            metti(tabellaFissa(*parte, quante(*parte)));
     }
     template <Record R>
     void metti(const R& record) {
@@ -120,7 +120,7 @@ private:
             prendi(parte);
     }
     template <class V>
-    void prendi(Tabella<V>& tabella) {
+    void prendi(TabellaFissa<V>& tabella) {
         quint32 usate = 0;
         m_flusso >> usate;
         tabella.righe.assign(postoDaZero(tabella.quante), {});
@@ -135,7 +135,7 @@ private:
         prendi(presente);
         if (!presente)
             return parte.reset();
-        auto intera = tabella(parte.emplace(), quante(T()));
+        auto intera = tabellaFissa(parte.emplace(), quante(T()));
         prendi(intera);
     }
     template <Record R>

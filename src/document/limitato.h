@@ -35,13 +35,13 @@ Limitato<N> posizione(N& numero, int voci) {
 
 /// A table that always has so many lines; only those in use are kept.
 template <class V>
-struct Tabella {
+struct TabellaFissa {
     V& righe;
     int quante;
 };
 
 template <class V>
-Tabella<V> tabella(V& righe, int quante) {
+TabellaFissa<V> tabellaFissa(V& righe, int quante) {
     return {righe, quante};
 }
 

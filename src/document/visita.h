@@ -106,8 +106,8 @@ void visita(auto& a, Tale<Documento> auto& x) {
     auto& [recordfattura, recordcliente, recordfpa, coppia, cliente, testata, estremi, scadenze, prospetti,
            ddd, dddp, scorporo, integrata] = x;
     a(limitato(recordfattura, 0, Archivio::massimo, 0), limitato(recordcliente, 0, Archivio::massimo, 0),
-      recordfpa, coppia, cliente, testata, estremi, scadenze, prospetti, tabella(ddd, righeMerce),
-      tabella(dddp, righeParcella), scorporo,
+      recordfpa, coppia, cliente, testata, estremi, scadenze, prospetti, tabellaFissa(ddd, righeMerce),
+      tabellaFissa(dddp, righeParcella), scorporo,
       limitato(integrata, 0, ordinale(Integrata::Intracomunitaria), 0));
 }
 

@@ -42,7 +42,7 @@ private:
             riempi(parte);
     }
     template <class V>
-    void riempi(Tabella<V>& x) {
+    void riempi(TabellaFissa<V>& x) {
         for (const std::size_t i : {std::size_t{0}, x.righe.size() - 1})
             riempi(x.righe[i]);
     }
@@ -73,7 +73,7 @@ private:
             nota(parte);
     }
     template <class V>
-    void nota(const Tabella<V>& x) {
+    void nota(const TabellaFissa<V>& x) {
         for (const auto& riga : x.righe)
             nota(riga);
     }
