@@ -182,6 +182,7 @@ QWidget* VistaBorftepa::creaData(DataFpa quale, const QString& descrizione) {
         new CampoData(u"dsca(%1)"_s.arg(indice), u"ddsca(%1)"_s.arg(indice), descrizione, m_form.bordata());
     QLineEdit* campo = casella->campo();
     lega(campo, quale);
+    legami.segnala(campo, [this, quale] { return avvisoData(m_form.testo(quale)); });
     legami.lasciato(campo, [this, quale] { m_form.lasciaData(quale); });
     connect(campo, &QLineEdit::textEdited, this, [this, campo, quale] {
         if (campo->hasFocus() && m_form.dataCompleta(quale))

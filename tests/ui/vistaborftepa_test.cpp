@@ -74,6 +74,20 @@ TEST(VistaFatturaPa, SiCompilaDallaTastieraSiGeneraESiControlla) {
     EXPECT_FALSE(finestra->isVisible());
 }
 
+TEST(VistaFatturaPa, UnaDataCheNonEsisteESegnataFincheSiScrive) {
+    FatturaDiProva f;
+    VistaBorftepa vista(f.form);
+    mostra(vista);
+    auto* data = controllo<QLineEdit>(vista, u"dsca(0)"_s);
+    data->setFocus();
+    data->selectAll();
+    scrivi(vista, u"31022015"_s);
+    EXPECT_TRUE(data->property("errato").toBool());
+    data->selectAll();
+    scrivi(vista, u"28022015"_s);
+    EXPECT_FALSE(data->property("errato").toBool());
+}
+
 TEST(VistaFatturaPa, UnaDataAMetaESistemataPrimaDiGenerare) {
     FatturaDiProva f;
     VistaBorftepa vista(f.form);
