@@ -80,7 +80,7 @@ void RiempimentoDellElenco(benchmark::State& stato) {
     Borfte form(prova.contesto, documento);
     form.carica();
     for (auto _ : stato)
-        form.cambiaFiltro(FiltroFatture::Tutte);
+        form.opzioni().cambiaFiltro(FiltroFatture::Tutte);
 }
 
 void FiltroSoloPa(benchmark::State& stato) {
@@ -89,7 +89,7 @@ void FiltroSoloPa(benchmark::State& stato) {
     Borfte form(prova.contesto, documento);
     form.carica();
     for (auto _ : stato)
-        form.cambiaFiltro(FiltroFatture::SoloPa);
+        form.opzioni().cambiaFiltro(FiltroFatture::SoloPa);
 }
 
 /// One key in the search box of the register on screen, up to the list painted anew.
@@ -108,7 +108,7 @@ void TastoNellaRicerca(benchmark::State& stato) {
     for (auto _ : stato) {
         stato.PauseTiming();
         campo->clear();
-        form.cerca({});
+        form.opzioni().cerca({});
         vista.attiva();
         for (const QChar c : scritto.chopped(1))
             QTest::keyClick(campo, c.toLatin1());
@@ -144,7 +144,7 @@ void Ordinamento(benchmark::State& stato) {
         stato.range(0) == 9 ? Colonna::DataRegistrazione : static_cast<Colonna>(stato.range(0));
     for (auto _ : stato) {
         stato.PauseTiming();
-        form.cambiaFiltro(FiltroFatture::Tutte);
+        form.opzioni().cambiaFiltro(FiltroFatture::Tutte);
         stato.ResumeTiming();
         form.ordina(colonna);
     }

@@ -76,7 +76,7 @@ private:
         a.scriviTot(Conta::Fte, tot);
     }
     void apriDocumento() {
-        modulo->borfte().apriDocumento(0);
+        modulo->borfte().apertura().documento(0);
         Documento& documento = modulo->documento();
         for (int n = 1; n <= quanti; ++n)
             documento.ddd[static_cast<std::size_t>(n - 1)] = {.recart = n,

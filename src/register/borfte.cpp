@@ -1,7 +1,6 @@
 #include "register/borfte.h"
 
 #include "common/posti.h"
-#include "document/apripdf.h"
 #include "document/riscontromovimento.h"
 #include "register/righeelenco.h"
 
@@ -13,7 +12,6 @@ namespace bor {
 
 namespace {
 
-const QString titoloAttenzione = u"Attenzione"_s;
 constexpr int righeSotto = 22; ///< a list that opens at its end shows this many rows below the first
 
 int primoRecord(std::optional<Selvis> selvis, int numero) {
@@ -28,19 +26,17 @@ int primoRecord(std::optional<Selvis> selvis, int numero) {
     return 1;
 }
 
-/// The digit of an option in the stored preference; where none is chosen it is that of the first.
-template <class Opzione>
-int cifra(std::optional<Opzione> opzione) {
-    return opzione ? ordinale(*opzione) : 0;
-}
-
 } // namespace
 
 Borfte::Borfte(Contesto& contesto, Documento& documento)
-    : m_contesto(contesto), m_documento(documento), m_riordino(contesto) {}
+    : m_contesto(contesto), m_documento(documento), m_riordino(contesto),
+      m_opzioni(
+          contesto, [this] { return !m_riordino.inCorso(); },
+          [this](OpzioniRegistro::Effetto effetto) { opzioniCambiate(effetto); }),
+      m_apertura(contesto, documento, m_elenco, m_riordino), m_scelta(m_elenco) {}
 
 void Borfte::carica() {
-    ripristinavista();
+    m_opzioni.ripristina();
     leggiConteggio();
     caricalista();
 }
@@ -94,61 +90,19 @@ void Borfte::riordino(TipoRiordino tipo) {
     caricalista();
 }
 
-void Borfte::nuovoDocumento(int tipo) {
-    if (!m_riordino.fermo())
+void Borfte::opzioniCambiate(OpzioniRegistro::Effetto effetto) {
+    switch (effetto) {
+    case OpzioniRegistro::Effetto::Posizione:
+        m_recordCorrente = 0;
+        [[fallthrough]];
+    case OpzioniRegistro::Effetto::Riempimento:
+        caricalista();
         return;
-    Sessione& sessione = m_contesto.sessione;
-    sessione.righelette = false;
-    if (m_contesto.archivio.leggiTot(Conta::Cli).numero < 1) {
-        m_contesto.operatore.messaggio(u"Nessuna anagrafica memorizzata"_s, titoloAttenzione,
-                                       Icona::Esclamazione);
-        return;
+    case OpzioniRegistro::Effetto::Ricerca:
+        m_elenco.cerca(m_opzioni.scelte().cercato);
+        m_primaRiga.reset();
+        ++m_edizione;
     }
-    sessione.documentoletto = false;
-    sessione.testataletta = false;
-    m_documento = {};
-    m_documento.coppia.fte.tipo = breve(tipo);
-    m_contesto.navigatore.mostra(Schermo::Borftem);
-}
-
-void Borfte::cambiaFiltro(FiltroFatture filtro) {
-    if (m_riordino.inCorso())
-        return;
-    m_scelte.filtro = filtro;
-    caricalista();
-}
-
-void Borfte::cambiaSelvis(Selvis scelta) {
-    if (m_riordino.inCorso())
-        return;
-    m_scelte.selvis = scelta;
-    salvaVista();
-    caricalista();
-}
-
-void Borfte::cambiaVisua(Visua scelta) {
-    if (m_riordino.inCorso())
-        return;
-    m_scelte.visua = scelta;
-    m_recordCorrente = 0;
-    salvaVista();
-    caricalista();
-}
-
-void Borfte::salvaVista() {
-    Gnr& gnr = m_contesto.impostazioni.gnr;
-    gnr.vistalista = breve(10 * cifra(m_scelte.visua) + cifra(m_scelte.selvis));
-    salvagnr(m_contesto.archivio, gnr);
-}
-
-void Borfte::ripristinavista() {
-    const int vista = m_contesto.impostazioni.gnr.vistalista;
-    const int selvis = vista % 10;
-    const int visua = vista / 10;
-    if (vista < 0 || selvis > 2 || visua > 1)
-        return;
-    m_scelte.selvis = enumeratore<Selvis>(selvis);
-    m_scelte.visua = enumeratore<Visua>(visua);
 }
 
 void Borfte::ordina(Colonna colonna) {
@@ -176,68 +130,11 @@ void Borfte::cellaCorrente(int riga, Colonna colonna) {
     m_recordCorrente = m_elenco.record(riga);
 }
 
-void Borfte::apri(int riga, Colonna colonna) {
-    if (!m_riordino.fermo())
-        return;
-    if (colonna == Colonna::Pdf && m_elenco.haPdf(riga)) {
-        ApriPDF(m_contesto, testo(riga, Colonna::NomePdf));
-        return;
-    }
-    apriDocumento(riga);
-}
-
-void Borfte::apriDocumento(int riga) {
-    if (m_riordino.fermo() && m_elenco.record(riga) > 0)
-        apriRecord(m_elenco.record(riga));
-}
-
-void Borfte::fatturaElettronica(int riga) {
-    if (m_riordino.fermo() && m_elenco.record(riga) > 0)
-        apriRecord(m_elenco.record(riga), Schermo::Borftel);
-}
-
-void Borfte::riapriUltimo() {
-    if (!m_riordino.fermo())
-        return;
-    const int record = m_contesto.sessione.ultimosalvato;
-    if (record > 0)
-        apriRecord(record);
-    else
-        m_contesto.operatore.messaggio(
-            u"Nessun documento è stato ancora registrato da quando il programma è aperto"_s, titoloAttenzione,
-            Icona::Informazione);
-}
-
-void Borfte::cerca(const QString& testo) {
-    if (m_riordino.inCorso())
-        return;
-    m_scelte.cercato = testo;
-    m_elenco.cerca(testo);
-    m_primaRiga.reset();
-    ++m_edizione;
-}
-
 int Borfte::rigaCorrente() const {
     const int riga = m_elenco.rigaDi(m_recordCorrente);
     if (riga >= 0)
         return riga;
-    return m_scelte.visua == Visua::DallUltima ? std::max(m_elenco.quante() - 1, 0) : 0;
-}
-
-void Borfte::apriRecord(int record, Schermo schermo) {
-    const Fte fte = m_contesto.archivio.fte.leggi(record);
-    if (fte.annullata == 1) {
-        m_contesto.operatore.messaggio(u"Fattura annullata"_s, titoloAttenzione, Icona::Esclamazione);
-        return;
-    }
-    Sessione& sessione = m_contesto.sessione;
-    sessione.documentoletto = false;
-    sessione.testataletta = false;
-    sessione.righelette = false;
-    m_documento = {};
-    m_documento.recordfattura = record;
-    m_documento.recordcliente = fte.cliente;
-    m_contesto.navigatore.mostra(schermo);
+    return m_opzioni.scelte().visua == Visua::DallUltima ? std::max(m_elenco.quante() - 1, 0) : 0;
 }
 
 void Borfte::leggiConteggio() {
@@ -248,10 +145,11 @@ void Borfte::caricalista() {
     const Attesa attesa(m_contesto.operatore);
     m_difetti.clear();
     m_senzaRighe.clear();
-    m_elenco.carica(m_contesto.archivio, primoRecord(m_scelte.selvis, m_numero), m_numero, filtroScelto());
+    m_elenco.carica(m_contesto.archivio, primoRecord(m_opzioni.scelte().selvis, m_numero), m_numero,
+                    filtroScelto());
     const int righelista = m_elenco.quante() + 1;
     m_primaRiga = 0;
-    if (m_scelte.visua == Visua::DallUltima && righelista > righeSotto + 1)
+    if (m_opzioni.scelte().visua == Visua::DallUltima && righelista > righeSotto + 1)
         m_primaRiga = std::max(righelista, righePiene + 1) - righeSotto - 1;
     // A fill colours only the cell that has the cursor, by the last document it took in; the rows get their
     // colours apart from that.
@@ -262,7 +160,7 @@ void Borfte::caricalista() {
 }
 
 ElencoFatture::Passa Borfte::filtroScelto() {
-    switch (m_scelte.filtro) {
+    switch (m_opzioni.scelte().filtro) {
     case FiltroFatture::Tutte:
         break;
     case FiltroFatture::Normali:

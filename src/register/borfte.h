@@ -5,8 +5,10 @@
 #include "archive/contesto.h"
 #include "archive/diagnosi.h"
 #include "document/documento.h"
+#include "register/aperturadocumenti.h"
 #include "register/comandoriordino.h"
 #include "register/elencofatture.h"
+#include "register/opzioniregistro.h"
 #include "register/sceltadocumenti.h"
 
 #include <optional>
@@ -14,23 +16,8 @@
 
 namespace bor {
 
-/// How many records the list scans.
-enum class Selvis { Tutte, Ultime1000, Ultime5000 };
-/// Where the list opens: at its first row or at its last.
-enum class Visua { DallaPrima, DallUltima };
-
-/// Which documents the list shows, and from where on.
-struct SceltaVista {
-    FiltroFatture filtro = FiltroFatture::Tutte;
-    /// Nothing is chosen after a stored preference that names none.
-    std::optional<Selvis> selvis;
-    std::optional<Visua> visua;
-    QString cercato;
-};
-
 class Borfte {
 public:
-    /// `documento` becomes the one that the operator chooses, which the document form then opens.
     Borfte(Contesto& contesto, Documento& documento);
 
     /// The start of the program: options restored from the stored preference, then the list filled.
@@ -42,32 +29,10 @@ public:
     void esci();
     void rileggi();
     void riordino(TipoRiordino tipo);
-    /// Starts an invoice (0) or a credit note (1).
-    void nuovoDocumento(int tipo);
-    void cambiaFiltro(FiltroFatture filtro);
-    void cambiaSelvis(Selvis scelta);
-    void cambiaVisua(Visua scelta);
     /// Click on the label over a column; only those of number, date and customer sort.
     void ordina(Colonna colonna);
     /// The cell that has the operator's cursor; rows count from 0, as in `elenco()`.
     void cellaCorrente(int riga, Colonna colonna);
-    /// The rows that the operator has chosen, that of the cursor among them or not; blank filler rows do not
-    /// count.
-    void scegli(const std::vector<TrattoRighe>& righe) { m_scelta.scegli(m_elenco, righe); }
-    /// The rows of the chosen documents after a fill or a sort; those that left the list are no longer
-    /// chosen.
-    std::vector<TrattoRighe> righeScelte() { return m_scelta.ritrova(m_elenco); }
-    const std::vector<Identita>& scelti() const { return m_scelta.documenti(); }
-    /// Double click on a cell: its PDF, or its document.
-    void apri(int riga, Colonna colonna);
-    /// Enter on a row: its document.
-    void apriDocumento(int riga);
-    /// The electronic invoice of a row's document.
-    void fatturaElettronica(int riga);
-    /// The document saved last in this run.
-    void riapriUltimo();
-    /// Leaves in the list the documents that answer to the text, as `CercaFatture` tells.
-    void cerca(const QString& testo);
 
     const ElencoFatture& elenco() const { return m_elenco; }
     QString testo(int riga, Colonna colonna) const;
@@ -91,7 +56,10 @@ public:
     Diagnosi informazioni() const;
     /// The same as a text for who helps, without names and amounts.
     QString testoInformazioni(const Diagnosi& diagnosi) const;
-    const SceltaVista& scelte() const { return m_scelte; }
+    OpzioniRegistro& opzioni() { return m_opzioni; }
+    AperturaDocumenti& apertura() { return m_apertura; }
+    /// The rows that the operator has chosen.
+    SceltaDocumenti& scelta() { return m_scelta; }
     ComandoRiordino& comandoRiordino() { return m_riordino; }
 
 private:
@@ -107,19 +75,18 @@ private:
         int colore;
     };
 
-    void apriRecord(int record, Schermo schermo = Schermo::Borftea);
+    void opzioniCambiate(OpzioniRegistro::Effetto effetto);
     void leggiConteggio();
     void caricalista();
     ElencoFatture::Passa filtroScelto();
-    void ripristinavista();
-    void salvaVista();
     bool colorata() const;
 
     Contesto& m_contesto;
     Documento& m_documento;
     ComandoRiordino m_riordino;
     ElencoFatture m_elenco;
-    SceltaVista m_scelte;
+    OpzioniRegistro m_opzioni;
+    AperturaDocumenti m_apertura;
     SceltaDocumenti m_scelta;
     int m_numero = 0; ///< documents counted when the counter was last read
     std::optional<int> m_primaRiga;

@@ -156,7 +156,7 @@ QString ElencoFatture::testo(const Riga& r, Colonna colonna, const Valuta& valut
     case Colonna::Pdf:
         return r.pdf >= 0 ? QStringLiteral("PDF") : QString();
     case Colonna::NomePdf:
-        return r.pdf >= 0 ? elemento(m_pdf, r.pdf).text() : QString();
+        return nomePdf(r);
     case Colonna::Chiave:
         return puliscitesto(r.datareg.text());
     }
@@ -189,6 +189,14 @@ bool ElencoFatture::senzaRighe(int riga, const Archivio& archivio) const {
     fte.numero = mostrata(riga).numero;
     fte.datadoc = mostrata(riga).datadoc;
     return !righeSuFile(archivio, fte);
+}
+
+QString ElencoFatture::nomePdf(int riga) const {
+    return esiste(riga) ? nomePdf(mostrata(riga)) : QString();
+}
+
+QString ElencoFatture::nomePdf(const Riga& riga) const {
+    return riga.pdf >= 0 ? elemento(m_pdf, riga.pdf).text() : QString();
 }
 
 bool ElencoFatture::haPdf(int riga) const {

@@ -12,9 +12,6 @@
 
 namespace bor {
 
-/// Which documents: by their electronic invoice, or those whose movement does not agree with them.
-enum class FiltroFatture { Tutte, Normali, SoloPa, MovimentoDaControllare };
-
 /// Columns of the register, by their number on screen.
 enum class Colonna {
     Registrazione,
@@ -60,6 +57,8 @@ public:
     /// The row of a record; -1 when it is not in the list.
     int rigaDi(int record) const;
     bool haPdf(int riga) const;
+    /// Empty for a row without PDF.
+    QString nomePdf(int riga) const;
     /// The document has the number of a lines file, and no such file.
     bool senzaRighe(int riga, const Archivio& archivio) const;
     /// The last document that the fill took in has a PDF.
@@ -88,6 +87,7 @@ private:
     void aggiungi(int record, const Fte& fte, const F2e& f2e);
     void leggiNomi(const Archivio& archivio);
     QString nomeCliente(const Riga& riga) const;
+    QString nomePdf(const Riga& riga) const;
 
     std::vector<Riga> m_righe;           ///< all that the fill took in
     std::vector<std::size_t> m_mostrate; ///< indices of those that answer to `m_cercato`

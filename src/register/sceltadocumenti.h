@@ -18,16 +18,20 @@ struct TrattoRighe {
 
 class SceltaDocumenti {
 public:
-    /// These rows are chosen, in place of those before.
-    void scegli(const ElencoFatture& elenco, const std::vector<TrattoRighe>& righe);
-    /// Where the chosen documents stand by now. One that is not in the list any more is no longer chosen.
-    std::vector<TrattoRighe> ritrova(const ElencoFatture& elenco);
+    explicit SceltaDocumenti(const ElencoFatture& elenco) : m_elenco(elenco) {}
+
+    /// These rows are chosen, in place of those before; blank filler rows do not count.
+    void scegli(const std::vector<TrattoRighe>& righe);
+    /// Where the chosen documents stand by now, after a fill or a sort. One that is not in the list any more
+    /// is no longer chosen.
+    std::vector<TrattoRighe> ritrova();
     void dimentica() { m_documenti.clear(); }
 
     /// In the order of the list.
     const std::vector<Identita>& documenti() const { return m_documenti; }
 
 private:
+    const ElencoFatture& m_elenco;
     std::vector<Identita> m_documenti;
 };
 

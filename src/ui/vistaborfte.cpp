@@ -104,14 +104,14 @@ QWidget* VistaBorfte::creaOpzioni() {
         u"Registrazioni"_s, u"selvis"_s,
         {u"Visualizza tutte le registrazioni"_s, u"Visualizza solo le ultime 1000 registrazioni"_s,
          u"Visualizza solo le ultime 5000 registrazioni"_s},
-        legami, [this] { return m_form.scelte().selvis; },
-        [this](Selvis scelta) { m_form.cambiaSelvis(scelta); }));
+        legami, [this] { return m_form.opzioni().scelte().selvis; },
+        [this](Selvis scelta) { m_form.opzioni().cambiaSelvis(scelta); }));
     layout->addWidget(opzioni<Visua>(
         u"Posizione"_s, u"visua"_s,
         {u"Visualizza a partire dalla prima registrazione"_s,
          u"Visualizza a partire dall'ultima registrazione"_s},
-        legami, [this] { return m_form.scelte().visua; },
-        [this](Visua scelta) { m_form.cambiaVisua(scelta); }));
+        legami, [this] { return m_form.opzioni().scelte().visua; },
+        [this](Visua scelta) { m_form.opzioni().cambiaVisua(scelta); }));
     layout->addWidget(creaFiltro());
     return barra;
 }
@@ -127,8 +127,8 @@ QGroupBox* VistaBorfte::creaFiltro() {
                      u"Visualizza solo le fatturePA"_s,
                      u"Visualizza solo le fatture con movimento da controllare"_s});
     legami.lista(
-        lista, [this] { return ordinale(m_form.scelte().filtro); },
-        [this](int i) { m_form.cambiaFiltro(enumeratore<FiltroFatture>(i)); });
+        lista, [this] { return ordinale(m_form.opzioni().scelte().filtro); },
+        [this](int i) { m_form.opzioni().cambiaFiltro(enumeratore<FiltroFatture>(i)); });
     colonna->addWidget(lista);
     const QString cerca = u"Cerca"_s;
     m_cerca = new CampoTesto(u"cerca"_s, cerca);
@@ -136,8 +136,8 @@ QGroupBox* VistaBorfte::creaFiltro() {
     m_cerca->setToolTip(u"Restano in elenco i documenti che rispondono; Esc li mostra tutti"_s);
     m_cerca->setClearButtonEnabled(true);
     legami.testo(
-        m_cerca, [this] { return m_form.scelte().cercato; },
-        [this](const QString& testo) { m_form.cerca(testo); });
+        m_cerca, [this] { return m_form.opzioni().scelte().cercato; },
+        [this](const QString& testo) { m_form.opzioni().cerca(testo); });
     invio.passo(m_cerca, [this] { vaiA(m_elenco); });
     auto* linea = new QHBoxLayout;
     linea->addWidget(didascalia(cerca, m_cerca));
@@ -155,9 +155,9 @@ QWidget* VistaBorfte::creaElenco() {
     preparaElenco(m_elenco, colonne, [this] { return m_form.elenco().quante(); });
     m_scelta = new SceltaRighe(
         m_elenco, [this] { return m_form.elenco().quante(); },
-        [this](const std::vector<TrattoRighe>& righe) { m_form.scegli(righe); });
+        [this](const std::vector<TrattoRighe>& righe) { m_form.scelta().scegli(righe); });
     connect(m_elenco, &QTableView::doubleClicked, this, [this](const QModelIndex& cella) {
-        legami.esegui([&] { m_form.apri(cella.row(), enumeratore<Colonna>(cella.column())); });
+        legami.esegui([&] { m_form.apertura().cella(cella.row(), enumeratore<Colonna>(cella.column())); });
     });
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) {
@@ -167,7 +167,7 @@ QWidget* VistaBorfte::creaElenco() {
     invio.passo(m_elenco, [this] {
         const QModelIndex cella = m_elenco->currentIndex();
         if (cella.isValid())
-            legami.esegui([&] { m_form.apriDocumento(cella.row()); });
+            legami.esegui([&] { m_form.apertura().documento(cella.row()); });
     });
 
     auto* riquadro = new QWidget;
@@ -246,13 +246,13 @@ void VistaBorfte::creaBottoni(Flusso* layout) {
     legami.visibile(etichetta, [&riordino] { return !riordino.inCorso(); });
     layout->addWidget(etichetta);
     comando(
-        3, u"Fattura"_s, u"fattura"_s, u"F2"_s, [this] { m_form.nuovoDocumento(0); }, fermo);
+        3, u"Fattura"_s, u"fattura"_s, u"F2"_s, [this] { m_form.apertura().nuovo(0); }, fermo);
     comando(
-        4, u"Nota di credito"_s, u"notacredito"_s, u"F3"_s, [this] { m_form.nuovoDocumento(1); }, fermo);
+        4, u"Nota di credito"_s, u"notacredito"_s, u"F3"_s, [this] { m_form.apertura().nuovo(1); }, fermo);
     layout->spazio(8);
     comando(
         8, u"Elettronica"_s, u"elettronica"_s, u"F9"_s,
-        [this] { m_form.fatturaElettronica(m_elenco->currentIndex().row()); }, fermo);
+        [this] { m_form.apertura().fatturaElettronica(m_elenco->currentIndex().row()); }, fermo);
     comando(5, u"Per data"_s, u"perdata"_s, u"F7"_s, per(TipoRiordino::PerData), scelta);
     comando(6, u"Per protocollo"_s, u"perprotocollo"_s, u"F8"_s, per(TipoRiordino::PerProtocollo), scelta);
     comando(7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, per(TipoRiordino::PerNumero), scelta);
@@ -275,7 +275,7 @@ void VistaBorfte::creaScorciatoie() {
     };
     scorciatoia(u"Ctrl+F"_s, u"Cerca un documento"_s, [this] { vaiA(m_cerca); });
     scorciatoia(u"Ctrl+R"_s, u"Riapre l'ultimo documento registrato"_s,
-                [this] { legami.esegui([this] { m_form.riapriUltimo(); }); });
+                [this] { legami.esegui([this] { m_form.apertura().ultimo(); }); });
     altriTasti = {{u"Inizio, Fine"_s, u"Al primo documento, all'ultimo"_s}};
 }
 
@@ -301,11 +301,11 @@ void VistaBorfte::aggiornaElenco() {
     const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
     const QModelIndex cella = m_modello->index(corrente, ordinale(Colonna::DataRegistrazione));
-    m_scelta->rimetti(cella, m_form.righeScelte());
+    m_scelta->rimetti(cella, m_form.scelta().ritrova());
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));
     if (!prima)
         m_elenco->scrollTo(cella);
-    else if (m_form.scelte().visua == Visua::DallUltima)
+    else if (m_form.opzioni().scelte().visua == Visua::DallUltima)
         mostraUltima();
 }
 
@@ -319,9 +319,9 @@ void VistaBorfte::keyPressEvent(QKeyEvent* evento) {
     const bool esce = evento->key() == Qt::Key_Escape && evento->modifiers() == Qt::NoModifier;
     if (inCerca && evento->key() == Qt::Key_Down) {
         vaiA(m_elenco);
-    } else if (esce && (inCerca || !m_form.scelte().cercato.isEmpty())) {
+    } else if (esce && (inCerca || !m_form.opzioni().scelte().cercato.isEmpty())) {
         m_cerca->clear();
-        legami.esegui([this] { m_form.cerca({}); });
+        legami.esegui([this] { m_form.opzioni().cerca({}); });
         vaiA(m_elenco);
     } else {
         Vista::keyPressEvent(evento);

@@ -49,11 +49,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
     guarda(registro);
     for (int colonna = 0; colonna < bor::colonneElenco; ++colonna)
         registro.ordina(static_cast<bor::Colonna>(colonna));
-    registro.cambiaFiltro(bor::FiltroFatture::SoloPa);
+    registro.opzioni().cambiaFiltro(bor::FiltroFatture::SoloPa);
     guarda(registro);
-    registro.cambiaSelvis(bor::Selvis::Ultime1000);
-    registro.apri(0, bor::Colonna::Numero);
-    registro.apri(0, bor::Colonna::NomePdf);
+    registro.opzioni().cambiaSelvis(bor::Selvis::Ultime1000);
+    registro.apertura().cella(0, bor::Colonna::Numero);
+    registro.apertura().cella(0, bor::Colonna::NomePdf);
     for (const auto tipo :
          {bor::TipoRiordino::PerNumero, bor::TipoRiordino::PerData, bor::TipoRiordino::PerProtocollo})
         registro.riordino(tipo);

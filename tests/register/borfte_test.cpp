@@ -67,9 +67,9 @@ TEST_F(RegistroTest, MostraIDocumentiComeStannoSuFile) {
     EXPECT_EQ(form().righeGriglia(), 25);
     EXPECT_EQ(form().testo(24, Colonna::Cliente), QString());
 
-    form().cambiaFiltro(FiltroFatture::SoloPa);
+    form().opzioni().cambiaFiltro(FiltroFatture::SoloPa);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"3"}));
-    form().cambiaFiltro(FiltroFatture::Normali);
+    form().opzioni().cambiaFiltro(FiltroFatture::Normali);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"1", u"2", u"4"}));
 }
 
@@ -137,16 +137,16 @@ TEST_F(RegistroTest, LaVistaPreferitaRestaNelleImpostazioni) {
     for (int i = 1; i <= 24; ++i)
         azienda.documento(documentoDi(1, QString::number(i), i, 0));
     apri();
-    EXPECT_EQ(form().scelte().selvis, Selvis::Tutte);
+    EXPECT_EQ(form().opzioni().scelte().selvis, Selvis::Tutte);
     EXPECT_EQ(form().primaRigaVisibile(), 0);
-    form().cambiaVisua(Visua::DallUltima);
-    form().cambiaSelvis(Selvis::Ultime5000);
+    form().opzioni().cambiaVisua(Visua::DallUltima);
+    form().opzioni().cambiaSelvis(Selvis::Ultime5000);
     // The grid keeps 26 rows with its header, of which the fourth is the first to be seen.
     EXPECT_EQ(form().primaRigaVisibile(), 3);
     EXPECT_EQ(azienda.leggi(QStringLiteral("borlano.gnr")).left(2), QByteArray("\x0c\0", 2));
     apri();
-    EXPECT_EQ(form().scelte().selvis, Selvis::Ultime5000);
-    EXPECT_EQ(form().scelte().visua, Visua::DallUltima);
+    EXPECT_EQ(form().opzioni().scelte().selvis, Selvis::Ultime5000);
+    EXPECT_EQ(form().opzioni().scelte().visua, Visua::DallUltima);
 }
 
 TEST_F(RegistroTest, ApreDocumentiEPdf) {
@@ -159,21 +159,21 @@ TEST_F(RegistroTest, ApreDocumentiEPdf) {
     azienda.documento(eliminata);
     apri();
     prova().sistema.esitoApri = 2;
-    form().apri(0, Colonna::Pdf);
+    form().apertura().cella(0, Colonna::Pdf);
     ASSERT_EQ(prova().sistema.aperti.size(), 1);
     EXPECT_TRUE(prova().sistema.aperti[0].endsWith(QStringLiteral("/suprok/PDF/FTR1.pdf")));
     EXPECT_EQ(prova().operatore.messaggi.back().testo,
               QStringLiteral("Si è verificato l'errore 2 - File PDF non trovato"));
-    form().apri(1, Colonna::Cliente);
+    form().apertura().cella(1, Colonna::Cliente);
     EXPECT_EQ(prova().operatore.messaggi.back().testo, QStringLiteral("Fattura annullata"));
-    form().apri(20, Colonna::Cliente);
+    form().apertura().cella(20, Colonna::Cliente);
     EXPECT_TRUE(prova().navigatore.mostrati.isEmpty());
-    form().apri(0, Colonna::Cliente);
+    form().apertura().cella(0, Colonna::Cliente);
     EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftea});
     EXPECT_EQ(documento.recordfattura, 1);
     EXPECT_EQ(documento.recordcliente, cliente);
-    form().fatturaElettronica(1);
-    form().fatturaElettronica(0);
+    form().apertura().fatturaElettronica(1);
+    form().apertura().fatturaElettronica(0);
     EXPECT_EQ(prova().navigatore.mostrati, (QList{Schermo::Borftea, Schermo::Borftel}))
         << "a deleted document has none";
     EXPECT_EQ(documento.recordfattura, 1);
@@ -181,11 +181,11 @@ TEST_F(RegistroTest, ApreDocumentiEPdf) {
 
 TEST_F(RegistroTest, UnDocumentoNuovoVuoleUnCliente) {
     apri();
-    form().nuovoDocumento(0);
+    form().apertura().nuovo(0);
     EXPECT_EQ(prova().operatore.messaggi.back().testo, QStringLiteral("Nessuna anagrafica memorizzata"));
     EXPECT_TRUE(prova().navigatore.mostrati.isEmpty());
     azienda.cliente(QStringLiteral("Rossi"));
-    form().nuovoDocumento(1);
+    form().apertura().nuovo(1);
     EXPECT_EQ(prova().navigatore.mostrati, QList{Schermo::Borftem});
     EXPECT_EQ(documento.tipodocumento(), 1);
 }
@@ -223,7 +223,7 @@ TEST_F(RegistroTest, SiCercaPerNumeroAnnoClienteImportoEData) {
     azienda.documento(eliminata);
     apri();
     const auto trovati = [this](const QString& testo) {
-        form().cerca(testo);
+        form().opzioni().cerca(testo);
         return colonna(form(), Colonna::Registrazione).join(u' ');
     };
     EXPECT_EQ(trovati(QStringLiteral("12")), QStringLiteral("1 2 3")) << "numbers and part of a name";
@@ -276,7 +276,7 @@ TEST_F(RegistroTest, SegnaIDocumentiSenzaRigheEFiltraIMovimentiCheNonVanno) {
         note.append(form().nota(r));
     const QString senza = QStringLiteral("Le righe non sono su file: aprite il documento e salvatelo");
     EXPECT_EQ(note, (QStringList{{}, {}, {}, senza, {}}));
-    form().cambiaFiltro(FiltroFatture::MovimentoDaControllare);
+    form().opzioni().cambiaFiltro(FiltroFatture::MovimentoDaControllare);
     EXPECT_EQ(colonna(form(), Colonna::Registrazione), lista({u"2", u"3", u"4"}));
     EXPECT_EQ(form().nota(0), QStringLiteral("Dare e avere del movimento contabile non pareggiano: 22,00"));
     EXPECT_EQ(form().nota(1), QStringLiteral("Il movimento contabile differisce dal documento: -2,00"));

@@ -78,7 +78,7 @@ TEST_F(RiordinoTest, UnRifiutoNonToccaNullaERiportaIBottoni) {
     form.comandoRiordino().scegli();
     EXPECT_EQ(form.comandoRiordino().etichetta(),
               QStringLiteral("Seleziona il tipo di riordino da eseguire"));
-    form.apri(0, Colonna::DataRegistrazione);
+    form.apertura().cella(0, Colonna::DataRegistrazione);
     EXPECT_TRUE(prova.operatore.messaggi.isEmpty()) << "no document opens while the choice is pending";
     form.riordino(TipoRiordino::PerData);
     EXPECT_FALSE(form.comandoRiordino().scelta());

@@ -179,7 +179,7 @@ protected:
     /// The screens of a document in turn, its panels among them.
     void apri(int riga, const QList<Schermo>& schermi, const std::function<void(Schermo)>& guarda) {
         finestra->mostra(Schermo::Borfte);
-        modulo->borfte().apriDocumento(riga);
+        modulo->borfte().apertura().documento(riga);
         for (const Schermo schermo : schermi) {
             modulo->contesto().sessione.righelette = false;
             finestra->mostra(schermo);
@@ -200,7 +200,7 @@ protected:
             modulo->borftea().mostraProspetto(prospetto);
             apri(3, {Schermo::Borftea}, guarda);
         }
-        modulo->borfte().cambiaFiltro(FiltroFatture::SoloPa);
+        modulo->borfte().opzioni().cambiaFiltro(FiltroFatture::SoloPa);
         apri(0, {Schermo::Borftepa, Schermo::Borftel}, guarda);
         for (const auto prospetto : {Borftel::Prospetto::Righe, Borftel::Prospetto::Azienda}) {
             modulo->borftel().mostra(prospetto);
@@ -208,7 +208,7 @@ protected:
             assesta();
             guarda(Schermo::Borftel);
         }
-        modulo->borfte().cambiaFiltro(FiltroFatture::Tutte);
+        modulo->borfte().opzioni().cambiaFiltro(FiltroFatture::Tutte);
     }
 
     const QFont solito = QApplication::font();

@@ -150,7 +150,7 @@ TEST_F(VistaRegistroTest, InvioApreIlDocumentoEInizioEFineVannoAgliEstremi) {
 TEST_F(VistaRegistroTest, SiScelgonoPiuDocumentiCheRestanoQuelli) {
     const auto scelti = [this] {
         QList<int> record;
-        for (const Identita& scelto : form->scelti())
+        for (const Identita& scelto : form->scelta().documenti())
             record.append(scelto.record);
         return record;
     };
@@ -184,12 +184,12 @@ TEST_F(VistaRegistroTest, TuttiSonoQuelliCercatiSenzaLeRigheVuote) {
     scrivi(*vista, QStringLiteral("edith"));
     tasto(*vista, Qt::Key_Down);
     griglia->setCurrentIndex(griglia->model()->index(20, 0));
-    EXPECT_TRUE(form->scelti().empty()) << "a blank row";
+    EXPECT_TRUE(form->scelta().documenti().empty()) << "a blank row";
     tasto(*vista, Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(form->scelti().size(), 15U);
-    EXPECT_EQ(form->scelti().front().record, 2);
+    EXPECT_EQ(form->scelta().documenti().size(), 15U);
+    EXPECT_EQ(form->scelta().documenti().front().record, 2);
     tasto(*vista, Qt::Key_Escape);
-    EXPECT_EQ(form->scelti().size(), 15U);
+    EXPECT_EQ(form->scelta().documenti().size(), 15U);
     EXPECT_EQ(griglia->selectionModel()->selectedRows().size(), 15);
 }
 
