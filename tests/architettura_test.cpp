@@ -33,15 +33,17 @@ const std::map<std::string, Cartelle> frecce = {
     {"xmlcheck", {"common"}},
     {"document", {"common", "archive"}},
     {"register", {"common", "archive", "document"}},
+    {"prospetti", {"common", "archive", "document"}},
     {"posting", {"common", "archive", "document"}},
     {"output", {"common", "archive", "document"}},
     {"einvoice", {"common", "archive", "document", "xmlcheck"}},
     {"fatturapa", {"common", "archive", "document", "xmlcheck"}},
     {"ui",
-     {"common", "archive", "document", "register", "posting", "output", "xmlcheck", "einvoice", "fatturapa"}},
+     {"common", "archive", "document", "prospetti", "register", "posting", "output", "xmlcheck", "einvoice",
+      "fatturapa"}},
     {"app",
-     {"common", "archive", "document", "register", "posting", "output", "xmlcheck", "einvoice", "fatturapa",
-      "ui"}},
+     {"common", "archive", "document", "prospetti", "register", "posting", "output", "xmlcheck", "einvoice",
+      "fatturapa", "ui"}},
 };
 
 struct Inclusione {

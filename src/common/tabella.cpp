@@ -12,6 +12,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -254,6 +255,10 @@ private:
     int m_colonna = 0;
 };
 
+bool daLeggere(const Tabella& tabella, int riga) {
+    return !tabella.subtotale || !tabella.subtotale(riga);
+}
+
 } // namespace
 
 bool scriviCsv(const Tabella& tabella, QIODevice& uscita) {
@@ -266,6 +271,8 @@ bool scriviCsv(const Tabella& tabella, QIODevice& uscita) {
         celle.testo(colonna.didascalia);
     celle.fineRiga();
     for (int r = 0; r < tabella.righe && getto.riuscito(); ++r) {
+        if (!daLeggere(tabella, r))
+            continue;
         tabella.riga(r, celle);
         celle.fineRiga();
     }
@@ -280,8 +287,11 @@ bool scriviJson(const Tabella& tabella, QIODevice& uscita) {
     getto.aggiungi(QByteArrayView(",\"filtro\":"));
     celle.stringa(tabella.filtro);
     getto.aggiungi(QByteArrayView(",\"righe\":["));
+    QByteArrayView fra = "\n";
     for (int r = 0; r < tabella.righe && getto.riuscito(); ++r) {
-        getto.aggiungi(QByteArrayView(r > 0 ? ",\n" : "\n"));
+        if (!daLeggere(tabella, r))
+            continue;
+        getto.aggiungi(std::exchange(fra, ",\n"));
         celle.inizioRiga();
         tabella.riga(r, celle);
         celle.fineRiga();

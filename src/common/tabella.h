@@ -46,6 +46,9 @@ struct Tabella {
     std::function<void(int riga, CelleRiga& celle)> riga;
     /// Gives the row of the totals; without it there is none.
     std::function<void(CelleRiga& celle)> totali = {};
+    /// Tells the rows that add up others: bold on paper, and left out where a program reads on. Without it
+    /// there are none.
+    std::function<bool(int riga)> subtotale = {};
     int decimali = 2; ///< of amounts; 0 for books in lire
 };
 

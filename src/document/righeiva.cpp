@@ -37,9 +37,17 @@ void mettiImportoIva(CoppiaFte& coppia, VoceIva voce, int riga, double importo) 
 }
 
 double sommaIva(const CoppiaFte& coppia, VoceIva voce) {
-    double somma = importoIva(coppia, voce, 2) + importoIva(coppia, voce, 1);
+    return sommaIva(coppia.fte, coppia.f2e, voce);
+}
+
+double sommaIva(const Fte& fte, const F2e& f2e, VoceIva voce) {
+    const struct {
+        const Fte& fte;
+        const F2e& f2e;
+    } meta{fte, f2e};
+    double somma = double{*cella(meta, voce, 2)} + *cella(meta, voce, 1);
     for (int r = 3; r <= righeIva; ++r)
-        somma += importoIva(coppia, voce, r);
+        somma += *cella(meta, voce, r);
     return somma;
 }
 

@@ -17,5 +17,6 @@ void mettiImportoIva(CoppiaFte& coppia, VoceIva voce, int riga, double importo);
 /// Sum of the twelve rows. Row 2 is added before row 1: the order decides the last bit of the sum, and the
 /// books of the suite were made with it.
 double sommaIva(const CoppiaFte& coppia, VoceIva voce);
+double sommaIva(const Fte& fte, const F2e& f2e, VoceIva voce);
 
 } // namespace bor

@@ -1,5 +1,6 @@
 #include "register/elencofatture.h"
 
+#include "archive/nomiclienti.h"
 #include "archive/raffica.h"
 #include "common/date.h"
 #include "common/posti.h"
@@ -89,12 +90,7 @@ void ElencoFatture::leggiNomi(const Archivio& archivio) {
     int ultimo = 0;
     for (const Riga& riga : m_righe)
         ultimo = std::max<int>(ultimo, riga.cliente);
-    m_nomi.assign(postoDaZero(ultimo + 1), QString());
-    const auto suFile = static_cast<int>(archivio.cli.lunghezza() / qint64{sizeof(Cli)} + 1);
-    archivio.cli.scorri(1, std::min(ultimo, suFile), [this](int n, const Cli& cli) {
-        elemento(m_nomi, n) = puliscitesto(cli.sede.ragione1.text());
-        return true;
-    });
+    m_nomi = nomiClienti(archivio, ultimo);
 }
 
 QString ElencoFatture::nomeCliente(const Riga& riga) const {

@@ -96,7 +96,8 @@ public:
                 m_tabella.riga(r, m_celle);
             if (totale)
                 m_penna.drawLine(QPointF(0, y), QPointF(m_misura.width(), y));
-            riga(y, totale ? m_neretto : m_testo);
+            const bool grassetto = totale || (m_tabella.subtotale && m_tabella.subtotale(r));
+            riga(y, grassetto ? m_neretto : m_testo);
         }
         m_penna.setFont(m_testo);
         m_penna.drawText(QRectF(0, m_misura.height() - m_passo, m_misura.width(), m_passo),

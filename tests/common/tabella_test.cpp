@@ -114,6 +114,13 @@ TEST(Tabella, IlJsonHaTitoloFiltroRigheETotali) {
     EXPECT_EQ(oggetto[u"totali"_s].toObject()[u"importo"_s].toDouble(), -1234.5);
 }
 
+TEST(Tabella, LeRigheCheNeSommanoAltreNonVannoAiProgrammi) {
+    Tabella tabella = fatture();
+    tabella.subtotale = [](int riga) { return riga == 0; };
+    EXPECT_EQ(csv(tabella).count("\r\n"), 2);
+    EXPECT_EQ(json(tabella)[u"righe"_s].toArray().size(), 1);
+}
+
 TEST(Tabella, UnaScritturaFallitaLasciaIlFileDiPrima) {
     QFile piena(u"/dev/full"_s);
     ASSERT_TRUE(piena.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
