@@ -2,6 +2,7 @@
 
 #include "common/avvio.h"
 #include "document/avvisi.h"
+#include "fatturapa/archiviofel.h"
 #include "output/generapdf.h"
 #include "output/layout.h"
 #include "output/stampafattura.h"
@@ -57,7 +58,12 @@ ComandiEsterni Modulo::comandi(Stampante& stampante) {
                 },
             .scegliPdf = [this] { bor::scegliPdf(m_documento, m_contesto); },
             .fatturaPa = [this] { m_contesto.navigatore.mostra(Schermo::Borftepa); },
-            .fatturaElettronica = [this] { m_contesto.navigatore.mostra(Schermo::Borftel); }};
+            .fatturaElettronica = [this] { m_contesto.navigatore.mostra(Schermo::Borftel); },
+            .registraCollegata =
+                [this](const Collegata& collegata) {
+                    ArchivioFel propri(m_archivio);
+                    return propri.collega(m_documento.coppia.fte, collegata.numero, collegata.data);
+                }};
 }
 
 } // namespace bor

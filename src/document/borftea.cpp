@@ -3,6 +3,7 @@
 #include "common/date.h"
 #include "document/apridoc.h"
 #include "document/avvisi.h"
+#include "document/duplica.h"
 #include "document/scadenze.h"
 
 #include <utility>
@@ -39,13 +40,33 @@ void Borftea::riprendi() {
     m_contesto.sessione.documentoletto = true;
     m_contesto.sessione.righelette = false;
     m_prospetto = Prospetto::RigheIva;
+    inizia();
+}
+
+void Borftea::inizia() {
     m_numeroletto = m_documento.estremi.numero.trimmed();
     m_dataletta = m_documento.estremi.data;
     m_numeri.reset();
 }
 
+bool Borftea::prendiCopia(Copia come) {
+    auto copia = copiaDocumento(m_contesto, m_documento.recordfattura, come, m_sospese);
+    if (!copia)
+        return false;
+    m_documento = *std::move(copia);
+    m_contesto.sessione.testataletta = true;
+    m_aperto = {}; // leaving would lose all of it
+    inizia();
+    return true;
+}
+
 void Borftea::apri() {
     m_contesto.sessione.regimicambiati = false;
+    if (const auto copia = std::exchange(m_contesto.sessione.copia, std::nullopt)) {
+        if (!prendiCopia(*copia))
+            lascia();
+        return;
+    }
     if (nuovo()) {
         // What was typed in the head form, the screen before this one, stays.
         Testata testata = std::move(m_documento.testata);
@@ -60,9 +81,7 @@ void Borftea::apri() {
         m_documento = *std::move(letto);
         m_contesto.sessione.testataletta = true;
     }
-    m_numeroletto = m_documento.estremi.numero.trimmed();
-    m_dataletta = m_documento.estremi.data;
-    m_numeri.reset();
+    inizia();
     m_aperto = m_documento;
 }
 

@@ -31,6 +31,8 @@ public:
         Righe,
         Pdf,
         Elimina,
+        Duplica,
+        NotaCredito,
         Stampa,
         Anteprima,
         Testata,
@@ -119,6 +121,10 @@ private:
     void righe();
     void elimina();
     void testata();
+    void copia(Copia come);
+    bool prendiCopia(Copia come);
+    void inizia();
+    void registraCollegata();
     void fatturaElettronica();
 
     Contesto& m_contesto;

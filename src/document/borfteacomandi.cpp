@@ -5,6 +5,8 @@
 #include "document/eliminadoc.h"
 #include "document/modifiche.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -25,7 +27,10 @@ bool Borftea::abilitato(Comando comando) const {
     switch (comando) {
     case Comando::Elimina:
     case Comando::Testata:
+    case Comando::Duplica:
         return !nuovo();
+    case Comando::NotaCredito:
+        return !nuovo() && !m_documento.notaCredito();
     case Comando::Stampa:
         return m_comandi.stampa != nullptr;
     case Comando::Anteprima:
@@ -58,6 +63,10 @@ void Borftea::esegui(Comando comando) {
         return;
     case Comando::Elimina:
         return elimina();
+    case Comando::Duplica:
+        return copia(Copia::Duplicato);
+    case Comando::NotaCredito:
+        return copia(Copia::NotaDiCredito);
     case Comando::Stampa:
         return stampa();
     case Comando::Anteprima:
@@ -111,10 +120,34 @@ void Borftea::salva() {
     if (esito.dopo == DopoSalva::Resta)
         return;
     m_contesto.sessione.ultimosalvato = m_documento.recordfattura;
+    registraCollegata();
     if (esito.dopo == DopoSalva::Movimento)
         m_contesto.sessione.modificamovimento = esito.modificamovimento;
     chiudi();
     m_contesto.navigatore.mostra(esito.dopo == DopoSalva::Movimento ? Schermo::Borftec : Schermo::Borfte);
+}
+
+void Borftea::registraCollegata() {
+    const Collegata collegata = std::exchange(m_documento.collegata, {});
+    if (collegata.numero.isEmpty() || !m_comandi.registraCollegata || m_comandi.registraCollegata(collegata))
+        return;
+    m_contesto.operatore.messaggio(
+        u"La nota di credito è registrata, ma il file borlano.fel dell'azienda non si è potuto scrivere: "
+        u"nella fattura "
+        u"elettronica (F9) la fattura collegata, n. %1 del %2, va scritta a mano."_s.arg(collegata.numero,
+                                                                                         collegata.data),
+        u"Attenzione"_s, Icona::Esclamazione);
+}
+
+/// The document on file is the model: what was typed over it is asked about, as it is before leaving.
+void Borftea::copia(Copia come) {
+    if ((modificato() && !uscireSenzaRegistrare(m_contesto)) || !prendiCopia(come))
+        return;
+    m_prospetto = Prospetto::RigheIva;
+    m_pdfVisibile = false;
+    m_finestra.scorri(1);
+    m_fuoco = PostoTea{CampoTea::Numero};
+    m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
 void Borftea::elimina() {

@@ -16,7 +16,7 @@ namespace bor {
 namespace {
 
 // The last two digits are the version: they count up when a member comes, goes or changes its meaning.
-constexpr QByteArrayView marcaBozza = "BORBOZ01";
+constexpr QByteArrayView marcaBozza = "BORBOZ02";
 constexpr QByteArrayView marcaRighe = "BORRIG01";
 constexpr auto algoritmo = QCryptographicHash::Sha256;
 constexpr qsizetype lunghezzaImpronta = 32;

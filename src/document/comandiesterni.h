@@ -6,6 +6,8 @@
 
 namespace bor {
 
+struct Collegata;
+
 struct ComandiEsterni {
     /// Prints the document in the form, then makes its PDF and sends it; false when nothing was printed.
     std::function<bool()> stampa;
@@ -17,6 +19,9 @@ struct ComandiEsterni {
     std::function<void()> fatturaPa;
     /// Opens today's electronic invoice of the document as it is stored.
     std::function<void()> fatturaElettronica;
+    /// Keeps for the electronic invoice of the document, which is stored by now, which invoice it corrects;
+    /// false when that could not be written.
+    std::function<bool(const Collegata&)> registraCollegata;
 };
 
 } // namespace bor

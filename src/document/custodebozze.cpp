@@ -122,11 +122,13 @@ void CustodeBozze::dopo(Schermo schermo) {
     // A screen that cannot open its document has meanwhile led back to the register.
     if (!conDocumento(schermo) || schermo != m_schermo || !m_intatto)
         return;
-    // What a screen fills in by itself is nothing typed.
+    // What a screen fills in by itself is nothing typed. A new document that does not begin at its head is
+    // made from another one: all of it counts as typed.
+    const bool copia = !m_base && schermo == Schermo::Borftea && m_documento.recordfattura == 0;
     if (!m_base)
         m_suFile = m_documento.recordfattura > 0 ? m_contesto.archivio.leggi(m_documento.recordfattura)
                                                  : vuoto<CoppiaFte>();
-    m_base = contenuto();
+    m_base = copia ? QByteArray() : contenuto();
 }
 
 bool CustodeBozze::accetta(const Bozza& bozza) const {

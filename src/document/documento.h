@@ -90,6 +90,12 @@ struct Prospetti {
 /// What the line above the command bar says of a document that integrates a supplier's invoice.
 enum class Integrata { No, ReverseCharge, Intracomunitaria };
 
+/// The invoice that a credit note corrects, for its electronic invoice.
+struct Collegata {
+    QString numero; ///< empty for none
+    QString data;   ///< "dd/mm/yyyy"
+};
+
 struct Documento {
     int recordfattura = 0; ///< `fte` record; 0 for a new document
     int recordcliente = 0; ///< `cli` record of the chosen customer, stored by the next save; 0 for none yet
@@ -104,6 +110,7 @@ struct Documento {
     TabellaRighep dddp = TabellaRighep(righeParcella);
     bool scorporo = false; ///< prices of the goods lines include VAT
     Integrata integrata = Integrata::No;
+    Collegata collegata; ///< waits for the first save, which gives the document the stamp it is kept under
 
     /// 0 invoice or fee bill, 1 credit note. It never changes once the document is begun, so the kind on
     /// screen and the kind read (`tipodocumentoletto`) are one.

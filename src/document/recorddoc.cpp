@@ -194,7 +194,6 @@ void iniziaRecord(CoppiaFte& coppia) {
     sbianca(f2e.datx);
     fte.impx.fill(0.0);
     f2e.impx.fill(0.0);
-    fte.parcella = 0;
     fte.flagx1 = 0;
     fte.flagx2 = 0;
     f2e.resy2 = 0.0;

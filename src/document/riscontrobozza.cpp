@@ -58,7 +58,6 @@ bool numeroUsato(const Archivio& archivio, const Documento& documento) {
 void riscontraNuovo(Documento& documento, const Contesto& contesto, QStringList& cambiato) {
     Fte& fte = documento.coppia.fte;
     fte.tipo = fte.tipo == 1 ? 1 : 0;
-    fte.parcella = 0;
     if (fte.nfile != 0.0F)
         fte.nfile = daAssegnare;
     if (numeroUsato(contesto.archivio, documento))

@@ -102,13 +102,18 @@ void visita(auto& a, Tale<Rigap> auto& x) {
     a(data, descrizione, spese, anticipazioni, onorari);
 }
 
+void visita(auto& a, Tale<Collegata> auto& x) {
+    auto& [numero, data] = x;
+    a(numero, data);
+}
+
 void visita(auto& a, Tale<Documento> auto& x) {
     auto& [recordfattura, recordcliente, recordfpa, coppia, cliente, testata, estremi, scadenze, prospetti,
-           ddd, dddp, scorporo, integrata] = x;
+           ddd, dddp, scorporo, integrata, collegata] = x;
     a(limitato(recordfattura, 0, Archivio::massimo, 0), limitato(recordcliente, 0, Archivio::massimo, 0),
       recordfpa, coppia, cliente, testata, estremi, scadenze, prospetti, tabellaFissa(ddd, righeMerce),
       tabellaFissa(dddp, righeParcella), scorporo,
-      limitato(integrata, 0, ordinale(Integrata::Intracomunitaria), 0));
+      limitato(integrata, 0, ordinale(Integrata::Intracomunitaria), 0), collegata);
 }
 
 } // namespace bor

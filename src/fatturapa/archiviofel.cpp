@@ -179,6 +179,17 @@ bool ArchivioFel::salva(const Fte& fte, const DocumentoFel& documento) {
     });
 }
 
+bool ArchivioFel::collega(const Fte& fte, const QString& numero, const QString& data) {
+    return cambia([&](FileFel& file) {
+        const QString sezione = sezioneDocumento(fte);
+        auto dati = leggiCampi<DocumentoFel>(file, sezione);
+        dati.collegatanumero = numero;
+        dati.collegatadata = data;
+        scriviCampi(file, sezione, std::move(dati));
+        return true;
+    });
+}
+
 QStringList ArchivioFel::progressivi(std::span<const Fte> documenti, const Occupato& occupato) {
     QStringList dati;
     const bool scritti = cambia([&](FileFel& file) {

@@ -33,6 +33,8 @@ public:
     bool salva(const NatureFel& nature);
     bool salva(int record, const Cli& cli, const ClienteFel& cliente);
     bool salva(const Fte& fte, const DocumentoFel& documento);
+    /// The invoice that a credit note corrects; whatever else is kept of the document stays.
+    bool collega(const Fte& fte, const QString& numero, const QString& data);
 
     using Occupato = std::function<bool(const QString&)>;
     /// The progressives of the documents' files, in their order: of each the one it has, or the next one,

@@ -49,6 +49,12 @@ void AperturaDocumenti::fatturaElettronica(int riga) {
         apri(m_elenco.record(riga), Schermo::Borftel);
 }
 
+void AperturaDocumenti::copia(int riga, Copia come) {
+    m_contesto.sessione.copia = come;
+    documento(riga);
+    m_contesto.sessione.copia.reset(); // also where nothing opened
+}
+
 void AperturaDocumenti::ultimo() {
     if (!m_riordino.fermo())
         return;

@@ -24,6 +24,8 @@ public:
     /// Enter on a row: its document.
     void documento(int riga);
     void fatturaElettronica(int riga);
+    /// A new document made from that of a row.
+    void copia(int riga, Copia come);
     /// The document saved last in this run.
     void ultimo();
 

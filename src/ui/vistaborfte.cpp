@@ -276,6 +276,13 @@ void VistaBorfte::creaScorciatoie() {
     scorciatoia(u"Ctrl+F"_s, u"Cerca un documento"_s, [this] { vaiA(m_cerca); });
     scorciatoia(u"Ctrl+R"_s, u"Riapre l'ultimo documento registrato"_s,
                 [this] { legami.esegui([this] { m_form.apertura().ultimo(); }); });
+    const auto copia = [this](Copia come) {
+        return [this, come] {
+            legami.esegui([&] { m_form.apertura().copia(m_elenco->currentIndex().row(), come); });
+        };
+    };
+    scorciatoia(u"Ctrl+F2"_s, u"Duplica il documento scelto"_s, copia(Copia::Duplicato));
+    scorciatoia(u"Ctrl+F3"_s, u"Nota di credito dal documento scelto"_s, copia(Copia::NotaDiCredito));
     altriTasti = {{u"Inizio, Fine"_s, u"Al primo documento, all'ultimo"_s}};
 }
 

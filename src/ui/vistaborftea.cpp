@@ -9,7 +9,10 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMenu>
+#include <QShortcut>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -155,6 +158,8 @@ QWidget* VistaBorftea::creaComandi() {
     comando(linea, 10, Comando::FatturaPa, u"Fattura PA"_s, u"fatturapa"_s, u"F8"_s);
     comando(linea, 11, Comando::FatturaElettronica, u"Elettronica"_s, u"elettronica"_s, u"F9"_s);
     linea->spazio(6);
+    comando(linea, 12, Comando::Duplica, u"Duplica"_s, u"copia"_s, u"Ctrl+F2"_s);
+    offriNotaCredito(*barra->findChild<QToolButton*>(u"bottone(12)"_s));
     comando(linea, 4, Comando::Elimina, u"Elimina"_s, u"elimina"_s, u"Ctrl+F9"_s);
     linea->molla();
     auto* regimi = new QLabel(u"Regimi cambiati: confermare le righe"_s);
@@ -169,6 +174,23 @@ QWidget* VistaBorftea::creaComandi() {
     legami.visibile(integrata, [this] { return !m_form.integrata().isEmpty(); });
     linea->addWidget(integrata);
     return barra;
+}
+
+/// The arrow beside the button: the bar has neither the room nor the letter for one more.
+void VistaBorftea::offriNotaCredito(QToolButton& duplica) {
+    const QString testo = u"Nota di credito da questo documento"_s;
+    const QKeySequence tasto(u"Ctrl+F3"_s);
+    const auto esegui = [this] { this->esegui(Comando::NotaCredito); };
+    auto* menu = new QMenu(&duplica);
+    QAction* voce = menu->addAction(testo + u'\t' + tasto.toString(QKeySequence::NativeText), this, esegui);
+    voce->setObjectName(u"notacredito"_s);
+    duplica.setMenu(menu);
+    duplica.setPopupMode(QToolButton::MenuButtonPopup);
+    legami.altro([this, voce] { voce->setEnabled(m_form.abilitato(Comando::NotaCredito)); });
+    auto* scorciatoia = new QShortcut(tasto, this);
+    scorciatoia->setAutoRepeat(false);
+    scorciatoia->setWhatsThis(testo);
+    connect(scorciatoia, &QShortcut::activated, this, esegui);
 }
 
 void VistaBorftea::collegaPercorso(const RiquadroTea& estremi, const RiquadroTea& scadenze,

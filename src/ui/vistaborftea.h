@@ -7,6 +7,7 @@
 #include "ui/vista.h"
 
 class QStackedWidget;
+class QToolButton;
 
 namespace bor {
 
@@ -32,6 +33,7 @@ private:
     QWidget* creaTotali();
     QWidget* creaPdf(const BancoTea& banco);
     QWidget* creaComandi();
+    void offriNotaCredito(QToolButton& duplica);
     void collegaPercorso(const RiquadroTea& estremi, const RiquadroTea& scadenze, const RiquadroTea& ricavi);
     void mostraProspetto(Prospetto prospetto);
     void comando(Flusso* barra, int indice, Borftea::Comando quale, const QString& testo,

@@ -263,6 +263,26 @@ TEST_F(CustodeTest, UnDocumentoNuovoTornaConLeRigheNonConfermate) {
     EXPECT_EQ(file().filter(u".bozza"_s), QStringList());
 }
 
+TEST_F(CustodeTest, UnaNotaDiCreditoFattaDaUnaFatturaTornaColRiferimento) {
+    CoppiaFte coppia = documentoDi(1, u"8"_s, 100, 22);
+    coppia.fte.parcella = 1;
+    azienda.documento(coppia);
+    {
+        Corsa corsa(azienda);
+        corsa.documento = {};
+        corsa.prova.sessione = {.codiceazienda = 7, .copia = Copia::NotaDiCredito};
+        corsa.documento.recordfattura = 1;
+        corsa.navigatore.mostra(Schermo::Borftea);
+        corsa.custode.conserva();
+        EXPECT_EQ(file(), QStringList{u"1.bozza"_s}) << "all of it is new, though nobody typed";
+    }
+    Corsa dopo(azienda);
+    EXPECT_EQ(dopo.vetrina.mostrati.last(), Schermo::Borftea);
+    EXPECT_EQ(dopo.documento.collegata.numero + dopo.documento.collegata.data, u"815/03/2015");
+    EXPECT_TRUE(dopo.documento.notaCredito() && dopo.documento.parcella());
+    EXPECT_EQ(dopo.documento.dddp[0].descrizione, u"Storno della parcella n. 8 del 15/03/2015");
+}
+
 TEST_F(CustodeTest, ConNoOLasciandoIlDocumentoLaBozzaSparisce) {
     documento(u"1"_s, 42000.5);
     interrompi(1);

@@ -66,6 +66,23 @@ TEST(ArchivioFel, TieneAziendaClientiEDocumentiEOgniLineaCheNonConosce) {
     EXPECT_EQ(ancora.documento(documentoCon(42078.5)).cig, u"Z1");
 }
 
+TEST(ArchivioFel, LaFatturaCollegataNonToccaIlResto) {
+    AziendaDiProva azienda;
+    ContestoDiProva contesto(azienda);
+    ArchivioFel propri(contesto.archivio);
+    Fte fte = documentoDi(1, u"9"_s, 1, 0).fte;
+    fte.stamp = 42000.5;
+    ASSERT_TRUE(propri.salva(fte, DocumentoFel{.cup = u"J1"_s}));
+    const QString file = propri.progressivo(fte, [](const QString&) { return false; });
+    ASSERT_TRUE(propri.collega(fte, u"8/A"_s, u"01/02/2015"_s));
+    ArchivioFel dopo(contesto.archivio);
+    dopo.leggi();
+    EXPECT_EQ(
+        dopo.documento(fte),
+        (DocumentoFel{
+            .file = file, .collegatanumero = u"8/A"_s, .collegatadata = u"01/02/2015"_s, .cup = u"J1"_s}));
+}
+
 TEST(ArchivioFel, IProgressiviSonoCinqueCifreInBase36) {
     EXPECT_EQ(prossimoProgressivo(u""), u"00001");
     EXPECT_EQ(prossimoProgressivo(u"0000Z"), u"00010");
