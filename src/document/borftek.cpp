@@ -90,7 +90,7 @@ QString Borftek::avviso(Cella cella) const {
 }
 
 void Borftek::cambia(Cella cella, const QString& testo) {
-    m_modificato = true;
+    modificato();
     m_lineafuoco = cella.linea;
     Rigap& cambiata = riga(cella.linea);
     if (double* x = importo(cambiata, cella.campo))
@@ -108,7 +108,7 @@ void Borftek::invio(Cella cella) {
         m_fuoco = Cella{Campo::Data, cella.linea + 1};
     } else if (m_finestra.riga(linee - 1) <= m_finestra.ultima()) {
         // The keyboard reaches row 190; the last ten are for the scroll bar.
-        m_finestra.scorri(m_finestra.prima() + 1);
+        scorri(m_finestra.prima() + 1);
         m_fuoco = Cella{Campo::Data, linee - 1};
     }
 }
@@ -129,7 +129,7 @@ void Borftek::scegliPrestazione(int indice) {
     if (testo.isEmpty())
         return;
     int posto = m_finestra.riga(m_lineafuoco);
-    m_modificato = true;
+    modificato();
     riga(m_lineafuoco).data.clear();
     while (!testo.isEmpty()) {
         elemento(m_righe, posto - 1).descrizione = staccaLinea(testo);
@@ -143,14 +143,14 @@ void Borftek::scegliPrestazione(int indice) {
 }
 
 void Borftek::inserisciRiga() {
-    m_modificato = true;
+    modificato();
     m_righe.pop_back();
     m_righe.insert(m_righe.begin() + (m_finestra.riga(m_lineafuoco) - 1), Rigap{});
     vaiAllInizio();
 }
 
 void Borftek::eliminaRiga() {
-    m_modificato = true;
+    modificato();
     m_righe.erase(m_righe.begin() + (m_finestra.riga(m_lineafuoco) - 1));
     m_righe.emplace_back();
 }

@@ -7,6 +7,7 @@
 #include "document/cella.h"
 #include "document/documento.h"
 #include "document/finestrarighe.h"
+#include "document/incollarighe.h"
 
 #include <optional>
 #include <utility>
@@ -37,14 +38,14 @@ public:
     /// Why a box is marked; empty for one that nothing is wrong with.
     QString avviso(Cella cella) const;
     void cambia(Cella cella, const QString& testo);
-    void entra(Cella cella) { m_lineafuoco = cella.linea; }
+    void entra(Cella cella);
     /// The rows scroll on where the last line is left.
     void invio(Cella cella);
     /// The box that the last event sends the operator to; asking takes the wish away.
     std::optional<Cella> prendiFuoco() { return std::exchange(m_fuoco, std::nullopt); }
 
     const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
-    void scorri(int prima) { m_finestra.scorri(prima); }
+    void scorri(int prima);
 
     /// Descriptions of the services, empty ones included.
     QStringList prestazioni() const;
@@ -52,6 +53,16 @@ public:
     int edizione() const { return m_edizione; }
     /// Puts a service into the row with the focus and those below it; its amounts go to the last of them.
     void scegliPrestazione(int indice);
+
+    /// Up (-1) or down: the row is chosen with those before, and the next one too.
+    void scegli(int verso);
+    /// The row of a line is among those that were chosen to be copied.
+    bool scelta(int linea) const;
+    /// The chosen rows, or that of the line last entered, as text.
+    QString copia() const;
+    /// What would become of the rows of a text in front of the line last entered, and putting them in.
+    Incollate provaIncolla(const QString& testo) const;
+    void incolla(const QString& testo);
 
     void inserisciRiga();
     void eliminaRiga();
@@ -67,6 +78,9 @@ public:
 private:
     Rigap& riga(int linea) { return elemento(m_righe, m_finestra.riga(linea) - 1); }
     const Rigap& riga(int linea) const { return elemento(m_righe, m_finestra.riga(linea) - 1); }
+    int rigaFuoco() const { return m_finestra.riga(m_lineafuoco); }
+    void vaiARiga(int riga);
+    void modificato();
     void vaiAllInizio() { m_fuoco = Cella{Campo::Data, m_lineafuoco}; }
     void salvarighe() { m_documento.dddp = m_righe; }
 
@@ -77,7 +91,8 @@ private:
     QList<Prestazione> m_prestazioni;
     FinestraRighe m_finestra{linee, righeParcella - linee + 1};
     std::optional<Cella> m_fuoco;
-    int m_lineafuoco = 0; ///< the line last entered
+    int m_lineafuoco = 0;        ///< the line last entered
+    std::optional<int> m_ancora; ///< the row at which choosing began; the other end is that of the focus
     int m_edizione = 0;
     bool m_modificato = false; ///< something was typed since the lines were opened
 };

@@ -122,6 +122,7 @@ std::optional<Borftex::Cella> Borftex::prendiFuoco() {
 
 void Borftex::scorri(int prima) {
     m_finestra.scorri(prima);
+    m_ancora.reset();
     m_digitato.reset();
     m_errata.reset();
     m_ricerca.reset();

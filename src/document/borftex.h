@@ -5,6 +5,7 @@
 #include "document/documento.h"
 #include "document/elencoarticoli.h"
 #include "document/finestrarighe.h"
+#include "document/incollarighe.h"
 #include "document/righemerce.h"
 
 #include <QStringList>
@@ -80,6 +81,16 @@ public:
     void cambiaOpzione(Opzione quale, bool accesa);
     void esegui(Comando comando);
 
+    /// Up (-1) or down: the row is chosen with those before, and the next one too.
+    void scegli(int verso);
+    /// The row of a line is among those that were chosen to be copied.
+    bool scelta(int linea) const;
+    /// The chosen rows, or that of the line last entered, as text.
+    QString copia() const;
+    /// What would become of the rows of a text in front of the line last entered, and putting them in.
+    Incollate provaIncolla(const QString& testo);
+    void incolla(const QString& testo);
+
 private:
     struct Ricerca {
         QString testo;
@@ -93,6 +104,7 @@ private:
     void vaiARiga(Campo campo, int riga);
     void prossimaLinea(int linea);
     void muovi(int verso);
+    TrovaArticolo perCodice();
     void pagina(int verso);
     void indietro();
     void apriLista();
@@ -117,6 +129,7 @@ private:
     std::optional<Cella> m_errata;    ///< the box whose article does not exist
     std::optional<Ricerca> m_ricerca; ///< of a description, while F1 goes on with it
     int m_lineafuoco = 0;             ///< the line last entered
+    std::optional<int> m_ancora;      ///< the row at which choosing began; the other end is that of the focus
     Campo m_campofuoco{};             ///< the box last entered
     bool m_listaIva = false;
     bool m_barcode = false;

@@ -7,6 +7,8 @@ using namespace Qt::StringLiterals;
 namespace bor {
 
 void Borftex::entra(Cella cella) {
+    if (cella != Cella{m_campofuoco, m_lineafuoco})
+        m_ancora.reset();
     if (cella.linea != m_lineafuoco) {
         m_digitato.reset();
         m_ricerca.reset();
@@ -92,6 +94,7 @@ void Borftex::vaiARiga(Campo campo, int riga) {
 
 void Borftex::modificato() {
     m_modificato = true;
+    m_ancora.reset();
     m_digitato.reset();
     m_ricerca.reset();
 }

@@ -2,6 +2,8 @@
 
 #include "archive/contesto.h"
 
+using namespace Qt::StringLiterals;
+
 namespace bor {
 
 void ElencoArticoli::dimentica() {
@@ -10,6 +12,11 @@ void ElencoArticoli::dimentica() {
 }
 
 bool ElencoArticoli::apri() {
+    m_visibile = carica();
+    return m_visibile;
+}
+
+bool ElencoArticoli::carica() {
     if (m_contesto.archivio.leggiTot(Conta::Art).numero < 1)
         return false;
     if (!m_caricata) {
@@ -19,8 +26,15 @@ bool ElencoArticoli::apri() {
         m_posizione = -1;
         ++m_edizione;
     }
-    m_visibile = true;
     return true;
+}
+
+int ElencoArticoli::perCodice(const QString& codice) {
+    constexpr qsizetype caratteri = 15;
+    if (codice.size() > caratteri || !carica())
+        return 0;
+    const int posizione = m_lista.cerca(riempi(codice, caratteri) + u" - "_s);
+    return posizione < 0 ? 0 : m_lista.recart(posizione);
 }
 
 int ElencoArticoli::cerca(QStringView inizio) {

@@ -27,10 +27,14 @@ public:
     /// Moves to the first article that begins with the text. Its `art` record; 0, and the list stays, when
     /// there is none or the list was not read.
     int cerca(QStringView inizio);
+    /// `art` record of the whole code, case aside; the list is read for it and stays where it is. 0 for none.
+    int perCodice(const QString& codice);
     /// Moves to a position. Its `art` record; 0 where there is none.
     int scegli(int posizione);
 
 private:
+    bool carica();
+
     Contesto& m_contesto;
     ListaArticoli m_lista;
     int m_posizione = -1;

@@ -219,6 +219,14 @@ void RigheMerce::inserisci(int n) {
     ricalcolaTutto();
 }
 
+bool RigheMerce::apri(int n, int quante) {
+    const auto inUso = [](const Riga& r) { return r != Riga(); };
+    if (n - 1 + quante > righeMerce || std::any_of(m_righe.end() - quante, m_righe.end(), inUso))
+        return false;
+    std::rotate(m_righe.begin() + (n - 1), m_righe.end() - quante, m_righe.end());
+    return true;
+}
+
 void RigheMerce::elimina(int n) {
     const auto riga = m_righe.begin() + (n - 1);
     std::copy(riga + 1, m_righe.end(), riga);

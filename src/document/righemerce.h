@@ -7,6 +7,8 @@
 #include "document/documento.h"
 #include "document/totaliriga.h"
 
+#include <QStringList>
+
 #include <optional>
 #include <utility>
 
@@ -55,6 +57,8 @@ public:
     bool sciogli(int n);
 
     void inserisci(int n);
+    /// Empty rows in front of row n. False, and nothing changes, where rows in use would be lost.
+    bool apri(int n, int quante);
     void elimina(int n);
     void ordina();
 
@@ -63,6 +67,8 @@ public:
     /// The row of the last additional text of the row's article that still stands below it; the row itself
     /// for none.
     int ultimaDelTesto(int n) const;
+    /// The lines of text that go with an article, without the empty ones; none for record 0.
+    QStringList testiDi(int recart) const;
     /// What the status line says of the row's article; empty for a row without one.
     QString stato(int n);
 

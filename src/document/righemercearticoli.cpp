@@ -31,6 +31,10 @@ QStringList testoAggiuntivo(const Archivio& archivio, int recart) {
 
 } // namespace
 
+QStringList RigheMerce::testiDi(int recart) const {
+    return recart > 0 ? testoAggiuntivo(m_contesto.archivio, recart) : QStringList();
+}
+
 bool RigheMerce::metti(int n, int recart, Da da) {
     if (!leggiarticolo(m_contesto.archivio, recart, m_articolo))
         return false;

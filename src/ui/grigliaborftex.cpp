@@ -2,6 +2,7 @@
 
 #include "ui/campi.h"
 #include "ui/cursorerighe.h"
+#include "ui/finestraincolla.h"
 #include "ui/invio.h"
 #include "ui/legami.h"
 
@@ -12,6 +13,7 @@
 #include <QListWidget>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +39,20 @@ constexpr Serie<Colonna, Campo::Artic, Campo::Civ> disposizione({{{u"artic", u"A
                                                                   {u"sc2", u"Secondo sconto", 3, true},
                                                                   {u"prezzo", u"Prezzo", 12, true},
                                                                   {u"civ", u"Iva", 2, false}}});
+
+/// Those of the window that tells what would be pasted.
+constexpr std::array<ColonnaGriglia, 10> colonneIncolla = {{
+    {u"Riga", 500, Qt::AlignRight},
+    {u"Articolo", 1300},
+    {u"Descrizione", 3000},
+    {u"UM", 400},
+    {u"Quantità", 900, Qt::AlignRight},
+    {u"Sc. 1", 500, Qt::AlignRight},
+    {u"Sc. 2", 500, Qt::AlignRight},
+    {u"Prezzo", 1000, Qt::AlignRight},
+    {u"Iva", 400},
+    {u"Rilievi", 3000},
+}};
 
 /// Columns of the layout: the row's number, the boxes, the row's rate and amount.
 constexpr int colonnaDi(Campo campo) {
@@ -156,6 +172,8 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     } else {
         m_legami.testo(nuovo, leggi, [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
     }
+    nuovo->setProperty("linea", cella.linea);
+    m_legami.altro([this, nuovo, cella] { segna(nuovo, "scelta", m_form.scelta(cella.linea)); });
     m_legami.segnala(nuovo, [this, cella] { return m_form.avviso(cella); });
     m_legami.entrato(nuovo, [this, cella] { m_form.entra(cella); });
     m_legami.lasciato(nuovo, [this, cella] { m_form.lascia(cella); });
@@ -224,6 +242,10 @@ bool GrigliaBorftex::eventFilter(QObject* oggetto, QEvent* evento) {
     const auto* tasto = static_cast<QKeyEvent*>(evento);
     const QString nome = oggetto->objectName();
     if (nome.startsWith(u"civ(") && m_form.listaIva() && tastoIva(tasto->key(), tasto->text()))
+        return true;
+    const auto& campo = static_cast<QLineEdit&>(*oggetto);
+    if (tastoRighe(*tasto, campo, campo.property("linea").toInt(), m_legami, m_form, colonneIncolla,
+                   window()))
         return true;
     const auto comando = comandoDi(tasto->keyCombination());
     if (!comando)

@@ -76,6 +76,7 @@ QString foglioDiStile(Tono tono) {
         "QLineEdit { padding: 1px 3px; border: 1px solid @bordo; border-radius: 2px; background: @campo; }"
         "QLineEdit:read-only { background: @fermo; }"
         "QLineEdit:disabled { background: @fermo; color: @spento; }"
+        "QLineEdit[scelta=\"true\"] { background: @scelta; }"
         "QLineEdit:focus { border: 1px solid @fuoco; background: @acceso; }"
         "QLineEdit[scarto=\"true\"] { color: @allarme; font-weight: bold; }"
         "QLineEdit[errato=\"true\"] { border: 1px solid @allarme; background: @errato; }"
@@ -107,6 +108,7 @@ QString foglioDiStile(Tono tono) {
                                               {u"@acceso"_s, u"#FFFBE0"_s, u"#38351F"_s},
                                               {u"@allarme"_s, u"#B00020"_s, u"#FF9A94"_s},
                                               {u"@consiglio"_s, u"#8A5A00"_s, u"#F0C36A"_s},
+                                              {u"@scelta"_s, u"#D3E5F6"_s, u"#25405C"_s},
                                               {u"@errato"_s, u"#FDE3E3"_s, u"#4C2426"_s}})
         foglio.replace(nome, scuro ? scura : chiara);
     return foglio;

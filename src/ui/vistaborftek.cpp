@@ -4,6 +4,7 @@
 #include "ui/barracomandi.h"
 #include "ui/campodata.h"
 #include "ui/cursorerighe.h"
+#include "ui/finestraincolla.h"
 #include "ui/flusso.h"
 
 #include <QGridLayout>
@@ -37,6 +38,17 @@ constexpr std::array<Colonna, 5> colonne = {{
     {Campo::Onorari, u"prezzo", u"Onorari"},
 }};
 
+/// Those of the window that tells what would be pasted.
+constexpr std::array<ColonnaGriglia, 7> colonneIncolla = {{
+    {u"Riga", 500, Qt::AlignRight},
+    {u"Data", 1000},
+    {u"Descrizione prestazione", 3000},
+    {u"Anticipazioni", 1200, Qt::AlignRight},
+    {u"Spese", 1000, Qt::AlignRight},
+    {u"Onorari", 1000, Qt::AlignRight},
+    {u"Rilievi", 3000},
+}};
+
 } // namespace
 
 VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_form(form) {
@@ -52,7 +64,8 @@ VistaBorftek::VistaBorftek(Borftek& form, QWidget* parent) : Vista(parent), m_fo
         if (const auto cella = m_form.prendiFuoco())
             vaiA(m_campi[cella->linea][cella->campo]);
     });
-    altriTasti = {{u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s}};
+    altriTasti =
+        tastiRighe() + QList<TastoSchermo>{{u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s}};
 }
 
 QWidget* VistaBorftek::creaRighe() {
@@ -96,6 +109,9 @@ void VistaBorftek::lega(Borftek::Cella cella, QLineEdit* casella) {
     legami.testo(
         casella, [this, cella] { return m_form.testo(cella); },
         [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
+    casella->setProperty("linea", cella.linea);
+    casella->installEventFilter(this);
+    legami.altro([this, casella, cella] { segna(casella, "scelta", m_form.scelta(cella.linea)); });
     legami.segnala(casella, [this, cella] { return m_form.avviso(cella); });
     legami.entrato(casella, [this, cella] { m_form.entra(cella); });
     invio.passo(casella, [this, cella] { legami.esegui([&] { m_form.invio(cella); }); });
@@ -166,6 +182,14 @@ void VistaBorftek::lascia() {
 
 QString VistaBorftek::titolo() const {
     return m_form.titolo();
+}
+
+bool VistaBorftek::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (evento->type() != QEvent::KeyPress)
+        return Vista::eventFilter(oggetto, evento);
+    const auto& campo = static_cast<QLineEdit&>(*oggetto);
+    return tastoRighe(static_cast<const QKeyEvent&>(*evento), campo, campo.property("linea").toInt(), legami,
+                      m_form, colonneIncolla, this);
 }
 
 void VistaBorftek::keyPressEvent(QKeyEvent* evento) {

@@ -21,6 +21,7 @@ public:
     QString titolo() const override;
 
 protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
 

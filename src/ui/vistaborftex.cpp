@@ -4,6 +4,7 @@
 #include "ui/affiancati.h"
 #include "ui/barracomandi.h"
 #include "ui/campi.h"
+#include "ui/finestraincolla.h"
 #include "ui/flusso.h"
 #include "ui/grigliaborftex.h"
 
@@ -81,6 +82,7 @@ VistaBorftex::VistaBorftex(Borftex& form, QWidget* parent)
                   {u"Su, Giù"_s, u"Lo stesso campo della riga sopra, di quella sotto"_s},
                   {u"PagSu, PagGiù"_s, u"Le righe precedenti, le seguenti"_s},
                   {u"Ctrl+Fine"_s, u"La prima riga libera"_s}};
+    altriTasti += tastiRighe();
     auto* stato = new QLabel;
     stato->setObjectName(u"listx"_s);
     stato->setAccessibleName(u"Articolo della riga"_s);

@@ -4,6 +4,9 @@
 #include "ui/gesti.h"
 #include "ui/vistaborftex.h"
 
+#include <QClipboard>
+#include <QDialog>
+#include <QGuiApplication>
 #include <QListView>
 #include <QListWidget>
 #include <QScrollBar>
@@ -53,6 +56,46 @@ protected:
     std::unique_ptr<Borftex> form;
     std::unique_ptr<VistaBorftex> vista;
 };
+
+TEST_F(VistaRigheTest, RigheCopiateEIncollateConITasti) {
+    mostra(*vista);
+    digita(u"vite"_s, u"100"_s, {}, {});
+    libera(u"Montaggio"_s, u"h"_s, u"2,5"_s, u"40,00"_s);
+    QClipboard& appunti = *QGuiApplication::clipboard();
+    controllo(*vista, u"artic(0)"_s)->setFocus(Qt::TabFocusReason);
+    tasto(*vista, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(appunti.text(), u"VITE") << "the selected text of the box";
+    tasto(*vista, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(fuoco(*vista), u"artic(1)"_s);
+    EXPECT_TRUE(controllo(*vista, u"ds(0)"_s)->property("scelta").toBool());
+    foto(*vista, u"righe_scelte"_s);
+    tasto(*vista, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(appunti.text(),
+              u"VITE\tVite a legno\tpz\t100\t5\t\t1,25\t01\n\tMontaggio\th\t2,5\t5\t\t40\t01\n");
+    tasto(*vista, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_FALSE(controllo(*vista, u"ds(0)"_s)->property("scelta").toBool());
+    EXPECT_EQ(fuoco(*vista), u"artic(3)"_s);
+    EXPECT_EQ(testoDi(*vista, u"ds(1)"_s) + testoDi(*vista, u"ds(2)"_s), u"Vite a legnoMontaggio"_s);
+
+    appunti.setText(u"DADO\t\t\tdieci\nPERNO\t\t\t10\n"_s);
+    for (const Qt::Key risposta : {Qt::Key_Escape, Qt::Key_Return}) {
+        tasto(*vista, Qt::Key_V, Qt::ControlModifier);
+        auto* finestra = vista->window()->findChild<QDialog*>(u"incolla"_s);
+        ASSERT_TRUE(finestra);
+        EXPECT_TRUE(testoDi(*finestra, u"rilieviRiga"_s).contains(u"\"dieci\" non è un numero"_s));
+        EXPECT_EQ(testoDi(*vista, u"ds(3)"_s), u"Montaggio"_s) << "nothing goes in unasked";
+        foto(*finestra, u"righe_da_incollare"_s);
+        tasto(*finestra, risposta);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_EQ(testoDi(*vista, u"ds(3)"_s) + testoDi(*vista, u"quantita(3)"_s), u"Dado esagonale"_s);
+    EXPECT_EQ(testoDi(*vista, u"quantita(4)"_s), u"10"_s);
+
+    appunti.setText(u"Vite\n"_s);
+    controllo(*vista, u"ds(7)"_s)->setFocus();
+    tasto(*vista, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(testoDi(*vista, u"ds(7)"_s).startsWith(u"Vite"_s)) << "one cell goes into the box";
+}
 
 TEST_F(VistaRigheTest, DieciRigheConISoliTasti) {
     mostra(*vista);

@@ -1,5 +1,8 @@
 #include "tour/giro.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace bor::tour {
@@ -100,6 +103,24 @@ void fatturaEsistente(Giro& giro) {
     giro.tasto(Qt::Key_Escape);
 }
 
+/// A credit note made from that invoice, and rows of a spreadsheet that are pasted into it.
+void notaDallaFattura(Giro& giro) {
+    giro.tasto(Qt::Key_F3, Qt::ControlModifier);
+    giro.foto(u"nota-da-fattura"_s);
+    giro.tasto(Qt::Key_F3);
+    giro.foto(u"righe-nota-da-fattura"_s);
+    QGuiApplication::clipboard()->setText(u"Articolo\tDescrizione\tUM\tQuantità\tSconti\t\tPrezzo\tIva\n"
+                                          "ARR001\t\t\t2\n"
+                                          "ARC001\t\t\t1.250\t\t\t2,50\t1\n"
+                                          "XX99\tMontaggio in sede\th\ttre\t5\t\t42,50\t37\n"
+                                          "\tConsegna al piano, come da accordi\n"_s);
+    giro.tasto(Qt::Key_V, Qt::ControlModifier);
+    giro.foto(u"righe-da-incollare"_s);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_Escape);
+}
+
 void fatturaPa(Giro& giro) {
     giro.vaiSu(u"Combo1"_s);
     giro.tasto(Qt::Key_Down);
@@ -137,6 +158,7 @@ void percorri(Giro& giro) {
     testata(giro);
     fatturaNuova(giro);
     fatturaEsistente(giro);
+    notaDallaFattura(giro);
     fatturaPa(giro);
     fatturaElettronica(giro);
 }
