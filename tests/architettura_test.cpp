@@ -38,12 +38,13 @@ const std::map<std::string, Cartelle> frecce = {
     {"output", {"common", "archive", "document"}},
     {"einvoice", {"common", "archive", "document", "xmlcheck"}},
     {"fatturapa", {"common", "archive", "document", "xmlcheck"}},
+    {"lotto", {"common", "archive", "document", "output", "xmlcheck", "einvoice", "fatturapa"}},
     {"ui",
      {"common", "archive", "document", "prospetti", "register", "posting", "output", "xmlcheck", "einvoice",
-      "fatturapa"}},
+      "fatturapa", "lotto"}},
     {"app",
      {"common", "archive", "document", "prospetti", "register", "posting", "output", "xmlcheck", "einvoice",
-      "fatturapa", "ui"}},
+      "fatturapa", "lotto", "ui"}},
 };
 
 struct Inclusione {

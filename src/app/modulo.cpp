@@ -32,6 +32,7 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
       m_borftea(m_contesto, m_documento, m_registrazioni, m_sospese, comandi(porte.stampante)),
       m_borftepa(m_contesto, m_documento),
       m_borftel(m_contesto, m_documento, m_sospese, [this] { return caricaTestiPdf(m_archivio).cartella(); }),
+      m_scelti(m_contesto, m_sospese, porte.stampante),
       m_bozze(m_contesto, m_documento, {m_borftem, m_borftea, m_borftex, m_borftek}, m_sospese.cartella()) {
     m_navigatore.affida(m_bozze);
     m_sessione.codiceazienda = codiceazienda;

@@ -13,6 +13,7 @@
 #include "document/righeinsospeso.h"
 #include "einvoice/borftepa.h"
 #include "fatturapa/borftel.h"
+#include "lotto/scelti.h"
 #include "posting/borftec.h"
 #include "posting/registrazionicontabili.h"
 #include "register/borfte.h"
@@ -47,6 +48,7 @@ public:
     Borftec& borftec() { return m_borftec; }
     Borftepa& borftepa() { return m_borftepa; }
     Borftel& borftel() { return m_borftel; }
+    Scelti& scelti() { return m_scelti; }
     CustodeBozze& bozze() { return m_bozze; }
     Documento& documento() { return m_documento; }
 
@@ -75,6 +77,7 @@ private:
     Borftea m_borftea;
     Borftepa m_borftepa;
     Borftel m_borftel;
+    Scelti m_scelti;
     CustodeBozze m_bozze;
 };
 

@@ -20,6 +20,12 @@ namespace {
 
 enum class Intestazione { No, DelDocumento };
 
+/// What a screen has beside its form.
+void corredo(Vista&, Modulo&) {}
+void corredo(VistaBorfte& registro, Modulo& modulo) {
+    registro.offri(modulo.scelti());
+}
+
 /// `form` is the one of the screen; the view is made when the screen is first shown.
 template <class VistaDelloSchermo, class Form>
 void aggiungi(Finestra& finestra, Modulo& modulo, Schermo schermo, Form& form,
@@ -32,7 +38,13 @@ void aggiungi(Finestra& finestra, Modulo& modulo, Schermo schermo, Form& form,
             vista.intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
     };
     finestra.aggiungi(
-        schermo, [&form] { return new VistaDelloSchermo(form); }, completa);
+        schermo,
+        [&form, &modulo] {
+            auto* vista = new VistaDelloSchermo(form);
+            corredo(*vista, modulo);
+            return vista;
+        },
+        completa);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "common/registroposta.h"
 #include "document/comandiesterni.h"
 #include "document/dato.h"
 #include "document/documento.h"
@@ -15,6 +16,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace bor {
 
@@ -101,6 +103,9 @@ public:
     bool regimiCambiati() const { return m_documento.parcella() && m_contesto.sessione.regimicambiati; }
     QString integrata() const; ///< `Label3`; empty when it is hidden
     bool pdfVisibile() const { return m_pdfVisibile; }
+
+    /// The mails that the document went out with, the latest first.
+    std::vector<VocePosta> posta() const;
 
     bool abilitato(Comando comando) const;
     /// Runs a command; a disabled one does nothing.

@@ -3,6 +3,7 @@
 #include "document/avvisi.h"
 #include "document/borftea.h"
 #include "document/eliminadoc.h"
+#include "document/identita.h"
 #include "document/modifiche.h"
 
 #include <utility>
@@ -82,6 +83,11 @@ void Borftea::esegui(Comando comando) {
     case Comando::ApriPdf:
         return ApriPDF(m_contesto, m_documento.estremi.pdf);
     }
+}
+
+std::vector<VocePosta> Borftea::posta() const {
+    return RegistroPosta(m_contesto.archivio.percorsi(), m_contesto.sessione.codiceazienda)
+        .voci(perPosta(m_documento));
 }
 
 void Borftea::chiudi() {

@@ -2,6 +2,7 @@
 
 #include "common/date.h"
 #include "common/testo.h"
+#include "document/documento.h"
 
 namespace bor {
 
@@ -21,6 +22,10 @@ bool stesso(const Identita& inteso, const Identita& suFile) {
 QString numeroEData(const Identita& documento) {
     return QStringLiteral("n. %1 del %2")
         .arg(puliscitesto(documento.numero.text()), dataDaAnnoMeseGiorno(documento.datadoc.text()));
+}
+
+DocumentoPosta perPosta(const Documento& documento) {
+    return {documento.estremi.numero.trimmed(), documento.estremi.data, documento.coppia.fte.stamp};
 }
 
 } // namespace bor

@@ -3,8 +3,11 @@
 #pragma once
 
 #include "archive/fte.h"
+#include "common/registroposta.h"
 
 namespace bor {
+
+struct Documento;
 
 struct Identita {
     int record = 0; ///< `fte` record; 0 for none
@@ -23,5 +26,8 @@ bool stesso(const Identita& inteso, const Identita& suFile);
 
 /// "n. 12/A del 15/03/2015".
 QString numeroEData(const Identita& documento);
+
+/// The document as the log of mails knows it.
+DocumentoPosta perPosta(const Documento& documento);
 
 } // namespace bor

@@ -155,29 +155,43 @@ EsitoFel GeneratoreFel::genera(const Documento& documento) {
 }
 
 std::vector<EsitoFel> GeneratoreFel::genera(std::span<const Documento> documenti) {
-    // A progressive is given out only to a document that can go out.
-    std::vector<Composta> composte;
-    std::vector<Fte> daNominare;
-    for (const Documento& documento : documenti) {
-        composte.push_back(componi(documento, datiPropri(documento)));
-        if (!composte.back().rifiutata())
-            daNominare.push_back(documento.coppia.fte);
-    }
-    const QStringList progressivi = m_propri.progressivi(
-        daNominare, [this](const QString& progressivo) { return QFile::exists(percorsoDi(progressivo)); });
+    std::vector<InUscitaFel> uscite;
+    for (const Documento& documento : documenti)
+        uscite.push_back(prepara(documento));
+    std::vector<InUscitaFel*> tutte;
+    for (InUscitaFel& uscita : uscite)
+        tutte.push_back(&uscita);
+    nomina(tutte);
     std::vector<EsitoFel> esiti;
-    qsizetype nominati = 0;
-    for (std::size_t i = 0; i < documenti.size(); ++i) {
-        if (composte[i].rifiutata())
-            esiti.push_back({EsitoFel::Stato::Rifiutata, {}, std::move(composte[i].rilievi)});
-        else
-            esiti.push_back(emetti(documenti[i], std::move(composte[i]), progressivi.value(nominati++)));
-    }
+    for (std::size_t i = 0; i < documenti.size(); ++i)
+        esiti.push_back(emetti(documenti[i], std::move(uscite[i])));
     return esiti;
 }
 
-EsitoFel GeneratoreFel::emetti(const Documento& documento, Composta composta,
-                               const QString& progressivo) const {
+InUscitaFel GeneratoreFel::prepara(const Documento& documento) const {
+    return {documento.coppia.fte, componi(documento, datiPropri(documento)), {}};
+}
+
+void GeneratoreFel::nomina(std::span<InUscitaFel* const> uscite) {
+    // A progressive is given out only to a document that can go out.
+    std::vector<InUscitaFel*> daNominare;
+    std::vector<Fte> documenti;
+    for (InUscitaFel* uscita : uscite) {
+        if (uscita->composta.rifiutata())
+            continue;
+        daNominare.push_back(uscita);
+        documenti.push_back(uscita->fte);
+    }
+    const QStringList progressivi = m_propri.progressivi(
+        documenti, [this](const QString& progressivo) { return QFile::exists(percorsoDi(progressivo)); });
+    for (qsizetype i = 0; i < std::ssize(daNominare); ++i)
+        daNominare[static_cast<std::size_t>(i)]->progressivo = progressivi.value(i);
+}
+
+EsitoFel GeneratoreFel::emetti(const Documento& documento, InUscitaFel uscita) const {
+    auto& [fte, composta, progressivo] = uscita;
+    if (composta.rifiutata())
+        return {EsitoFel::Stato::Rifiutata, {}, std::move(composta.rilievi)};
     EsitoFel esito{EsitoFel::Stato::NonScritta, {}, {}};
     if (progressivo.isEmpty()) {
         esito.rilievi = std::move(composta.rilievi);

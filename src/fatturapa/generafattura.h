@@ -31,6 +31,13 @@ struct ProvaFel {
     std::vector<Rilievo> rilievi;
 };
 
+/// A document on its way to its file.
+struct InUscitaFel {
+    Fte fte;
+    Composta composta;
+    QString progressivo; ///< part of the file's name; empty as long as it has none
+};
+
 /// What stands on disk of a document.
 enum class FileDocumento {
     Assente,
@@ -60,6 +67,12 @@ public:
     /// name.
     Scarto scarta(const Documento& documento);
 
+    /// The steps of `genera`, for who pauses between them: composes a document, names those composed that can
+    /// go out, all in one write, then writes the file of each.
+    InUscitaFel prepara(const Documento& documento) const;
+    void nomina(std::span<InUscitaFel* const> uscite);
+    EsitoFel emetti(const Documento& documento, InUscitaFel uscita) const;
+
     /// Folder of this machine; empty when the company names none of the program.
     const QString& cartella() const { return m_cartella; }
     /// Of the document's file on this machine; empty as long as it has no name.
@@ -75,7 +88,6 @@ private:
     QString pdfDaAllegare(const Documento& documento, const DatiFel& propri,
                           std::vector<Rilievo>& rilievi) const;
     QByteArray scrivi(const Documento& documento, const DatiFel& propri, Composta& composta) const;
-    EsitoFel emetti(const Documento& documento, Composta composta, const QString& progressivo) const;
     QString nomeFile(const QString& progressivo) const;
     QString percorsoDi(const QString& progressivo) const;
 

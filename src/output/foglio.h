@@ -27,6 +27,8 @@ public:
     bool suCarta() const { return m_stampa; }
     /// Ends the print and writes the report file. False when that could not be written.
     bool termina();
+    /// What the report file would hold so far.
+    const QByteArray& rapporto() const { return m_rapporto.bytes(); }
 
 private:
     QString percorso(const QString& file) const;

@@ -4,7 +4,9 @@
 #include "common/comandopdf.h"
 #include "common/date.h"
 #include "common/indirizzoposta.h"
-#include "common/numeri.h"
+#include "common/registroposta.h"
+#include "document/identita.h"
+#include "output/destinazionepdf.h"
 #include "output/layout.h"
 
 using namespace Qt::StringLiterals;
@@ -14,19 +16,6 @@ namespace bor {
 namespace {
 
 const QString titoloAttenzione = u"Attenzione"_s;
-
-QString programma(const Contesto& contesto) {
-    return contesto.archivio.reale(radiceSuite.toString() + u"borxpdf"_s);
-}
-
-QString layoutStrumento(const Documento& documento, const Contesto& contesto) {
-    return contesto.archivio.borlano(documento.parcella() ? u"lxp" : u"lxf");
-}
-
-QString nomePdf(const Documento& documento, const TestiPdf& testi) {
-    const QString numero = testoDecimale(valore(documento.estremi.numero));
-    return testi.cartella() + (documento.parcella() ? u"\\par"_s : u"\\ftr"_s) + numero + u".pdf"_s;
-}
 
 /// The other document that has this PDF; 0 for none.
 int altroConPdf(const Documento& documento, const Archivio& archivio, const QString& pdf) {
@@ -52,21 +41,38 @@ bool pdfLibero(const Documento& documento, const Contesto& contesto, const QStri
         titoloAttenzione, Icona::Esclamazione, Predefinita::No);
 }
 
-/// Refuses a name that the document's record would cut: it could never be opened again.
-bool entraNelRecord(const QString& nome, const Contesto& contesto) {
-    const bool entra = nome.size() <= qsizetype{sizeof(F2e::pdf)};
-    if (!entra)
-        contesto.operatore.messaggio(u"Il nome del file e della sua cartella superano i 60 caratteri"_s,
-                                     titoloAttenzione, Icona::Stop);
-    return entra;
+/// Tells why a name was refused, where it was.
+bool accettato(const QString& motivo, const Contesto& contesto) {
+    if (!motivo.isEmpty())
+        contesto.operatore.messaggio(motivo, titoloAttenzione, Icona::Stop);
+    return motivo.isEmpty();
 }
 
 bool avviaStrumento(const Contesto& contesto, const ComandoPdf& comando) {
-    const bool avviato = contesto.sistema.avvia(programma(contesto), comando.argomenti());
+    const bool avviato = contesto.sistema.avvia(strumentoPdf(contesto.archivio), comando.argomenti());
     if (!avviato)
         contesto.operatore.messaggio(
             u"Non è possibile eseguire il programma invio del documento a mezzo internet."_s,
             titoloAttenzione, Icona::Stop);
+    return avviato;
+}
+
+/// Starts the tool, and notes a mail with which it is charged.
+bool affida(const Documento& documento, const Contesto& contesto, const ComandoPdf& comando) {
+    const RegistroPosta registro(contesto.archivio.percorsi(), contesto.sessione.codiceazienda);
+    VocePosta voce{.quando = contesto.orologio.adesso(),
+                   .documento = perPosta(documento),
+                   .pdf = comando.pdf,
+                   .indirizzo = comando.indirizzo};
+    const bool conPosta = comando.indirizzo != senzaPosta;
+    if (conPosta)
+        registro.aggiungi(voce);
+    const bool avviato = avviaStrumento(contesto, comando);
+    if (conPosta && !avviato) {
+        voce.stato = StatoPosta::NonSpedita;
+        voce.motivo = u"borxpdf non si è avviato"_s;
+        registro.aggiungi(voce);
+    }
     return avviato;
 }
 
@@ -78,11 +84,9 @@ void generapdf(Documento& documento, const Contesto& contesto) {
             u"Generare il file PDF ed eventualmente inviarlo tramite posta elettronica?"_s, titoloAttenzione))
         return;
     const TestiPdf testi = caricaTestiPdf(contesto.archivio);
-    const QString pdf = nomePdf(documento, testi);
-    // Of an address only the places never written are taken away: with a line end in it, it is none.
-    QString destinatario = documento.estremi.postael
-                               ? documento.cliente.email.text().remove(QChar::Null).trimmed()
-                               : senzaPosta.toString();
+    const QString pdf = nomePdf(documento.estremi.numero, documento.parcella(), testi);
+    QString destinatario =
+        documento.estremi.postael ? indirizzoPosta(documento.cliente) : senzaPosta.toString();
     if (documento.estremi.postael && !indirizzoValido(destinatario)) {
         contesto.operatore.messaggio(
             u"L'indirizzo di posta elettronica del cliente non è valido: \"%1\". Il documento non è stato inviato."_s
@@ -90,18 +94,14 @@ void generapdf(Documento& documento, const Contesto& contesto) {
             titoloAttenzione, Icona::Stop);
         destinatario = senzaPosta.toString();
     }
-    if (pdf.contains(u',') || contesto.archivio.reale(pdf).isEmpty()) {
-        contesto.operatore.messaggio(
-            u"La cartella dei documenti PDF non è valida: \"%1\""_s.arg(testi.cartella()), titoloAttenzione,
-            Icona::Stop);
-        return;
-    }
-    if (!entraNelRecord(pdf, contesto) || !pdfLibero(documento, contesto, pdf) ||
-        !avviaStrumento(contesto, {.layout = layoutStrumento(documento, contesto),
-                                   .rapporto = contesto.rapporto,
-                                   .pdf = pdf,
-                                   .indirizzo = destinatario,
-                                   .testo = testi.testo(documento.parcella())}))
+    if (!accettato(nomeRifiutato(pdf, contesto.archivio, testi), contesto) ||
+        !pdfLibero(documento, contesto, pdf) ||
+        !affida(documento, contesto,
+                {.layout = layoutStrumento(documento.parcella(), contesto.archivio),
+                 .rapporto = contesto.rapporto,
+                 .pdf = pdf,
+                 .indirizzo = destinatario,
+                 .testo = testi.testo(documento.parcella())}))
         return;
     documento.estremi.pdf = pdf;
     if (destinatario != senzaPosta)
@@ -111,9 +111,9 @@ void generapdf(Documento& documento, const Contesto& contesto) {
 }
 
 void anteprima(const Documento& documento, const Contesto& contesto) {
-    avviaStrumento(
-        contesto,
-        {.anteprima = true, .layout = layoutStrumento(documento, contesto), .rapporto = contesto.rapporto});
+    avviaStrumento(contesto, {.anteprima = true,
+                              .layout = layoutStrumento(documento.parcella(), contesto.archivio),
+                              .rapporto = contesto.rapporto});
 }
 
 void scegliPdf(Documento& documento, const Contesto& contesto) {
@@ -130,7 +130,7 @@ void scegliPdf(Documento& documento, const Contesto& contesto) {
         return;
     if (nome.size() > 1 && nome[1] == u':')
         nome.remove(0, 2);
-    if (entraNelRecord(nome, contesto))
+    if (accettato(lunghezzaRifiutata(nome), contesto))
         documento.estremi.pdf = nome;
 }
 

@@ -45,17 +45,30 @@ void avvisaSenzaRapporto(const Contesto& contesto) {
     disco.dimentica();
 }
 
+/// Everything that the pages of a document are made of.
+struct Stampato {
+    Stampato(const Documento& documento, const Contesto& contesto)
+        : layout(caricaLayout(contesto.archivio, documento.parcella())),
+          modello(caricamodello(contesto.archivio,
+                                documento.parcella() ? CodiceModello::Parcella : CodiceModello::Fattura)),
+          pianta(documento.parcella() ? piantaParcella() : piantaFattura()),
+          dati(datiStampa(documento, contesto)) {}
+
+    bool senzaPagine() const { return pagine(layout, pianta, dati) == 0; }
+    void disegna(Foglio& foglio) const { disegnaPagine(layout, modello, pianta, dati, foglio); }
+
+    Layout layout;
+    Modello modello;
+    const Pianta& pianta;
+    DatiStampa dati;
+};
+
 /// Draws the document and tells what went wrong; `Niente` also when there was nothing to draw.
 EsitoStampa esegui(const Documento& documento, const Contesto& contesto, Stampante& stampante,
                    Foglio::Uscita uscita) {
     const Attesa attesa(contesto.operatore);
-    const bool parcella = documento.parcella();
-    const Layout layout = caricaLayout(contesto.archivio, parcella);
-    const Modello modello =
-        caricamodello(contesto.archivio, parcella ? CodiceModello::Parcella : CodiceModello::Fattura);
-    const Pianta& pianta = parcella ? piantaParcella() : piantaFattura();
-    const DatiStampa dati = datiStampa(documento, contesto);
-    const bool senzaPagine = pagine(layout, pianta, dati) == 0;
+    const Stampato stampato(documento, contesto);
+    const bool senzaPagine = stampato.senzaPagine();
     if (senzaPagine) {
         // Nothing to print: the report file is emptied, and no blank sheet leaves the printer.
         avvisaSenzaRighe(contesto);
@@ -65,7 +78,7 @@ EsitoStampa esegui(const Documento& documento, const Contesto& contesto, Stampan
     }
     contesto.archivio.disco().dimentica();
     Foglio foglio(contesto, stampante, uscita, documento.estremi.numero);
-    disegnaPagine(layout, modello, pianta, dati, foglio);
+    stampato.disegna(foglio);
     const bool scritto = foglio.termina();
     if (!scritto)
         avvisaSenzaRapporto(contesto);
@@ -84,6 +97,27 @@ EsitoStampa stampaDocumento(const Documento& documento, const Contesto& contesto
     const bool integrata = !documento.parcella() && documento.integrata != Integrata::No;
     return esegui(documento, contesto, stampante,
                   integrata ? Foglio::Uscita::SoloStampante : Foglio::Uscita::StampanteERapporto);
+}
+
+SuCarta stampaSuCarta(const Documento& documento, const Contesto& contesto, Stampante& stampante) {
+    const Stampato stampato(documento, contesto);
+    if (stampato.senzaPagine())
+        return SuCarta::SenzaRighe;
+    Foglio foglio(contesto, stampante, Foglio::Uscita::SoloStampante, documento.estremi.numero);
+    if (!foglio.suCarta())
+        return SuCarta::SenzaStampante;
+    stampato.disegna(foglio);
+    foglio.termina();
+    return SuCarta::Stampato;
+}
+
+QByteArray componiRapporto(const Documento& documento, const Contesto& contesto, Stampante& stampante) {
+    const Stampato stampato(documento, contesto);
+    if (stampato.senzaPagine())
+        return {};
+    Foglio foglio(contesto, stampante, Foglio::Uscita::SoloRapporto, documento.estremi.numero);
+    stampato.disegna(foglio);
+    return foglio.rapporto();
 }
 
 bool preparaRapporto(const Documento& documento, const Contesto& contesto, Stampante& stampante) {

@@ -17,6 +17,16 @@ enum class EsitoStampa {
 /// and a report file that could not be written are told.
 EsitoStampa stampaDocumento(const Documento& documento, const Contesto& contesto, Stampante& stampante);
 
+/// What became of a print of which nobody was asked and nobody told.
+enum class SuCarta { Stampato, SenzaRighe, SenzaStampante };
+
+/// Prints the document without a question, a message or a report file.
+SuCarta stampaSuCarta(const Documento& documento, const Contesto& contesto, Stampante& stampante);
+
+/// The bytes of the report file that a print would leave, of which nothing is written; empty for a document
+/// without lines.
+QByteArray componiRapporto(const Documento& documento, const Contesto& contesto, Stampante& stampante);
+
 /// Writes the report file without printing, for the preview; nothing is asked. False when the document has no
 /// line to print or the file could not be written.
 bool preparaRapporto(const Documento& documento, const Contesto& contesto, Stampante& stampante);

@@ -44,6 +44,21 @@ void AperturaDocumenti::documento(int riga) {
         apri(m_elenco.record(riga), Schermo::Borftea);
 }
 
+void AperturaDocumenti::documento(const Identita& quale) {
+    if (!m_riordino.fermo())
+        return;
+    if (stesso(quale, identitaDi(quale.record, m_contesto.archivio.fte.leggi(quale.record))))
+        return apri(quale.record, Schermo::Borftea);
+    m_contesto.operatore.messaggio(u"Il documento "_s + numeroEData(quale) +
+                                       u" non è più dove era: aggiornate l'elenco (F5) e cercatelo."_s,
+                                   titoloAttenzione, Icona::Esclamazione);
+}
+
+void AperturaDocumenti::avvisaInMano() const {
+    m_contesto.operatore.messaggio(u"Tornate prima al registro: un documento si apre da lì."_s,
+                                   titoloAttenzione, Icona::Informazione);
+}
+
 void AperturaDocumenti::fatturaElettronica(int riga) {
     if (m_riordino.fermo() && m_elenco.record(riga) > 0)
         apri(m_elenco.record(riga), Schermo::Borftel);

@@ -23,6 +23,10 @@ public:
     void cella(int riga, Colonna colonna);
     /// Enter on a row: its document.
     void documento(int riga);
+    /// A document that a report names; another one in its place by now is told.
+    void documento(const Identita& quale);
+    /// Tells that documents are opened from the register only.
+    void avvisaInMano() const;
     void fatturaElettronica(int riga);
     /// A new document made from that of a row.
     void copia(int riga, Copia come);

@@ -36,6 +36,13 @@ Flusso::~Flusso() {
     qDeleteAll(m_voci);
 }
 
+void Flusso::inserisciDopo(const QWidget* quale, QWidget* widget) {
+    const auto posto = std::ranges::find(m_voci, quale, &QLayoutItem::widget);
+    addChildWidget(widget);
+    m_voci.insert(posto == m_voci.end() ? posto : posto + 1, new QWidgetItem(widget));
+    invalidate();
+}
+
 void Flusso::spazio(int punti) {
     addItem(new QSpacerItem(punti, 0, QSizePolicy::Fixed, QSizePolicy::Minimum));
 }

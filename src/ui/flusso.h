@@ -12,6 +12,8 @@ public:
     explicit Flusso(QWidget* parent);
     ~Flusso() override;
 
+    /// Puts a widget behind this one.
+    void inserisciDopo(const QWidget* quale, QWidget* widget);
     void spazio(int punti);
     void molla();
 

@@ -8,6 +8,7 @@
 #include "ui/finestrainformazioni.h"
 #include "ui/flusso.h"
 #include "ui/griglia.h"
+#include "ui/menuscelti.h"
 #include "ui/sceltarighe.h"
 
 #include <QButtonGroup>
@@ -283,7 +284,30 @@ void VistaBorfte::creaScorciatoie() {
     };
     scorciatoia(u"Ctrl+F2"_s, u"Duplica il documento scelto"_s, copia(Copia::Duplicato));
     scorciatoia(u"Ctrl+F3"_s, u"Nota di credito dal documento scelto"_s, copia(Copia::NotaDiCredito));
-    altriTasti = {{u"Inizio, Fine"_s, u"Al primo documento, all'ultimo"_s}};
+    altriTasti = {{u"Inizio, Fine"_s, u"Al primo documento, all'ultimo"_s},
+                  {u"Maiusc o Ctrl con frecce o mouse"_s, u"Sceglie più documenti"_s},
+                  {u"Ctrl+A"_s, u"Sceglie tutti quelli in elenco"_s}};
+}
+
+void VistaBorfte::offri(Scelti& scelti) {
+    const MenuScelti::Registro registro{.scelta = m_form.scelta(),
+                                        .fermo = [this] { return m_form.comandoRiordino().fermo(); },
+                                        .cambiato = [this] { legami.esegui([this] { m_form.rileggi(); }); },
+                                        .apri = [this](const Identita& documento) { apri(documento); }};
+    auto* menu = new MenuScelti(scelti, registro, m_elenco, this);
+    auto* elettronica = findChild<QWidget*>(u"bottone(8)"_s);
+    static_cast<Flusso*>(elettronica->parentWidget()->layout())->inserisciDopo(elettronica, menu->bottone());
+    legami.visibile(menu->bottone(), [this] { return m_form.comandoRiordino().fermo(); });
+}
+
+/// From a window that stays open beside the screens: another document may be in hand.
+void VistaBorfte::apri(const Identita& documento) {
+    if (isVisible()) {
+        legami.esegui([&] { m_form.apertura().documento(documento); });
+        window()->activateWindow();
+    } else {
+        m_form.apertura().avvisaInMano();
+    }
 }
 
 void VistaBorfte::attiva() {

@@ -10,14 +10,19 @@ class QTableView;
 namespace bor {
 
 class Borfte;
+struct Identita;
 class CampoTesto;
 class Flusso;
 class ModelloGriglia;
+class Scelti;
 class SceltaRighe;
 
 class VistaBorfte : public Vista {
 public:
     explicit VistaBorfte(Borfte& form, QWidget* parent = nullptr);
+
+    /// Puts the commands on the chosen documents into the command bar and the list's menu.
+    void offri(Scelti& scelti);
 
     void attiva() override;
     void lascia() override;
@@ -36,6 +41,7 @@ private:
     void mostraInformazioni();
     void aggiornaElenco();
     void mostraUltima();
+    void apri(const Identita& documento);
 
     Borfte& m_form;
     ModelloGriglia* m_modello;

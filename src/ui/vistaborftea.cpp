@@ -3,6 +3,7 @@
 #include "ui/affiancati.h"
 #include "ui/barracomandi.h"
 #include "ui/cursorerighe.h"
+#include "ui/finestraposta.h"
 #include "ui/flusso.h"
 
 #include <QCheckBox>
@@ -51,6 +52,11 @@ VistaBorftea::VistaBorftea(Borftea& form, QWidget* parent) : Vista(parent), m_fo
     layout->addWidget(creaComandi());
     collegaPercorso(estremi, scadenze, ricavi);
     legami.altro([this] { seguiFuoco(); });
+    auto* posta = new QShortcut(QKeySequence(u"Ctrl+Shift+M"_s), this);
+    posta->setAutoRepeat(false);
+    posta->setWhatsThis(u"Messaggi di posta spediti"_s);
+    connect(posta, &QShortcut::activated, this,
+            [this] { (new FinestraPosta(titolo(), m_form.posta(), this))->open(); });
     altriTasti = {{u"PagSu, PagGiù"_s, u"Le prime righe iva, le ultime"_s}};
 }
 

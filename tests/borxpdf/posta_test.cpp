@@ -1,9 +1,13 @@
 #include "borxpdf/comando.h"
 #include "borxpdf/impostazioniposta.h"
+#include "borxpdf/lotto.h"
 #include "borxpdf/posta.h"
+#include "common/lottopdf.h"
+#include "common/registroposta.h"
 #include "prova.h"
 #include "serverposta.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QProcess>
 
@@ -41,8 +45,7 @@ Messaggio messaggio() {
     return {.destinatario = u"ada@bianchi.it"_s,
             .oggetto = u"Fattura 12"_s,
             .testo = u"Perché no?\n.\nSaluti"_s,
-            .nomeAllegato = u"ftr12.pdf"_s,
-            .allegato = QByteArray("%PDF\r\n.\r\n\0\xff", 12).repeated(5000)};
+            .allegati = {{u"ftr12.pdf"_s, QByteArray("%PDF\r\n.\r\n\0\xff", 12).repeated(5000)}}};
 }
 
 class PostaCifrata : public testing::Test {
@@ -99,6 +102,54 @@ TEST(Posta, IlComandoSpedisceTestoEPdfInteri) {
                                   "?=\r\n"));
 }
 
+TEST(Posta, UnLottoFaIPdfELiSpedisceInsiemeEUnGuastoNonFermaGliAltri) {
+    const Unita unita;
+    ServerPosta server({});
+    unita.scrivi(u"\\suprok\\suprok\\borxpdf.ini"_s,
+                 "[posta]\nserver=127.0.0.1\nsicurezza=nessuna\nmittente=info@rossi.it\nporta=" +
+                     QByteArray::number(server.porta()));
+    const QString layout = u"\\suprok\\suprok\\boraz0.007\\borlano.lxf"_s;
+    const QByteArray guasto = dueFogli().chopped(30);
+    const auto unPdf = [&](const QString& nome, const QByteArray& rapporto) {
+        return ComandoLotto{.layout = layout, .pdf = nome, .byte = rapporto.size()}.linea() + rapporto;
+    };
+    const QStringList pdf = {u"\\p\\ftr1.pdf"_s, u"\\p\\ftr3.pdf"_s};
+    QByteArray ingresso =
+        unPdf(pdf[0], dueFogli()) + unPdf(u"\\p\\ftr2.pdf"_s, guasto) + unPdf(pdf[1], dueFogli()) +
+        ComandoLotto{.layout = layout, .indirizzo = u"ada@bianchi.it"_s, .allegati = pdf}.linea() +
+        ComandoLotto{.layout = layout, .indirizzo = u"no"_s, .allegati = pdf}.linea();
+    QBuffer comandi(&ingresso);
+    QBuffer risposte;
+    ASSERT_TRUE(comandi.open(QIODevice::ReadOnly) && risposte.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(eseguiLotto(comandi, risposte, unita.percorsi()));
+    risposte.seek(0);
+    QList<bool> fatti;
+    while (!risposte.atEnd())
+        fatti.append(RispostaLotto::leggi(risposte.readLine()).value().errore.isEmpty());
+    EXPECT_EQ(fatti, (QList{true, false, true, true, false}));
+    EXPECT_TRUE(unita.leggi(u"\\p\\ftr2.pdf"_s).isEmpty());
+    ASSERT_EQ(server.messaggi().size(), 1);
+    const QByteArray ricevuto = server.messaggi().first();
+    EXPECT_TRUE(ricevuto.contains("filename=\"ftr1.pdf\"") && ricevuto.contains("filename=\"ftr3.pdf\""));
+    EXPECT_TRUE(ricevuto.contains("Subject: Documento n. 1, 3\r\n"));
+    EXPECT_EQ(parte(ricevuto, "application/pdf"), unita.leggi(pdf[0]));
+
+    // The log of the user tells of each.
+    const auto registro = RegistroPosta::diFile(unita.percorsi(), layout);
+    ASSERT_TRUE(registro);
+    QFile file(registro->file());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray righe = file.readAll();
+    EXPECT_EQ(righe.count("\"spedita\""), 2);
+    EXPECT_EQ(righe.count("\"non spedita\""), 2);
+
+    QByteArray rotto = "questo non e` un comando\n" + unPdf(u"\\p\\ftr9.pdf"_s, dueFogli());
+    QBuffer male(&rotto);
+    ASSERT_TRUE(male.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(eseguiLotto(male, risposte, unita.percorsi()));
+    EXPECT_TRUE(unita.leggi(u"\\p\\ftr9.pdf"_s).isEmpty());
+}
+
 TEST(Posta, UnIndirizzoCattivoNonRaggiungeIlServerEIlPdfResta) {
     const Unita unita;
     unita.scrivi(u"c:\\bordoc.rto"_s, dueFogli());
@@ -116,7 +167,7 @@ TEST(Posta, NessunTestoAggiungeUnIntestazione) {
     ServerPosta server({});
     Messaggio ostile = messaggio();
     ostile.oggetto = u"Fattura\r\nBcc: spia@x.it\r\n\r\ncorpo\0fine"_s;
-    ostile.nomeAllegato = u"a\"\r\nX-Spia: 1\r\n.pdf"_s;
+    ostile.allegati[0].nome = u"a\"\r\nX-Spia: 1\r\n.pdf"_s;
     ImpostazioniPosta impostazioni = posta(server, Sicurezza::Nessuna);
     impostazioni.nome = u"Rossi\" <altro@x.it>\nBcc: spia@x.it"_s;
     QString errore;
@@ -126,7 +177,7 @@ TEST(Posta, NessunTestoAggiungeUnIntestazione) {
     EXPECT_EQ(ricevuto.count("\nX-Spia"), 0);
     EXPECT_TRUE(ricevuto.contains("From: \"Rossi' <altro@x.it> Bcc: spia@x.it\" <info@rossi.it>\r\n"));
     EXPECT_EQ(parte(ricevuto, "text/plain"), "Perch\xc3\xa9 no?\r\n.\r\nSaluti");
-    EXPECT_EQ(parte(ricevuto, "application/pdf"), ostile.allegato);
+    EXPECT_EQ(parte(ricevuto, "application/pdf"), ostile.allegati[0].pdf);
     EXPECT_EQ(quanti(server.comandi(), "RCPT"), 1);
 }
 
@@ -162,7 +213,7 @@ TEST_F(PostaCifrata, ConStarttlsETlsLaPasswordPassaSoloCifrata) {
         QString errore;
         EXPECT_TRUE(spedisci(impostazioni, messaggio(), errore)) << qPrintable(errore);
         const QByteArrayList comandi = server.comandi();
-        EXPECT_EQ(parte(server.messaggi().value(0), "application/pdf"), messaggio().allegato);
+        EXPECT_EQ(parte(server.messaggi().value(0), "application/pdf"), messaggio().allegati[0].pdf);
         const auto accesso = comandi.join('\n').indexOf(QByteArray("\0rossi\0segreta", 14).toBase64());
         EXPECT_GT(accesso, comandi.join('\n').indexOf("STARTTLS")) << comandi.join('\n').constData();
     }

@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <initializer_list>
 #include <optional>
 
 namespace bor {
@@ -22,6 +23,23 @@ struct DocumentoPdf {
     PagineStampate stampa;
     Disegnatore disegnatore;
 };
+
+/// The layout of this name, a DOS path; a missing one means A4 and defaults.
+LayoutPdf leggiLayout(const QString& layout, const Percorsi& percorsi);
+
+/// Finds pictures without a folder in the company's own, where its layout lies.
+Disegnatore disegnatoreDi(const QString& layout, const Percorsi& percorsi);
+
+/// The bytes of a file (a DOS path); nothing when it is missing, cannot be read or is larger than `massimo`.
+std::optional<QByteArray> leggiFile(const Percorsi& percorsi, const QString& dos, qint64 massimo);
+
+/// The first text that is not empty.
+QString primoNonVuoto(std::initializer_list<QString> testi);
+
+/// Makes the PDF, a DOS path, of these pages, whole or not at all. Its bytes; none on a failure, with
+/// `errore` in Italian.
+QByteArray scriviPdf(const QString& pdf, const PagineStampate& stampa, const LayoutPdf& layout,
+                     Disegnatore& disegnatore, const Percorsi& percorsi, QString& errore);
 
 /// A missing layout means A4 and defaults; a report that cannot be used gives nothing and fills `errore`.
 std::optional<DocumentoPdf> apri(const ComandoPdf& comando, const Percorsi& percorsi, QString& errore);

@@ -58,11 +58,19 @@ QString nomeBreve(const QString& percorsoPdf) {
 }
 
 QString conNumero(QString testo, const QString& nomePdf) {
-    QString numero;
-    for (const QChar c : nomeBreve(nomePdf))
-        if (c.isDigit())
-            numero += c;
-    return testo.replace(u"{numero}"_s, numero).replace(u"\\n"_s, u"\n"_s);
+    return conNumeri(std::move(testo), {nomePdf});
+}
+
+QString conNumeri(QString testo, const QStringList& nomiPdf) {
+    QStringList numeri;
+    for (const QString& nome : nomiPdf) {
+        QString numero;
+        for (const QChar c : nomeBreve(nome))
+            if (c.isDigit())
+                numero += c;
+        numeri.append(numero);
+    }
+    return testo.replace(u"{numero}"_s, numeri.join(u", "_s)).replace(u"\\n"_s, u"\n"_s);
 }
 
 } // namespace bor::pdf

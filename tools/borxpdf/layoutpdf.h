@@ -6,6 +6,7 @@
 
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 namespace bor::pdf {
 
@@ -29,6 +30,8 @@ struct LayoutPdf {
 /// Puts the document's number, the digits of the PDF's name ("\pdf\ftr12.pdf" gives 12), in place of
 /// "{numero}", and line ends in place of "\n".
 QString conNumero(QString testo, const QString& nomePdf);
+/// The same for several documents: "12, 13".
+QString conNumeri(QString testo, const QStringList& nomiPdf);
 
 /// The PDF's name without folder and extension.
 QString nomeBreve(const QString& percorsoPdf);

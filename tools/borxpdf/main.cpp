@@ -2,12 +2,15 @@
 
 #include "borxpdf/anteprima.h"
 #include "borxpdf/comando.h"
+#include "borxpdf/lotto.h"
+#include "common/lottopdf.h"
 #include "common/percorsi.h"
 #include "common/versione.h"
 #include "ui/aspetto.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFile>
 #include <QMessageBox>
 
 #include <cstdio>
@@ -40,6 +43,17 @@ void mostraVersione(const QStringList& argomenti) {
         parser.showVersion();
 }
 
+/// Nobody is told anything in a window: who started the run gets each answer.
+int lotto(const bor::Percorsi& percorsi) {
+    QFile comandi;
+    QFile risposte;
+    return comandi.open(stdin, QIODevice::ReadOnly) &&
+                   risposte.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                   bor::pdf::eseguiLotto(comandi, risposte, percorsi)
+               ? 0
+               : 1;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -48,13 +62,15 @@ int main(int argc, char* argv[]) {
     mostraVersione(QCoreApplication::arguments());
     bor::applicaAspetto(programma);
 
+    const bor::Percorsi percorsi = bor::Percorsi::predefiniti();
+    percorsi.creaRadiceC();
+    if (QApplication::arguments().sliced(1) == QStringList{bor::opzioneLotto.toString()})
+        return lotto(percorsi);
     const auto comando = bor::ComandoPdf::leggi(QApplication::arguments().sliced(1));
     if (!comando) {
         avvisa(u"Uso: borxpdf [--anteprima] layout,rapporto,pdf,indirizzo[,testo]"_s);
         return 2;
     }
-    const bor::Percorsi percorsi = bor::Percorsi::predefiniti();
-    percorsi.creaRadiceC();
     QString errore;
     if (comando->anteprima) {
         if (auto documento = bor::pdf::apri(*comando, percorsi, errore)) {

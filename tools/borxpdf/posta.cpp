@@ -76,11 +76,13 @@ Mime corpo(CURL* curl, const Messaggio& messaggio) {
     curl_mime_type(parte, "text/plain; charset=utf-8");
     curl_mime_encoder(parte, "base64");
 
-    parte = curl_mime_addpart(mime.get());
-    curl_mime_data(parte, messaggio.allegato.constData(), static_cast<size_t>(messaggio.allegato.size()));
-    curl_mime_type(parte, "application/pdf");
-    curl_mime_filename(parte, nomeSicuro(messaggio.nomeAllegato).constData());
-    curl_mime_encoder(parte, "base64");
+    for (const Allegato& allegato : messaggio.allegati) {
+        parte = curl_mime_addpart(mime.get());
+        curl_mime_data(parte, allegato.pdf.constData(), static_cast<size_t>(allegato.pdf.size()));
+        curl_mime_type(parte, "application/pdf");
+        curl_mime_filename(parte, nomeSicuro(allegato.nome).constData());
+        curl_mime_encoder(parte, "base64");
+    }
     return mime;
 }
 

@@ -1,19 +1,25 @@
-// Sends one document by e-mail. Used by the command once the PDF is on disk.
+// Sends documents by e-mail. Used by the command once the PDFs are on disk.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 
+#include <vector>
+
 namespace bor::pdf {
 
 struct ImpostazioniPosta;
 
+struct Allegato {
+    QString nome; // without folder
+    QByteArray pdf;
+};
+
 struct Messaggio {
     QString destinatario; // must be a valid address
     QString oggetto;
-    QString testo;        // lines ended by "\n"
-    QString nomeAllegato; // without folder
-    QByteArray allegato;  // a PDF
+    QString testo; // lines ended by "\n"
+    std::vector<Allegato> allegati;
 };
 
 /// Sends and waits for the server's word. On failure `errore` says why in Italian.

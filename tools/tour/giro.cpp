@@ -6,12 +6,16 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QProcess>
 #include <QTest>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -41,11 +45,23 @@ void Giro::vaiSu(const QString& nome) {
 }
 
 QWidget& Giro::davanti() {
-    QWidget* dialogo = QApplication::activeModalWidget();
-    return dialogo ? *dialogo : m_finestra;
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+        return *menu;
+    if (QWidget* dialogo = QApplication::activeModalWidget())
+        return *dialogo;
+    auto* attivo = qobject_cast<QDialog*>(QApplication::activeWindow());
+    if (attivo && attivo->isVisible())
+        return *attivo;
+    return m_finestra;
 }
 
 void Giro::tasto(Qt::Key quale, Qt::KeyboardModifiers modi) {
+    // Where no window manager does it: a window that closed leaves the keys to the one behind it.
+    if (!QApplication::activePopupWidget() && !davanti().isActiveWindow()) {
+        davanti().activateWindow();
+        if (!QTest::qWaitForWindowActive(&davanti()))
+            fallito(u"la finestra non riprende i tasti"_s);
+    }
     QTest::keyClick(davanti().windowHandle(), quale, modi);
     QApplication::processEvents();
 }
@@ -68,6 +84,19 @@ void Giro::foto(const QString& nome) {
     QApplication::processEvents();
     if (!davanti().grab().save(m_cartella.filePath(nome + u".png"_s)))
         fallito(u"non si può scrivere "_s + nome);
+}
+
+void Giro::aspetta(const QString& nome) {
+    constexpr int secondi = 60;
+    QElapsedTimer orologio;
+    orologio.start();
+    const auto inVista = [&] {
+        const QList<QWidget*> tutti = m_finestra.findChildren<QWidget*>(nome);
+        return std::ranges::any_of(tutti, &QWidget::isVisible);
+    };
+    while (!inVista() && orologio.elapsed() < secondi * 1000)
+        QTest::qWait(5);
+    controllo(nome);
 }
 
 void Giro::pdf(const QString& nome, bool parcella) {

@@ -26,13 +26,15 @@ public:
     /// Types and goes on with Enter.
     void riga(const QString& testo);
     void foto(const QString& nome);
+    /// Waits until this control, of a window that comes by itself, is in view.
+    void aspetta(const QString& nome);
     /// Makes a PDF of the last print, with the PDF tool that lies beside this program.
     void pdf(const QString& nome, bool parcella = false);
     bool riuscito() const { return m_riuscito; }
 
 private:
     QWidget* controllo(const QString& nome);
-    /// The window that the keys go to: a dialog over the program's own, or that one.
+    /// The window that the keys go to: a menu or a dialog over the program's own, or that one.
     QWidget& davanti();
     void fallito(const QString& motivo);
 

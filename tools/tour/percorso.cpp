@@ -44,6 +44,24 @@ void parcella(Giro& giro) {
     giro.tasto(Qt::Key_Escape);
 }
 
+/// Some documents chosen at once, the commands on them, and what became of each.
+void scelti(Giro& giro) {
+    giro.vaiSu(u"elenco"_s);
+    giro.tasto(Qt::Key_Home);
+    for (int i = 0; i < 7; ++i)
+        giro.tasto(Qt::Key_Down, Qt::ShiftModifier);
+    giro.foto(u"registro-scelti"_s);
+    giro.tasto(Qt::Key_F4);
+    giro.foto(u"menu-scelti"_s);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_E, Qt::ControlModifier);
+    giro.foto(u"scelti-domanda"_s);
+    giro.tasto(Qt::Key_Return);
+    giro.aspetta(u"finestraRapporto"_s);
+    giro.foto(u"scelti-rapporto"_s);
+    giro.tasto(Qt::Key_Escape);
+}
+
 void registro(Giro& giro) {
     giro.premi(u"visua(1)"_s);
     giro.tasto(Qt::Key_F6);
@@ -154,6 +172,7 @@ void percorri(Giro& giro) {
     giro.foto(u"registro"_s);
     stampe(giro);
     parcella(giro);
+    scelti(giro);
     registro(giro);
     testata(giro);
     fatturaNuova(giro);
