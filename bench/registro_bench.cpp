@@ -1,6 +1,6 @@
 // The register of 32,000 documents: fill, filter, sort, reorder, and what the same bytes cost at the least.
+#include "grandeazienda.h"
 #include "register/borfte.h"
-#include "support/azienda.h"
 #include "ui/vistaborfte.h"
 
 #include <QApplication>
@@ -10,72 +10,25 @@
 #include <QProcess>
 #include <QTest>
 
-#include <benchmark/benchmark.h>
-
-#include <random>
-
 using namespace bor;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int documenti = 32000;
-constexpr int clienti = 1000;
-
-/// A company of 32,000 documents and 1,000 customers, made once for all measurements.
-const AziendaDiProva& grande() {
-    static const AziendaDiProva azienda;
-    static const bool pronta = [] {
-        std::mt19937 caso(7);
-        ContestoDiProva prova(azienda);
-        Archivio& a = prova.archivio;
-        for (int n = 1; n <= clienti; ++n)
-            a.cli.scrivi(n, clienteDi(u"Cliente %1 Forniture Srl"_s.arg((n * 7919) % clienti)));
-        for (int n = 1; n <= documenti; ++n) {
-            CoppiaFte c = documentoDi(1 + static_cast<int>(caso() % clienti),
-                                      QString::number(caso() % documenti), n * 1.5, n * 0.33);
-            c.fte.datareg.set(
-                QDate(2015, 1, 1).addDays(static_cast<int>(caso() % 365)).toString(u"yyyyMMdd"_s));
-            if (n % 10 == 0)
-                c.f2e.pdf.set(u"\\suprok\\pdf\\ftr.pdf");
-            if (n % 20 == 0)
-                c.f2e.fpa = n;
-            a.scrivi(n, c);
-        }
-        Tot tot = vuoto<Tot>();
-        tot.numero = documenti;
-        a.scriviTot(Conta::Fte, tot);
-        tot.numero = clienti;
-        a.scriviTot(Conta::Cli, tot);
-        return true;
-    }();
-    Q_UNUSED(pronta)
-    return azienda;
-}
 
 const AziendaDiProva& vuota() {
     static const AziendaDiProva azienda;
     return azienda;
 }
 
-void leggiTutto(const QString& percorso) {
-    QFile file(percorso);
-    file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    static QByteArray blocco(1 << 20, '\0');
-    while (file.read(blocco.data(), blocco.size()) > 0)
-        benchmark::DoNotOptimize(blocco.data());
-}
-
 void Pavimento_LetturaDeiTreFile(benchmark::State& stato) {
-    const AziendaDiProva& azienda = grande();
     for (auto _ : stato) {
         for (const QString& nome : {u"borlano.fte"_s, u"borlano.f2e"_s, u"borlano.cli"_s})
-            leggiTutto(azienda.percorso(nome));
+            leggiTutto(nome);
     }
 }
 
 void RiempimentoDellElenco(benchmark::State& stato) {
-    ContestoDiProva prova(grande());
+    ContestoDiProva prova(grandeAzienda());
     Documento documento;
     Borfte form(prova.contesto, documento);
     form.carica();
@@ -84,7 +37,7 @@ void RiempimentoDellElenco(benchmark::State& stato) {
 }
 
 void FiltroSoloPa(benchmark::State& stato) {
-    ContestoDiProva prova(grande());
+    ContestoDiProva prova(grandeAzienda());
     Documento documento;
     Borfte form(prova.contesto, documento);
     form.carica();
@@ -94,7 +47,7 @@ void FiltroSoloPa(benchmark::State& stato) {
 
 /// One key in the search box of the register on screen, up to the list painted anew.
 void TastoNellaRicerca(benchmark::State& stato) {
-    ContestoDiProva prova(grande());
+    ContestoDiProva prova(grandeAzienda());
     Documento documento;
     Borfte form(prova.contesto, documento);
     form.carica();
@@ -121,12 +74,12 @@ void TastoNellaRicerca(benchmark::State& stato) {
 
 /// The texts of a column, sorted by the standard library alone.
 void Pavimento_Ordinamento(benchmark::State& stato) {
-    ContestoDiProva prova(grande());
+    ContestoDiProva prova(grandeAzienda());
     Documento documento;
     Borfte form(prova.contesto, documento);
     form.carica();
     QStringList chiavi;
-    for (int r = 0; r < documenti; ++r)
+    for (int r = 0; r < documentiGrande; ++r)
         chiavi.append(form.testo(r, static_cast<Colonna>(stato.range(0))));
     for (auto _ : stato) {
         QStringList copia = chiavi;
@@ -136,7 +89,7 @@ void Pavimento_Ordinamento(benchmark::State& stato) {
 }
 
 void Ordinamento(benchmark::State& stato) {
-    ContestoDiProva prova(grande());
+    ContestoDiProva prova(grandeAzienda());
     Documento documento;
     Borfte form(prova.contesto, documento);
     form.carica();
@@ -151,7 +104,7 @@ void Ordinamento(benchmark::State& stato) {
 }
 
 void Pavimento_CopiaDeiDueFile(benchmark::State& stato) {
-    const AziendaDiProva& azienda = grande();
+    const AziendaDiProva& azienda = grandeAzienda();
     for (auto _ : stato) {
         for (const QString& nome : {u"borlano.fte"_s, u"borlano.f2e"_s}) {
             QFile::remove(azienda.percorso(u"copia"_s));
@@ -166,7 +119,7 @@ void Riordino(benchmark::State& stato) {
     TipoRiordino tipo = TipoRiordino::PerNumero;
     for (auto _ : stato) {
         stato.PauseTiming();
-        auto prova = std::make_unique<ContestoDiProva>(grande());
+        auto prova = std::make_unique<ContestoDiProva>(grandeAzienda());
         tipo = tipo == TipoRiordino::PerData ? TipoRiordino::PerNumero : TipoRiordino::PerData;
         stato.ResumeTiming();
         const EsitoRiordino esito = riordina(prova->archivio, tipo, [](int) {});
@@ -205,7 +158,7 @@ void Pavimento_AvvioSenzaDocumenti(benchmark::State& stato) {
 }
 
 void AvvioFinoAllElenco(benchmark::State& stato) {
-    avvio(stato, grande());
+    avvio(stato, grandeAzienda());
 }
 
 BENCHMARK(Pavimento_LetturaDeiTreFile)->Unit(benchmark::kMillisecond);

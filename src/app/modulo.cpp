@@ -33,6 +33,8 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
       m_borftepa(m_contesto, m_documento),
       m_borftel(m_contesto, m_documento, m_sospese, [this] { return caricaTestiPdf(m_archivio).cartella(); }),
       m_scelti(m_contesto, m_sospese, porte.stampante),
+      m_scadenzario(m_contesto, [this](const Identita& d) { m_borfte.apertura().documento(d); }),
+      m_datiMensili(m_contesto),
       m_bozze(m_contesto, m_documento, {m_borftem, m_borftea, m_borftex, m_borftek}, m_sospese.cartella()) {
     m_navigatore.affida(m_bozze);
     m_sessione.codiceazienda = codiceazienda;

@@ -16,6 +16,8 @@
 #include "lotto/scelti.h"
 #include "posting/borftec.h"
 #include "posting/registrazionicontabili.h"
+#include "prospetti/datimensili.h"
+#include "prospetti/scadenzario.h"
 #include "register/borfte.h"
 #include "register/borsel.h"
 
@@ -49,6 +51,8 @@ public:
     Borftepa& borftepa() { return m_borftepa; }
     Borftel& borftel() { return m_borftel; }
     Scelti& scelti() { return m_scelti; }
+    Scadenzario& scadenzario() { return m_scadenzario; }
+    DatiMensili& datiMensili() { return m_datiMensili; }
     CustodeBozze& bozze() { return m_bozze; }
     Documento& documento() { return m_documento; }
 
@@ -78,6 +82,8 @@ private:
     Borftepa m_borftepa;
     Borftel m_borftel;
     Scelti m_scelti;
+    Scadenzario m_scadenzario;
+    DatiMensili m_datiMensili;
     CustodeBozze m_bozze;
 };
 

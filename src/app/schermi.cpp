@@ -13,6 +13,8 @@
 #include "ui/vistaborftepa.h"
 #include "ui/vistaborftex.h"
 #include "ui/vistaborsel.h"
+#include "ui/vistadatimensili.h"
+#include "ui/vistascadenzario.h"
 
 namespace bor {
 
@@ -53,6 +55,10 @@ void aggiungiSchermi(Finestra& finestra, Modulo& modulo) {
     aggiungi<VistaBorfte>(finestra, modulo, Schermo::Borfte, modulo.borfte(), Intestazione::No);
     aggiungi<VistaBorftem>(finestra, modulo, Schermo::Borftem, modulo.borftem(), Intestazione::No);
     aggiungi<VistaBorsel>(finestra, modulo, Schermo::Borsel, modulo.borsel(), Intestazione::No);
+    aggiungi<VistaScadenzario>(finestra, modulo, Schermo::Scadenzario, modulo.scadenzario(),
+                               Intestazione::No);
+    aggiungi<VistaDatiMensili>(finestra, modulo, Schermo::DatiMensili, modulo.datiMensili(),
+                               Intestazione::No);
     // Whose document it is stands at the top of every screen that edits one.
     aggiungi<VistaBorftea>(finestra, modulo, Schermo::Borftea, modulo.borftea());
     aggiungi<VistaBorftex>(finestra, modulo, Schermo::Borftex, modulo.borftex());

@@ -3,7 +3,19 @@
 
 namespace bor {
 
-enum class Schermo { Borfte, Borftem, Borsel, Borftex, Borftek, Borftea, Borftec, Borftepa, Borftel };
+enum class Schermo {
+    Borfte,
+    Borftem,
+    Borsel,
+    Borftex,
+    Borftek,
+    Borftea,
+    Borftec,
+    Borftepa,
+    Borftel,
+    Scadenzario,
+    DatiMensili
+};
 
 class Navigatore {
 public:

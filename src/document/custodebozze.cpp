@@ -19,7 +19,8 @@ const QString finaleBozza = u".bozza"_s;
 constexpr int bozzeMassime = 99;
 
 bool conDocumento(Schermo schermo) {
-    return schermo != Schermo::Borfte && schermo != Schermo::Borftec;
+    return schermo != Schermo::Borfte && schermo != Schermo::Borftec && schermo != Schermo::Scadenzario &&
+           schermo != Schermo::DatiMensili;
 }
 
 bool testata(Schermo schermo) {

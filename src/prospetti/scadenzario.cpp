@@ -18,75 +18,31 @@ QString genere(const DocumentoARate& documento) {
     return documento.parcella ? u"Parcella"_s : u"Fattura"_s;
 }
 
+QString quanteRate(const ContoRate& conto) {
+    return QString::number(conto.rate) + (conto.rate == 1 ? u" rata"_s : u" rate"_s);
+}
+
 /// "2 di 3"; a document without instalments is due as a whole.
 QString qualeRata(const RataDovuta& rata, const DocumentoARate& documento) {
     return rata.numero == 0 ? u"senza rate"_s : u"%1 di %2"_s.arg(rata.numero).arg(documento.rate);
 }
 
-QString testoLimite(const std::optional<QDate>& giorno) {
-    return giorno ? testoData(*giorno) : QString();
-}
-
 } // namespace
 
 Scadenzario::Scadenzario(Contesto& c, std::function<void(const Identita&)> apri)
-    : Prospetto(c), m_apri(std::move(apri)) {}
+    : Prospetto(c), m_apri(std::move(apri)), m_limiti(c.orologio, [this] { mostra(); }) {}
 
 void Scadenzario::completa() {
     m_elenco.completa(contesto.archivio);
     if (!m_elenco.pagamenti().contains(m_scelta.pagamento))
         m_scelta.pagamento = -1;
-    // Whoever opens an archive of past years shall not find an empty list.
-    if (!m_periodoScelto)
-        m_periodo =
-            m_elenco.dovute(contesto.orologio.oggi()) ? PeriodoScadenze::DaOggi : PeriodoScadenze::Tutte;
-    sistemaPeriodo();
+    m_limiti.proponi(m_elenco.dovute(contesto.orologio.oggi()));
 }
 
-void Scadenzario::cambiaPeriodo(PeriodoScadenze periodo) {
-    m_periodo = periodo;
-    m_periodoScelto = true;
-    sistemaPeriodo();
-    mostra();
-}
-
-/// Puts the period into its boxes; that of typed days is what they hold.
-void Scadenzario::sistemaPeriodo() {
-    if (m_periodo == PeriodoScadenze::DalAl)
-        return;
-    const QDate oggi = contesto.orologio.oggi();
-    const QDate mese =
-        QDate(oggi.year(), oggi.month(), 1).addMonths(m_periodo == PeriodoScadenze::MeseProssimo ? 1 : 0);
-    switch (m_periodo) {
-    case PeriodoScadenze::DaOggi:
-        m_scelta.dal = oggi;
-        m_scelta.al.reset();
-        break;
-    case PeriodoScadenze::QuestoMese:
-    case PeriodoScadenze::MeseProssimo:
-        m_scelta.dal = mese;
-        m_scelta.al = mese.addMonths(1).addDays(-1);
-        break;
-    case PeriodoScadenze::Tutte:
-    case PeriodoScadenze::DalAl:
-        m_scelta.dal.reset();
-        m_scelta.al.reset();
-        break;
-    }
-    m_dal = testoLimite(m_scelta.dal);
-    m_al = testoLimite(m_scelta.al);
-}
-
-void Scadenzario::cambiaDal(const QString& testo) {
-    m_dal = testo;
-    m_scelta.dal = dataValida(completaData(testo));
-    cambiaPeriodo(PeriodoScadenze::DalAl);
-}
-
-void Scadenzario::cambiaAl(const QString& testo) {
-    m_al = testo;
-    m_scelta.al = dataValida(completaData(testo));
-    cambiaPeriodo(PeriodoScadenze::DalAl);
+void Scadenzario::scegli() {
+    m_scelta.dal = m_limiti.primo();
+    m_scelta.al = m_limiti.ultimo();
+    m_elenco.mostra(m_scelta);
 }
 
 void Scadenzario::cambiaCliente(const QString& testo) {
@@ -155,7 +111,7 @@ QString Scadenzario::testoTotale(const ElencoScadenze::Riga& riga, ColonnaScaden
     case ColonnaScadenze::Cliente:
         return u"Totale "_s + nomeGruppo(riga);
     case ColonnaScadenze::Rata:
-        return QString::number(totale.rate);
+        return quanteRate(totale);
     case ColonnaScadenze::Importo:
         return totaletesto(contesto.valuta(), totale.importo);
     default:
@@ -217,9 +173,7 @@ void Scadenzario::apri(int riga) {
 }
 
 QString Scadenzario::conta(const ContoRate& conto) const {
-    return (conto.rate == 1 ? u"%1 rata, %2"_s : u"%1 rate, %2"_s)
-        .arg(conto.rate)
-        .arg(totaletesto(contesto.valuta(), conto.importo));
+    return quanteRate(conto) + u", "_s + totaletesto(contesto.valuta(), conto.importo);
 }
 
 QString Scadenzario::riepilogo() const {
@@ -298,7 +252,7 @@ Tabella Scadenzario::tabella() const {
         uscita.testo(u"Totale"_s);
         for (int i = 0; i < 3; ++i)
             uscita.vuota();
-        uscita.testo(QString::number(tutte.rate));
+        uscita.testo(quanteRate(tutte));
         uscita.vuota();
         uscita.vuota();
         uscita.importo(tutte.importo);

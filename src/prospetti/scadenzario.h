@@ -3,13 +3,12 @@
 #pragma once
 
 #include "prospetti/elencoscadenze.h"
+#include "prospetti/limitiscadenze.h"
 #include "prospetti/prospetto.h"
 
 #include <functional>
 
 namespace bor {
-
-enum class PeriodoScadenze { DaOggi, QuestoMese, MeseProssimo, Tutte, DalAl };
 
 /// Columns of the list, in their order on screen.
 enum class ColonnaScadenze { Scadenza, Cliente, Documento, Data, Genere, Rata, Pagamento, Riba, Importo };
@@ -20,15 +19,8 @@ public:
     /// `apri` shows a document, if it is still the one that was meant.
     Scadenzario(Contesto& c, std::function<void(const Identita&)> apri);
 
-    PeriodoScadenze periodo() const { return m_periodo; }
-    void cambiaPeriodo(PeriodoScadenze periodo);
-    /// First and last day of the period as the boxes show them; empty for no limit. What is typed there is a
-    /// period of its own, of which a text that is no date limits nothing.
-    const QString& dal() const { return m_dal; }
-    const QString& al() const { return m_al; }
-    void cambiaDal(const QString& testo);
-    void cambiaAl(const QString& testo);
-    /// The other choices; `dal` and `al` in it are those of the boxes.
+    LimitiScadenze& limiti() { return m_limiti; }
+    /// The other choices.
     const SceltaScadenze& scelta() const { return m_scelta; }
     void cambiaCliente(const QString& testo);
     /// Position in `pagamenti`.
@@ -59,8 +51,7 @@ private:
     void svuota() override { m_elenco.svuota(); }
     void prendi(int record, const Fte& fte, const F2e& f2e) override { m_elenco.aggiungi(record, fte, f2e); }
     void completa() override;
-    void scegli() override { m_elenco.mostra(m_scelta); }
-    void sistemaPeriodo();
+    void scegli() override;
     QString testoTotale(const ElencoScadenze::Riga& riga, ColonnaScadenze colonna) const;
     QString nomeGruppo(const ElencoScadenze::Riga& riga) const;
     QString giorno(const RataDovuta& rata) const;
@@ -73,10 +64,7 @@ private:
     std::function<void(const Identita&)> m_apri;
     ElencoScadenze m_elenco;
     SceltaScadenze m_scelta;
-    PeriodoScadenze m_periodo = PeriodoScadenze::DaOggi;
-    bool m_periodoScelto = false; ///< by the operator
-    QString m_dal;
-    QString m_al;
+    LimitiScadenze m_limiti;
     ElencoScadenze::Chi m_corrente;
 };
 

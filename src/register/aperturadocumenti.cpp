@@ -59,6 +59,11 @@ void AperturaDocumenti::avvisaInMano() const {
                                    titoloAttenzione, Icona::Informazione);
 }
 
+void AperturaDocumenti::prospetto(Schermo quale) {
+    if (m_riordino.fermo())
+        m_contesto.navigatore.mostra(quale);
+}
+
 void AperturaDocumenti::fatturaElettronica(int riga) {
     if (m_riordino.fermo() && m_elenco.record(riga) > 0)
         apri(m_elenco.record(riga), Schermo::Borftel);

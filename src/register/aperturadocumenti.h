@@ -3,6 +3,7 @@
 
 #include "archive/contesto.h"
 #include "document/documento.h"
+#include "document/identita.h"
 #include "register/comandoriordino.h"
 #include "register/elencofatture.h"
 
@@ -32,6 +33,8 @@ public:
     void copia(int riga, Copia come);
     /// The document saved last in this run.
     void ultimo();
+    /// A list over all documents.
+    void prospetto(Schermo quale);
 
 private:
     void apri(int record, Schermo schermo);

@@ -5,6 +5,7 @@
 #include "ui/tinte.h"
 
 #include <QEvent>
+#include <QFont>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QShortcut>
@@ -119,6 +120,13 @@ QVariant ModelloGriglia::data(const QModelIndex& indice, int ruolo) const {
         if (const auto fondo = fondoDi(indice))
             return testoSu(*fondo);
         return {};
+    case Qt::FontRole: {
+        if (!m_celle.grassetto || !m_celle.grassetto(indice.row()))
+            return {};
+        QFont carattere; // all but its weight comes from the grid
+        carattere.setBold(true);
+        return carattere;
+    }
     case Qt::DecorationRole: {
         static const QIcon segno = icona(QStringLiteral("nota"));
         return indice.column() == m_celle.segnata && !nota(indice.row()).isEmpty() ? QVariant(segno)

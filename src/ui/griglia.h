@@ -34,6 +34,8 @@ struct CelleGriglia {
     int segnata = 0;
     /// Rows that may be chosen, the first ones; without it all may.
     std::function<int()> scegliibili = {};
+    /// Rows in bold; without it there are none.
+    std::function<bool(int riga)> grassetto = {};
 };
 
 class ModelloGriglia : public QAbstractTableModel {

@@ -30,6 +30,10 @@ QString capitolo(Schermo schermo) {
         return u"fattura-pa"_s;
     case Schermo::Borftel:
         return u"fattura-elettronica"_s;
+    case Schermo::Scadenzario:
+        return u"scadenzario"_s;
+    case Schermo::DatiMensili:
+        return u"dati-mensili"_s;
     }
     return u"indice"_s;
 }

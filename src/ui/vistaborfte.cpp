@@ -4,6 +4,7 @@
 #include "common/versione.h"
 #include "register/borfte.h"
 #include "ui/barraintestazioni.h"
+#include "ui/bottonemenu.h"
 #include "ui/campi.h"
 #include "ui/finestrainformazioni.h"
 #include "ui/flusso.h"
@@ -254,6 +255,14 @@ void VistaBorfte::creaBottoni(Flusso* layout) {
     comando(
         8, u"Elettronica"_s, u"elettronica"_s, u"F9"_s,
         [this] { m_form.apertura().fatturaElettronica(m_elenco->currentIndex().row()); }, fermo);
+    auto* prospetti = new BottoneMenu(u"prospetti"_s, u"Prospetti"_s, u"prospetti"_s, legami);
+    const auto prospetto = [this](Schermo quale) {
+        return [this, quale] { m_form.apertura().prospetto(quale); };
+    };
+    prospetti->voce(u"&Scadenzario"_s, u"Ctrl+S"_s, prospetto(Schermo::Scadenzario));
+    prospetti->voce(u"&Dati mensili"_s, u"Ctrl+G"_s, prospetto(Schermo::DatiMensili));
+    legami.visibile(prospetti, fermo);
+    layout->addWidget(prospetti);
     comando(5, u"Per data"_s, u"perdata"_s, u"F7"_s, per(TipoRiordino::PerData), scelta);
     comando(6, u"Per protocollo"_s, u"perprotocollo"_s, u"F8"_s, per(TipoRiordino::PerProtocollo), scelta);
     comando(7, u"Per numero"_s, u"pernumero"_s, u"F9"_s, per(TipoRiordino::PerNumero), scelta);

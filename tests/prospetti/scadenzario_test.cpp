@@ -69,8 +69,8 @@ TEST_F(ScadenzarioTest, OgniGiornoHaLeSueRateEIlSuoTotaleEUnaNotaDiCreditoToglie
     const Scadenzario& form = carica();
     EXPECT_EQ(righe(),
               QStringList({u"30/04/2015|Bianchi|2|1 di 1|-100,00"_s, u"30/04/2015|Rossi|1|1 di 2|100,00"_s,
-                           u"|Totale 30/04/2015||2|0,00"_s, u"31/05/2015|Rossi|1|2 di 2|200,00"_s,
-                           u"|Totale 31/05/2015||1|200,00"_s}));
+                           u"|Totale 30/04/2015||2 rate|0,00"_s, u"31/05/2015|Rossi|1|2 di 2|200,00"_s,
+                           u"|Totale 31/05/2015||1 rata|200,00"_s}));
     EXPECT_EQ(form.riepilogo(), u"In scadenza: 3 rate, 200,00"_s);
     EXPECT_EQ(form.testo(0, ColonnaScadenze::Genere), u"Nota di credito"_s);
 }
@@ -85,7 +85,7 @@ TEST_F(ScadenzarioTest, CioCheNonHaUnaDataNonSparisceInNessunPeriodo) {
     maiScritta.f2e.marca = 0;
     azienda.documento(maiScritta);
     Scadenzario& form = carica();
-    form.cambiaPeriodo(PeriodoScadenze::MeseProssimo);
+    form.limiti().cambiaPeriodo(PeriodoScadenze::MeseProssimo);
     const QStringList senzaData{u"|Bianchi|2|senza rate|1.220,00"_s, u"|Bianchi|3|senza rate|1.020,00"_s,
                                 u"29/02/2100|Rossi|1|2 di 3|200,00"_s, u"|Rossi|1|3 di 3|300,00"_s};
     QStringList righe = this->righe();
@@ -93,8 +93,8 @@ TEST_F(ScadenzarioTest, CioCheNonHaUnaDataNonSparisceInNessunPeriodo) {
     EXPECT_EQ(righe.filter(u"|4|"_s).size(), 4) << "instalment 5 is of a half that was never written";
     for (const QString& riga : senzaData)
         EXPECT_TRUE(righe.contains(riga)) << qPrintable(riga);
-    form.cambiaDal(u"01/01/2030"_s);
-    form.cambiaAl(u"311230"_s);
+    form.limiti().cambiaDal(u"01/01/2030"_s);
+    form.limiti().cambiaAl(u"311230"_s);
     righe = this->righe();
     EXPECT_FALSE(righe.filter(u"30/04/2015"_s).size());
     EXPECT_EQ(righe.last().section(u'|', 1, 1), u"Totale senza data"_s);
@@ -112,16 +112,16 @@ TEST_F(ScadenzarioTest, SiScegliePerPeriodoClientePagamentoERiba) {
     azienda.documento(aRate(bianchi, u"3"_s, {u"30042015"_s}));
     Scadenzario& form = carica();
     const auto rate = [&form] { return form.riepilogo().section(u' ', 2, 2).toInt(); };
-    EXPECT_EQ(form.periodo(), PeriodoScadenze::DaOggi);
-    EXPECT_EQ(form.dal(), u"15/03/2015"_s);
+    EXPECT_EQ(form.limiti().periodo(), PeriodoScadenze::DaOggi);
+    EXPECT_EQ(form.limiti().dal(), u"15/03/2015"_s);
     EXPECT_EQ(rate(), 5);
-    form.cambiaPeriodo(PeriodoScadenze::QuestoMese);
-    EXPECT_EQ(form.dal() + form.al(), u"01/03/201531/03/2015"_s);
+    form.limiti().cambiaPeriodo(PeriodoScadenze::QuestoMese);
+    EXPECT_EQ(form.limiti().dal() + form.limiti().al(), u"01/03/201531/03/2015"_s);
     EXPECT_EQ(rate(), 3);
-    form.cambiaPeriodo(PeriodoScadenze::MeseProssimo);
+    form.limiti().cambiaPeriodo(PeriodoScadenze::MeseProssimo);
     EXPECT_EQ(rate(), 3);
-    form.cambiaDal(u"15"_s); // half a date limits nothing
-    EXPECT_EQ(form.periodo(), PeriodoScadenze::DalAl);
+    form.limiti().cambiaDal(u"15"_s); // half a date limits nothing
+    EXPECT_EQ(form.limiti().periodo(), PeriodoScadenze::DalAl);
     EXPECT_EQ(rate(), 6);
     EXPECT_EQ(form.pagamenti(),
               QStringList({u"Tutte"_s, u"Senza modalità"_s, u"Modalità 3"_s, u"Modalità 12"_s}));
@@ -148,27 +148,27 @@ TEST_F(ScadenzarioTest, LaRigaSceltaRestaLaStessaESiApreLaSua) {
     form.cambiaRiga(2);
     form.cambiaGruppi(GruppiScadenze::PerCliente);
     EXPECT_EQ(righe().mid(0, 3),
-              QStringList({u"30/06/2015|Bianchi|2|1 di 1|100,00"_s, u"|Totale Bianchi||1|100,00"_s,
+              QStringList({u"30/06/2015|Bianchi|2|1 di 1|100,00"_s, u"|Totale Bianchi||1 rata|100,00"_s,
                            u"30/04/2015|Rossi|1|1 di 2|100,00"_s}));
     EXPECT_EQ(form.rigaCorrente(), 3);
     form.apri(1);
     EXPECT_EQ(aperto, 0) << "a total has no document";
     form.apri(form.rigaCorrente());
     EXPECT_EQ(aperto, 1);
-    form.cambiaPeriodo(PeriodoScadenze::QuestoMese);
+    form.limiti().cambiaPeriodo(PeriodoScadenze::QuestoMese);
     EXPECT_EQ(form.rigaCorrente(), 0);
 }
 
 TEST_F(ScadenzarioTest, UnArchivioDiAnniPassatiSiApreSuTutte) {
     azienda.documento(aRate(rossi, u"1"_s, {u"30042011"_s}));
-    EXPECT_EQ(carica().periodo(), PeriodoScadenze::Tutte);
+    EXPECT_EQ(carica().limiti().periodo(), PeriodoScadenze::Tutte);
     EXPECT_EQ(m_form->righe(), 2);
 }
 
 TEST_F(ScadenzarioTest, TuttiITotaliSonoQuelliDeiFile) {
     scriviDocumentiACaso(azienda, 700, 2);
     Scadenzario& form = carica();
-    form.cambiaPeriodo(PeriodoScadenze::Tutte);
+    form.limiti().cambiaPeriodo(PeriodoScadenze::Tutte);
     std::map<int, qint64> attesi;
     qint64 insieme = 0;
     for (const DocumentoSuFile& d : documentiSuFile(azienda)) {

@@ -192,6 +192,11 @@ protected:
         finestra->mostra(Schermo::Borfte);
         assesta();
         guarda(Schermo::Borfte);
+        for (const Schermo prospetto : {Schermo::Scadenzario, Schermo::DatiMensili}) {
+            finestra->mostra(prospetto);
+            assesta();
+            guarda(prospetto);
+        }
         apri(99, {Schermo::Borftem, Schermo::Borsel, Schermo::Borftea, Schermo::Borftex, Schermo::Borftec},
              guarda);
         apri(3, {Schermo::Borftem, Schermo::Borftea, Schermo::Borftek}, guarda);

@@ -53,9 +53,10 @@ protected:
 };
 
 /// In the order of README's table.
-constexpr std::array tuttiGliSchermi = {Schermo::Borfte,  Schermo::Borftem,  Schermo::Borsel,
-                                        Schermo::Borftea, Schermo::Borftex,  Schermo::Borftek,
-                                        Schermo::Borftec, Schermo::Borftepa, Schermo::Borftel};
+constexpr std::array tuttiGliSchermi = {Schermo::Borfte,      Schermo::Borftem,    Schermo::Borsel,
+                                        Schermo::Borftea,     Schermo::Borftex,    Schermo::Borftek,
+                                        Schermo::Borftec,     Schermo::Borftepa,   Schermo::Borftel,
+                                        Schermo::Scadenzario, Schermo::DatiMensili};
 
 TEST_F(Schermi, OgniComandoHaLaSuaLettera) {
     for (const Schermo schermo : tuttiGliSchermi) {

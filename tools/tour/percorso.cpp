@@ -62,6 +62,18 @@ void scelti(Giro& giro) {
     giro.tasto(Qt::Key_Escape);
 }
 
+/// The lists over all documents.
+void prospetti(Giro& giro) {
+    giro.tasto(Qt::Key_S, Qt::ControlModifier);
+    giro.controlla(u"elenco"_s);
+    giro.foto(u"scadenzario"_s);
+    giro.tasto(Qt::Key_Escape);
+    giro.tasto(Qt::Key_G, Qt::ControlModifier);
+    giro.controlla(u"grafico"_s);
+    giro.foto(u"dati-mensili"_s);
+    giro.tasto(Qt::Key_Escape);
+}
+
 void registro(Giro& giro) {
     giro.premi(u"visua(1)"_s);
     giro.tasto(Qt::Key_F6);
@@ -170,6 +182,7 @@ void fatturaElettronica(Giro& giro) {
 
 void percorri(Giro& giro) {
     giro.foto(u"registro"_s);
+    prospetti(giro);
     stampe(giro);
     parcella(giro);
     scelti(giro);
