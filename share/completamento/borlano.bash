@@ -17,7 +17,7 @@ _borlano() {
     borverifica) opzioni="--unita --azienda --json --aiuto --help --version" ;;
     borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --help --version" ;;
     borxmlcheck) opzioni="--json --mostra --html --aiuto --help --version" ;;
-    borxpdf) opzioni="--anteprima --version" ;;
+    borxpdf) opzioni="--anteprima --lotto --version" ;;
     *) return ;;
     esac
     for ((i = 1; i < COMP_CWORD; ++i)); do

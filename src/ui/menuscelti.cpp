@@ -29,8 +29,8 @@ bool cambiaDocumenti(ComandoScelti comando) {
 
 MenuScelti::MenuScelti(Scelti& scelti, Registro registro, QTableView* elenco, Vista* vista)
     : QObject(vista), m_scelti(scelti), m_registro(std::move(registro)), m_vista(vista),
-      m_menu(new QMenu(vista)),
-      m_bottone(new BottoneComando(u"scelti"_s, u"Scelti"_s, u"scelti"_s, QKeySequence(Qt::Key_F4), vista)) {
+      m_menu(new QMenu(vista)), m_bottone(new BottoneComando(u"bottoneScelti"_s, u"Scelti"_s, u"scelti"_s,
+                                                             QKeySequence(Qt::Key_F4), vista)) {
     m_bottone->setToolTip(u"Comandi sui documenti scelti (F4)"_s);
     m_menu->setObjectName(u"menuScelti"_s);
     connect(m_bottone, &QToolButton::clicked, this, [this] { mostra(); });

@@ -7,10 +7,13 @@
 #include "document/apridoc.h"
 #include "document/filerighe.h"
 #include "fatturapa/generafattura.h"
+#include "output/destinazionepdf.h"
 #include "output/layout.h"
 #include "output/stampafattura.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 
 #include <fcntl.h>
@@ -119,6 +122,27 @@ TEST_F(LottoTest, IlPdfHaLeStessePagineEIlNomeEntraNelRecord) {
     const Fte testaDopo = prova->archivio.fte.leggi(100);
     EXPECT_EQ(std::memcmp(&testaDopo, &testa, sizeof(Fte)), 0);
     EXPECT_EQ(testo(*lotto, 0), u"PDF \"%1\""_s.arg(nome));
+}
+
+TEST_F(LottoTest, ConLoStrumentoVeroIPdfSonoSuDisco) {
+    int argomenti = 0;
+    const QCoreApplication programma(argomenti, nullptr);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QString strumento = strumentoPdf(prova->archivio);
+    QFile::remove(strumento);
+    ASSERT_TRUE(QFile::link(QStringLiteral(BOR_BIN_DIR "/borxpdf"), strumento));
+    const auto lotto =
+        Scelti(prova->contesto, sospese, stampante).prepara(ComandoScelti::Pdf, documenti({100, 101, 103}));
+    lotto->inizia();
+    QElapsedTimer orologio;
+    orologio.start();
+    while (lotto->passo() != Lotto::Passo::Finito && orologio.elapsed() < 60'000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    EXPECT_EQ(lotto->rapporto().quante(Fatta), 3) << testo(*lotto, 0).toStdString();
+    for (const int n : {100, 101, 103})
+        EXPECT_TRUE(
+            contenuto(prova->archivio.reale(prova->archivio.f2e.leggi(n).pdf.trimmed())).startsWith("%PDF-"))
+            << n;
 }
 
 TEST_F(LottoTest, IlPdfDiUnAltroDocumentoNonSiSostituisce) {

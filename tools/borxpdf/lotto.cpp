@@ -5,10 +5,10 @@
 #include "common/lottopdf.h"
 #include "common/percorsi.h"
 
-#include <QIODevice>
-
+#include <cerrno>
 #include <map>
 #include <tuple>
+#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -76,6 +76,16 @@ private:
 };
 
 } // namespace
+
+qint64 IngressoComandi::readData(char* dati, qint64 massimo) {
+    for (;;) {
+        const ssize_t letti = ::read(m_descrittore, dati, static_cast<std::size_t>(massimo));
+        if (letti > 0)
+            return letti;
+        if (letti == 0 || errno != EINTR)
+            return -1;
+    }
+}
 
 bool eseguiLotto(QIODevice& comandi, QIODevice& risposte, const Percorsi& percorsi) {
     Officina officina(percorsi);

@@ -14,6 +14,7 @@
 #include <QMessageBox>
 
 #include <cstdio>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -45,10 +46,10 @@ void mostraVersione(const QStringList& argomenti) {
 
 /// Nobody is told anything in a window: who started the run gets each answer.
 int lotto(const bor::Percorsi& percorsi) {
-    QFile comandi;
+    bor::pdf::IngressoComandi comandi(STDIN_FILENO);
     QFile risposte;
-    return comandi.open(stdin, QIODevice::ReadOnly) &&
-                   risposte.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+    return comandi.open(QIODevice::ReadOnly) &&
+                   risposte.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered) &&
                    bor::pdf::eseguiLotto(comandi, risposte, percorsi)
                ? 0
                : 1;
