@@ -44,6 +44,39 @@ std::int8_t pagamentoDi(const Text<40>& campo) {
     return static_cast<std::int8_t>(n <= tipiPagamento ? n : 0);
 }
 
+/// Two keys that are equal above these bits are of one group.
+int bitSottoIlGruppo(GruppiScadenze gruppi) {
+    switch (gruppi) {
+    case GruppiScadenze::PerGiorno:
+        return bitCliente + bitPosto;
+    case GruppiScadenze::PerCliente:
+        return bitGiorno + bitPosto;
+    case GruppiScadenze::PerPagamento:
+        return bitGiorno + bitCliente + bitPosto;
+    }
+    return 0;
+}
+
+/// Sorts keys that already stand in the order of their places: digit by digit from the lowest one above the
+/// place, which takes no comparison of tens of thousands of them with each other.
+void ordinaPerCifre(std::vector<quint64>& chiavi) {
+    constexpr int bitCifra = 11;
+    std::vector<quint64> altre(chiavi.size());
+    for (int bit = bitPosto; bit < 64; bit += bitCifra) {
+        const auto cifra = [bit](quint64 chiave) { return chiave >> bit & ((1U << bitCifra) - 1); };
+        std::array<std::size_t, std::size_t{1} << bitCifra> dove{};
+        for (const quint64 chiave : chiavi)
+            ++dove[cifra(chiave)];
+        // What all keys have in common orders nothing.
+        if (std::ranges::find(dove, chiavi.size()) != dove.end())
+            continue;
+        std::exclusive_scan(dove.begin(), dove.end(), dove.begin(), std::size_t{0});
+        for (const quint64 chiave : chiavi)
+            altre[dove[cifra(chiave)]++] = chiave;
+        chiavi.swap(altre);
+    }
+}
+
 double nettoAPagare(const Fte& fte, const F2e& f2e) {
     double netto = sommaIva(fte, f2e, VoceIva::Imposta) + sommaIva(fte, f2e, VoceIva::Imponibile) +
                    sommaIva(fte, f2e, VoceIva::Esente);
@@ -139,19 +172,6 @@ quint64 ElencoScadenze::chiave(std::size_t rata, GruppiScadenze gruppi) const {
     return rata;
 }
 
-int ElencoScadenze::gruppoDi(const RataDovuta& rata, GruppiScadenze gruppi) const {
-    const DocumentoARate& documento = elemento(m_documenti, rata.documento);
-    switch (gruppi) {
-    case GruppiScadenze::PerGiorno:
-        return rata.giorno;
-    case GruppiScadenze::PerCliente:
-        return documento.cliente();
-    case GruppiScadenze::PerPagamento:
-        return documento.pagamento;
-    }
-    return 0;
-}
-
 void ElencoScadenze::mostra(const SceltaScadenze& scelta) {
     const QString cercato = piega(scelta.cliente.trimmed());
     std::vector<bool> clienti;
@@ -161,27 +181,29 @@ void ElencoScadenze::mostra(const SceltaScadenze& scelta) {
     const auto ultimo =
         static_cast<int>(scelta.al ? scelta.al->toJulianDay() : std::numeric_limits<int>::max());
     std::vector<quint64> chiavi;
+    chiavi.reserve(m_rate.size());
     for (std::size_t i = 0; i < m_rate.size(); ++i) {
         const int giorno = m_rate[i].giorno;
         if ((giorno == 0 || (giorno >= primo && giorno <= ultimo)) && passa(m_rate[i], scelta, clienti))
             chiavi.push_back(chiave(i, scelta.gruppi));
     }
-    std::ranges::sort(chiavi);
+    ordinaPerCifre(chiavi);
 
     m_ordine = scelta.gruppi;
     m_righe.clear();
     m_gruppi.clear();
     m_conData = {};
     m_senzaData = {};
+    m_righe.reserve(2 * chiavi.size());
+    const int bit = bitSottoIlGruppo(scelta.gruppi);
     for (std::size_t i = 0; i < chiavi.size(); ++i) {
-        const auto posto = static_cast<int>(chiavi[i] & ((quint64{1} << bitPosto) - 1));
-        const RataDovuta& rata = elemento(m_rate, posto);
-        const int gruppo = gruppoDi(rata, scelta.gruppi);
-        if (m_righe.empty() || gruppoDi(elemento(m_rate, m_righe.back().rata), scelta.gruppi) != gruppo) {
-            if (!m_righe.empty())
+        if (i == 0 || chiavi[i] >> bit != chiavi[i - 1] >> bit) {
+            if (i > 0)
                 m_righe.push_back({m_righe.back().rata, quantiIn(m_gruppi) - 1});
             m_gruppi.emplace_back();
         }
+        const auto posto = static_cast<int>(chiavi[i] & ((quint64{1} << bitPosto) - 1));
+        const RataDovuta& rata = elemento(m_rate, posto);
         m_righe.push_back({posto, -1});
         m_gruppi.back().aggiungi(rata.importo);
         (rata.giorno > 0 ? m_conData : m_senzaData).aggiungi(rata.importo);

@@ -106,7 +106,6 @@ public:
 private:
     bool passa(const RataDovuta& rata, const SceltaScadenze& scelta, const std::vector<bool>& clienti) const;
     quint64 chiave(std::size_t rata, GruppiScadenze gruppi) const;
-    int gruppoDi(const RataDovuta& rata, GruppiScadenze gruppi) const;
 
     std::vector<DocumentoARate> m_documenti;
     std::vector<RataDovuta> m_rate;
