@@ -50,7 +50,7 @@ class Banco {
 public:
     explicit Banco(int quanti) : m_quanti(quanti) {
         const auto problemi =
-            crea::creaAzienda({installato(u"demo"), m_unita.path(), 7, quanti + quanti / 2});
+            crea::creaAzienda({installato(u"demo"), m_unita.path(), 7, std::max(quanti, 400)});
         if (!problemi.empty())
             qFatal("%s", qPrintable(problemi.front().testo()));
         m_azienda.emplace(m_unita.path());
@@ -59,16 +59,7 @@ public:
         m_prova->orologio.momento = QDateTime(QDate(2030, 1, 1), QTime(12, 0));
         QFile::link(programma(QCoreApplication::applicationDirPath(), u"borxpdf"),
                     strumentoPdf(m_prova->archivio));
-        Archivio& archivio = m_prova->archivio;
-        for (int n = 1; n <= archivio.leggiTot(Conta::Fte).numero && std::ssize(m_scelti) < quanti; ++n) {
-            CoppiaFte coppia = archivio.leggi(n);
-            if (coppia.fte.annullata == 1 || !(coppia.fte.nfile > 0.0F))
-                continue;
-            coppia.fte.numero.set(QString::number(n));
-            coppia.f2e.pdf.blank();
-            archivio.scrivi(n, coppia);
-            m_scelti.push_back(identitaDi(n, coppia.fte));
-        }
+        riempi(m_prova->archivio);
     }
 
     void misura() {
@@ -79,6 +70,24 @@ public:
     }
 
 private:
+    /// The documents that have lines, again and again, each time with a number of their own.
+    void riempi(Archivio& archivio) {
+        std::vector<CoppiaFte> originali;
+        for (int n = 1; n <= archivio.leggiTot(Conta::Fte).numero; ++n) {
+            const CoppiaFte coppia = archivio.leggi(n);
+            if (coppia.fte.annullata != 1 && coppia.fte.nfile > 0.0F)
+                originali.push_back(coppia);
+        }
+        for (int n = 1; n <= m_quanti; ++n) {
+            CoppiaFte coppia = originali[static_cast<std::size_t>(n) % originali.size()];
+            coppia.fte.numero.set(QString::number(n));
+            coppia.fte.stamp = n;
+            coppia.f2e.pdf.blank();
+            archivio.scrivi(n, coppia);
+            m_scelti.push_back(identitaDi(n, coppia.fte));
+        }
+    }
+
     /// One command in its window, from "Procedi" to the report.
     void comando(const char* nome, ComandoScelti quale) {
         std::unique_ptr<Lotto> lotto =
@@ -86,6 +95,7 @@ private:
         const double prima = memoria();
         double massima = 0;
         double vuoto = 0;
+        int battiti = 0;
         QElapsedTimer tutto;
         QElapsedTimer battito;
         QEventLoop giro;
@@ -100,7 +110,8 @@ private:
         QTimer cuore;
         QObject::connect(&cuore, &QTimer::timeout, &giro, [&] {
             vuoto = std::max(vuoto, millisecondi(battito));
-            massima = std::max(massima, memoria());
+            if (++battiti % 100 == 0)
+                massima = std::max(massima, memoria());
             battito.restart();
         });
         finestra->open();

@@ -18,7 +18,7 @@ namespace bor {
 namespace {
 
 constexpr int perVolta = 20; ///< milliseconds of work before the window has its turn
-constexpr int attesa = 4;    ///< milliseconds until an answer is looked for again
+constexpr int attesa = 1;    ///< milliseconds until an answer is looked for again
 constexpr int larghezza = 560;
 
 QLabel* daLeggere(const QString& nome) {
