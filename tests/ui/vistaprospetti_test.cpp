@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QTableView>
+#include <QToolButton>
 
 #include <memory>
 
