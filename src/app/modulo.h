@@ -11,6 +11,7 @@
 #include "document/custodebozze.h"
 #include "document/documento.h"
 #include "document/righeinsospeso.h"
+#include "document/storico.h"
 #include "einvoice/borftepa.h"
 #include "fatturapa/borftel.h"
 #include "lotto/scelti.h"
@@ -53,6 +54,7 @@ public:
     Scelti& scelti() { return m_scelti; }
     Scadenzario& scadenzario() { return m_scadenzario; }
     DatiMensili& datiMensili() { return m_datiMensili; }
+    Storico& storico() { return m_storico; }
     CustodeBozze& bozze() { return m_bozze; }
     Documento& documento() { return m_documento; }
 
@@ -71,6 +73,7 @@ private:
     Contesto m_contesto;
     Documento m_documento;
     RigheInSospeso m_sospese;
+    Storico m_storico;
     Borfte m_borfte;
     Borftem m_borftem;
     Borsel m_borsel;

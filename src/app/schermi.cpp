@@ -36,6 +36,8 @@ void aggiungi(Finestra& finestra, Modulo& modulo, Schermo schermo, Form& form,
         vista.offriGuida(tastoGuida(schermo), [&modulo, schermo] {
             apriGuida(modulo.contesto().sistema, modulo.contesto().operatore, capitolo(schermo));
         });
+        if constexpr (requires(VistaDelloSchermo & sua) { sua.usa(modulo.storico()); })
+            static_cast<VistaDelloSchermo&>(vista).usa(modulo.storico());
         if (intestazione == Intestazione::DelDocumento)
             vista.intesta([&modulo] { return riassunto(modulo.documento(), modulo.contesto()); });
     };

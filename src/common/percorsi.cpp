@@ -78,7 +78,8 @@ QString codiceATreCifre(double codiceazienda) {
 } // namespace
 
 Percorsi::Percorsi(QString radiceCorrente, QString radiceC)
-    : m_radiceCorrente(QDir::cleanPath(radiceCorrente)), m_radiceC(QDir::cleanPath(radiceC)) {}
+    : m_radiceCorrente(QDir::cleanPath(radiceCorrente)), m_radiceC(QDir::cleanPath(radiceC)),
+      m_cache(QFileInfo(m_radiceC).path() + QStringLiteral("/cache")) {}
 
 Percorsi Percorsi::predefiniti() {
     return predefiniti(QDir::currentPath());
@@ -87,7 +88,10 @@ Percorsi Percorsi::predefiniti() {
 Percorsi Percorsi::predefiniti(const QString& radiceCorrente) {
     const QString radiceC =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/borfte/c");
-    return {radiceCorrente, radiceC};
+    Percorsi percorsi(radiceCorrente, radiceC);
+    percorsi.m_cache =
+        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/borfte");
+    return percorsi;
 }
 
 void Percorsi::creaRadiceC() const {
@@ -137,6 +141,10 @@ QString Percorsi::cartellaBozze(double codiceazienda) const {
 QString Percorsi::promemoria(double codiceazienda) const {
     return QFileInfo(m_radiceC).path() + QStringLiteral("/aziende/") + nomeUtente(codiceazienda) +
            QStringLiteral(".ini");
+}
+
+QString Percorsi::indiceStorico(double codiceazienda) const {
+    return m_cache + QStringLiteral("/storico/") + nomeUtente(codiceazienda) + QStringLiteral(".idx");
 }
 
 QString cartellaAzienda(double codiceazienda) {

@@ -12,7 +12,7 @@ namespace bor {
 class Percorsi {
 public:
     /// `radiceCorrente`: folder that plays the root of the current drive; `radiceC`: the one that plays drive
-    /// c:.
+    /// c:. What the user's cache holds then lies beside drive c:.
     Percorsi(QString radiceCorrente, QString radiceC);
 
     /// The working directory as current drive, and for c: a folder of the user's own data ("borfte/c" under
@@ -39,11 +39,16 @@ public:
     /// when it was checked, where its copies go. It lies among the user's own data too.
     QString promemoria(double codiceazienda) const;
 
+    /// File of this machine, existing or not, in which the user's programs keep what they have read of the
+    /// documents' lines files of such a company. It lies in his cache: nothing is lost with it.
+    QString indiceStorico(double codiceazienda) const;
+
 private:
     QString nomeUtente(double codiceazienda) const;
 
     QString m_radiceCorrente;
     QString m_radiceC;
+    QString m_cache;
 };
 
 /// The suite's root folder on the current drive, with its closing backslash.

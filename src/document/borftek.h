@@ -8,6 +8,7 @@
 #include "document/documento.h"
 #include "document/finestrarighe.h"
 #include "document/incollarighe.h"
+#include "document/storico.h"
 
 #include <optional>
 #include <utility>
@@ -63,6 +64,8 @@ public:
     /// What would become of the rows of a text in front of the line last entered, and putting them in.
     Incollate provaIncolla(const QString& testo) const;
     void incolla(const QString& testo);
+
+    DomandaStorico storico() const { return {.cliente = m_documento.recordcliente}; }
 
     void inserisciRiga();
     void eliminaRiga();

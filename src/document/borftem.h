@@ -5,6 +5,7 @@
 #include "archive/contesto.h"
 #include "document/dato.h"
 #include "document/documento.h"
+#include "document/storico.h"
 
 #include <QStringList>
 
@@ -49,6 +50,7 @@ public:
     int numeroClienti() const { return m_numero; }
     /// `cli` record of the customer in view; 0 for none.
     int recordCorrente() const { return m_recordcorrente; }
+    DomandaStorico storico() const { return {.cliente = m_recordcorrente}; }
     bool clienteEliminato() const { return m_documento.cliente.eliminato == 1; }
     const QString& nome() const { return m_nome; }
     int vettore() const { return m_vettore; }

@@ -7,6 +7,7 @@
 #include "document/finestrarighe.h"
 #include "document/incollarighe.h"
 #include "document/righemerce.h"
+#include "document/storico.h"
 
 #include <QStringList>
 
@@ -90,6 +91,11 @@ public:
     /// What would become of the rows of a text in front of the line last entered, and putting them in.
     Incollate provaIncolla(const QString& testo);
     void incolla(const QString& testo);
+
+    /// The customer, and the article of the line last entered.
+    DomandaStorico storico() const;
+    /// Price and discounts of a sale of before go into the line last entered.
+    void prendi(const VenditaStorica& vendita);
 
 private:
     struct Ricerca {

@@ -1,4 +1,5 @@
-// Rows that are copied out of the goods lines, and rows of a text that are put in.
+// What goes into the goods lines from elsewhere: rows of a text, a sale of before; and rows that are copied
+// out.
 #include "archive/contesto.h"
 #include "document/borftex.h"
 #include "document/testorighe.h"
@@ -46,6 +47,16 @@ void Borftex::incolla(const QString& testo) {
     const int posto = rigaFuoco();
     const int inserite = incollaMerce(m_righe, posto, testo, perCodice()).inserite;
     vaiARiga(Campo::Artic, std::min(posto + inserite, righeMerce));
+}
+
+DomandaStorico Borftex::storico() const {
+    return {m_documento.recordcliente, m_righe.riga(rigaFuoco()).recart, m_documento.recordfattura};
+}
+
+void Borftex::prendi(const VenditaStorica& vendita) {
+    modificato();
+    m_righe.prendi(rigaFuoco(), vendita.riga, vendita.conIva);
+    vaiA(Campo::Prezzo, m_lineafuoco);
 }
 
 } // namespace bor

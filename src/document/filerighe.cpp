@@ -174,11 +174,27 @@ QString percorsoRighe(const Archivio& archivio, const Fte& fte) {
     return archivio.file((fte.parcella != 0 ? u"p"_s : u"f"_s) + testoDecimale(double{fte.nfile}));
 }
 
+FileRighe trovaFileRighe(const Archivio& archivio, const Fte& fte) {
+    if (fte.nfile > 0.0F) {
+        const QString percorso = archivio.reale(percorsoRighe(archivio, fte));
+        if (QFileInfo::exists(percorso))
+            return {percorso, false};
+    }
+    const QString vecchio = archivio.reale(
+        archivio.file(nomeVecchio(fte.parcella != 0, fte.numero.text(), pezzo(fte.datadoc.text(), 3, 2))));
+    return QFileInfo::exists(vecchio) ? FileRighe{vecchio, true} : FileRighe();
+}
+
+bool leggiRighe(const FileRighe& file, Documento& documento) {
+    Lettura lettura(file.percorso, file.vecchio);
+    if (!lettura.aperta())
+        return false;
+    leggi(lettura, documento);
+    return true;
+}
+
 bool righeSuFile(const Archivio& archivio, const Fte& fte) {
-    const auto esiste = [&archivio](const QString& dos) { return QFileInfo::exists(archivio.reale(dos)); };
-    return (fte.nfile > 0.0F && esiste(percorsoRighe(archivio, fte))) ||
-           esiste(archivio.file(
-               nomeVecchio(fte.parcella != 0, fte.numero.text(), pezzo(fte.datadoc.text(), 3, 2))));
+    return !trovaFileRighe(archivio, fte).percorso.isEmpty();
 }
 
 bool leggedoc(Documento& documento, const Archivio& archivio, RigheInSospeso& sospese) {

@@ -21,6 +21,17 @@ bool scrividoc(const Documento& documento, Archivio& archivio);
 /// The stored document has its lines file, or one of the older name.
 bool righeSuFile(const Archivio& archivio, const Fte& fte);
 
+/// A lines file: its path on this machine, and whether it has the older form.
+struct FileRighe {
+    QString percorso; ///< empty where there is none
+    bool vecchio = false;
+};
+
+/// The lines file of the stored document, else one of the older name.
+FileRighe trovaFileRighe(const Archivio& archivio, const Fte& fte);
+/// Fills lines, head texts and switches of the document from the file; false when it could not be read.
+bool leggiRighe(const FileRighe& file, Documento& documento);
+
 /// DOS path of the document's lines file.
 QString percorsoRighe(const Archivio& archivio, const Fte& fte);
 

@@ -4,6 +4,7 @@
 #include "common/posti.h"
 #include "document/articoli.h"
 #include "document/defaultcliente.h"
+#include "document/indicestorico.h"
 #include "document/righemerce.h"
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,19 @@ double RigheMerce::prezzoListino(const Riga& r, Da da) const {
         return prezzo;
     const double aliquota = m_contesto.tabelle.aliquota(r.iva.numero());
     return m_contesto.valuta().arrotondaprezzo(prezzo * (aliquota + 100) / 100);
+}
+
+void RigheMerce::prendi(int n, const RigaVenduta& vendita, bool conIva) {
+    // The price proposes a VAT code to a row that has none.
+    cambia(n, Campo::Prezzo, testoDecimale(vendita.prezzo));
+    const CodiceIva codice = codiceContato(riga(n));
+    if (conIva != scorporo() && codice.tassato()) {
+        const double conImposta = m_contesto.tabelle.aliquota(codice.numero()) + 100;
+        const double prezzo = conIva ? vendita.prezzo * 100 / conImposta : vendita.prezzo * conImposta / 100;
+        cambia(n, Campo::Prezzo, testoDecimale(m_contesto.valuta().arrotondaprezzo(prezzo)));
+    }
+    cambia(n, Campo::Sc1, QString::number(vendita.sconto1));
+    cambia(n, Campo::Sc2, QString::number(vendita.sconto2));
 }
 
 void RigheMerce::mettiTestoAggiuntivo(int n, int recart) {

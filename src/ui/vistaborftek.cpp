@@ -5,6 +5,7 @@
 #include "ui/campodata.h"
 #include "ui/cursorerighe.h"
 #include "ui/finestraincolla.h"
+#include "ui/finestrastorico.h"
 #include "ui/flusso.h"
 
 #include <QGridLayout>
@@ -161,7 +162,13 @@ QWidget* VistaBorftek::creaComandi() {
     barra->comando(u"comando(2)"_s, u"Inserisci riga"_s, u"inserisci"_s, u"F7"_s,
                    [this] { m_form.inserisciRiga(); });
     barra->comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, [this] { m_form.eliminaRiga(); });
+    barra->comando(u"storico"_s, u"Storico"_s, u"storico"_s, u"Ctrl+H"_s, [this] { apriStorico(); });
     return barra;
+}
+
+void VistaBorftek::apriStorico() {
+    if (m_storico)
+        (new FinestraStorico(*m_storico, m_form.storico(), {}, window()))->open();
 }
 
 void VistaBorftek::attiva() {

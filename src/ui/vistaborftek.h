@@ -12,6 +12,8 @@ class QScrollBar;
 
 namespace bor {
 
+class Storico;
+
 class VistaBorftek : public Vista {
 public:
     explicit VistaBorftek(Borftek& form, QWidget* parent = nullptr);
@@ -19,6 +21,8 @@ public:
     void attiva() override;
     void lascia() override;
     QString titolo() const override;
+    /// From then on Ctrl+H shows what the customer has had.
+    void usa(Storico& storico) { m_storico = &storico; }
 
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
@@ -33,10 +37,12 @@ private:
     QWidget* creaPrestazioni();
     QWidget* creaTotali();
     QWidget* creaComandi();
+    void apriStorico();
     void lega(Borftek::Cella cella, QLineEdit* casella);
     void aggiornaPrestazioni();
 
     Borftek& m_form;
+    Storico* m_storico = nullptr;
     Serie<Serie<QLineEdit*, Campo::Data, Campo::Onorari>, 0, Borftek::linee - 1> m_campi;
     QScrollBar* m_cursore = nullptr;
     QListWidget* m_prestazioni = nullptr;

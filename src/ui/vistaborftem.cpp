@@ -2,6 +2,7 @@
 
 #include "ui/affiancati.h"
 #include "ui/campi.h"
+#include "ui/finestrastorico.h"
 #include "ui/flusso.h"
 
 #include <QApplication>
@@ -39,7 +40,13 @@ VistaBorftem::VistaBorftem(Borftem& form, QWidget* parent) : Vista(parent), m_fo
     layout->addWidget(creaRicerca());
     layout->addWidget(creaComandi());
     collegaPercorsi(cliente);
+    offriStorico(*this, [this] { apriStorico(); });
     altriTasti = {{u"Su, Giù, PagSu, PagGiù"_s, u"Nel campo del nome: gli altri clienti, in ordine"_s}};
+}
+
+void VistaBorftem::apriStorico() {
+    if (m_storico && m_form.recordCorrente() > 0)
+        (new FinestraStorico(*m_storico, m_form.storico(), {}, window()))->open();
 }
 
 QWidget* VistaBorftem::creaRicerca() {

@@ -18,6 +18,8 @@ class QScrollBar;
 
 namespace bor {
 
+class Storico;
+
 class VistaBorftem : public Vista {
 public:
     explicit VistaBorftem(Borftem& form, QWidget* parent = nullptr);
@@ -25,6 +27,8 @@ public:
     void attiva() override;
     void lascia() override;
     QString titolo() const override;
+    /// From then on Ctrl+H shows what the customer has had.
+    void usa(Storico& storico) { m_storico = &storico; }
 
 protected:
     /// In `nome` the keys of a list move the customer bar.
@@ -41,6 +45,7 @@ private:
     QWidget* creaPratica();
     QWidget* creaRicerca();
     QWidget* creaComandi();
+    void apriStorico();
     void creaCursore(QHBoxLayout* barra);
     void creaMezzo(QGridLayout* griglia, int numero, Percorso& percorso);
     void collegaPercorsi(const Percorso& cliente);
@@ -58,6 +63,7 @@ private:
     Percorso& percorso(RiquadroTestata quale) { return m_percorsi[quale]; }
 
     Borftem& m_form;
+    Storico* m_storico = nullptr;
     CampiLegati m_campi{legami, m_form.bordata()};
     Serie<Percorso, RiquadroTestata::Contabili, RiquadroTestata::Pratica> m_percorsi;
     Serie<QRadioButton*, Mezzo::Vettore, Mezzo::Mittente> m_mezzo;

@@ -5,6 +5,7 @@
 #include "ui/barracomandi.h"
 #include "ui/campi.h"
 #include "ui/finestraincolla.h"
+#include "ui/finestrastorico.h"
 #include "ui/flusso.h"
 #include "ui/grigliaborftex.h"
 
@@ -188,7 +189,17 @@ QWidget* VistaBorftex::creaComandi() {
     comando(u"comando(3)"_s, u"Elimina riga"_s, u"togli"_s, u"F8"_s, Comando::EliminaRiga);
     comando(u"riordina"_s, u"Riordina"_s, u"riordina"_s, u"F6"_s, Comando::Riordina);
     comando(u"command3d3"_s, u"Articoli"_s, u"lista"_s, u"F3"_s, Comando::ApriLista);
+    barra->comando(u"storico"_s, u"Storico"_s, u"storico"_s, u"Ctrl+H"_s, [this] { apriStorico(); });
     return barra;
+}
+
+void VistaBorftex::apriStorico() {
+    if (!m_storico)
+        return;
+    const auto prendi = [this](const VenditaStorica& vendita) {
+        legami.esegui([&] { m_form.prendi(vendita); });
+    };
+    (new FinestraStorico(*m_storico, m_form.storico(), prendi, window()))->open();
 }
 
 void VistaBorftex::attiva() {

@@ -1,4 +1,6 @@
 #include "document/borftex.h"
+#include "document/filerighe.h"
+#include "document/righeinsospeso.h"
 #include "document/righeiva.h"
 #include "support/azienda.h"
 #include "ui/gesti.h"
@@ -95,6 +97,37 @@ TEST_F(VistaRigheTest, RigheCopiateEIncollateConITasti) {
     controllo(*vista, u"ds(7)"_s)->setFocus();
     tasto(*vista, Qt::Key_V, Qt::ControlModifier);
     EXPECT_TRUE(testoDi(*vista, u"ds(7)"_s).startsWith(u"Vite"_s)) << "one cell goes into the box";
+}
+
+TEST_F(VistaRigheTest, DalloStoricoPrezzoEScontiConInvio) {
+    CoppiaFte coppia = documentoDi(1, u"3"_s, 100, 22);
+    coppia.fte.nfile = 3;
+    azienda.documento(coppia);
+    Documento venduto;
+    venduto.coppia = coppia;
+    venduto.ddd[0] = {.recart = 1, .sconto1 = 12, .iva = 1, .quantita = 4, .prezzo = 1.1};
+    ASSERT_TRUE(scrividoc(venduto, prova->archivio));
+    const RigheInSospeso sospese;
+    Storico storico(prova->contesto, sospese, {});
+    vista->usa(storico);
+    mostra(*vista);
+    digita(u"vite"_s, u"100"_s, {}, {});
+    controllo(*vista, u"artic(0)"_s)->setFocus();
+    for (const Qt::Key risposta : {Qt::Key_Escape, Qt::Key_Return}) {
+        vista->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(vista.get()));
+        tasto(*vista, Qt::Key_H, Qt::ControlModifier);
+        auto* finestra = vista->window()->findChild<QDialog*>(u"storico"_s);
+        ASSERT_TRUE(finestra);
+        EXPECT_TRUE(testoDi(*finestra, u"totaliCliente"_s).startsWith(u"Documenti: 1, totale 122,00"_s));
+        EXPECT_EQ(testoDi(*finestra, u"statoStorico"_s), u"Ultime vendite dell'articolo al cliente: 1"_s);
+        EXPECT_EQ(testoDi(*vista, u"sc1(0)"_s), u"5"_s);
+        foto(*finestra, u"storico"_s);
+        tasto(*finestra, risposta);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_EQ(testoDi(*vista, u"prezzo(0)"_s) + u' ' + testoDi(*vista, u"sc1(0)"_s), u"1.1 12"_s);
+    EXPECT_EQ(testoDi(*vista, u"quantita(0)"_s), u"100"_s);
 }
 
 TEST_F(VistaRigheTest, DieciRigheConISoliTasti) {

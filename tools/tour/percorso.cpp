@@ -133,6 +133,15 @@ void fatturaEsistente(Giro& giro) {
     giro.tasto(Qt::Key_Escape);
 }
 
+/// What the customer paid for an article, from a row that has it.
+void storico(Giro& giro) {
+    giro.vaiSu(u"artic(2)"_s);
+    giro.riga(u"MAC005"_s);
+    giro.tasto(Qt::Key_H, Qt::ControlModifier);
+    giro.foto(u"storico"_s);
+    giro.tasto(Qt::Key_Escape);
+}
+
 /// A credit note made from that invoice, and rows of a spreadsheet that are pasted into it.
 void notaDallaFattura(Giro& giro) {
     giro.tasto(Qt::Key_F3, Qt::ControlModifier);
@@ -147,6 +156,7 @@ void notaDallaFattura(Giro& giro) {
     giro.tasto(Qt::Key_V, Qt::ControlModifier);
     giro.foto(u"righe-da-incollare"_s);
     giro.tasto(Qt::Key_Escape);
+    storico(giro);
     giro.tasto(Qt::Key_Escape);
     giro.tasto(Qt::Key_Escape);
 }
