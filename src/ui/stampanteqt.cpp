@@ -27,37 +27,43 @@ QColor coloreDi(int bgr) {
 
 } // namespace
 
-StampanteQt::StampanteQt() : m_stampante(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
-    m_stampante->setResolution(puntiPerPollice);
-    m_stampante->setPageSize(QPageSize(QPageSize::A4));
-    m_stampante->setFullPage(true);
-}
+StampanteQt::StampanteQt() = default;
 
 StampanteQt::~StampanteQt() = default;
 
+QPrinter& StampanteQt::stampante() const {
+    if (!m_stampante) {
+        m_stampante = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        m_stampante->setResolution(puntiPerPollice);
+        m_stampante->setPageSize(QPageSize(QPageSize::A4));
+        m_stampante->setFullPage(true);
+    }
+    return *m_stampante;
+}
+
 QPainter& StampanteQt::penna() {
     if (m_paginaDovuta)
-        m_stampante->newPage();
+        stampante().newPage();
     m_paginaDovuta = false;
     return *m_penna;
 }
 
 double StampanteQt::punti(double millimetri) const {
-    return millimetri * m_stampante->resolution() / millimetriPerPollice;
+    return millimetri * stampante().resolution() / millimetriPerPollice;
 }
 
 bool StampanteQt::inizia(const QString& titolo) {
     if (QPrinterInfo::defaultPrinter().isNull() && QPrinterInfo::availablePrinterNames().isEmpty())
         return false;
-    m_stampante->setDocName(titolo);
+    stampante().setDocName(titolo);
     m_penna = std::make_unique<QPainter>();
     m_paginaDovuta = false;
-    return m_penna->begin(m_stampante.get());
+    return m_penna->begin(&stampante());
 }
 
 double StampanteQt::larghezza(const QString& testo, const Carattere& carattere) {
-    return QFontMetricsF(fontDi(carattere), m_stampante.get()).horizontalAdvance(testo) *
-           millimetriPerPollice / m_stampante->resolution();
+    return QFontMetricsF(fontDi(carattere), &stampante()).horizontalAdvance(testo) * millimetriPerPollice /
+           stampante().resolution();
 }
 
 void StampanteQt::testo(double x, double y, const QString& testo, const Carattere& carattere, int colore) {
@@ -93,7 +99,7 @@ void StampanteQt::immagine(double x1, double y1, double x2, double y2, const QSt
 
 void StampanteQt::nuovaPagina() {
     if (m_paginaDovuta)
-        m_stampante->newPage();
+        stampante().newPage();
     m_paginaDovuta = true;
 }
 

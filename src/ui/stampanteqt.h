@@ -1,4 +1,5 @@
-// The real printer: Qt's printing with a millimetre scale.
+// The real printer: Qt's printing with a millimetre scale. It is looked for when it is first used: what
+// prints on a machine takes longer to load than a window to open.
 #pragma once
 
 #include "common/stampante.h"
@@ -26,11 +27,12 @@ public:
     void termina() override;
 
 private:
+    QPrinter& stampante() const;
     /// The pen on the page in progress.
     QPainter& penna();
     double punti(double millimetri) const;
 
-    std::unique_ptr<QPrinter> m_stampante;
+    mutable std::unique_ptr<QPrinter> m_stampante; ///< none before its first use
     std::unique_ptr<QPainter> m_penna;
     bool m_paginaDovuta = false; ///< a page ends only where another one begins, so none comes out blank
 };
