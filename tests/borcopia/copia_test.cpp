@@ -2,6 +2,7 @@
 // whole.
 #include "archive/diario.h"
 #include "archive/promemoria.h"
+#include "archive/raffica.h"
 #include "borcopia/copiatore.h"
 #include "borcopia/elencocopie.h"
 #include "borcopia/nastro.h"
@@ -15,10 +16,12 @@
 #include <QDirIterator>
 #include <QProcess>
 #include <QSaveFile>
+#include <QThread>
 
 #include <csignal>
 #include <functional>
 #include <sys/resource.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -132,6 +135,40 @@ TEST_F(CopiaTest, QuelloCheCambiaDuranteLaLetturaECopiatoComEAllaFine) {
     atteso.remove(u"borlano.rip"_s);
     EXPECT_EQ(atteso[u"f1"_s], "nuove");
     EXPECT_EQ(contenuto(nuova.filePath(u"suprok/suprok/boraz0.007"_s)), atteso);
+}
+
+/// The copy is past its first lock when it tells 99 for the first time, and has read what it lacked.
+TEST_F(CopiaTest, SoloChiRegistraNelFrattempoFaRileggereSottoIlBlocco) {
+    // Younger files might change again in the same tick of their clock.
+    QThread::msleep(2200);
+    const auto copiaMentre = [this](const std::function<void()>& cambia) {
+        bool fatto = false;
+        const EsitoCopia copia = crea([&](int percento) {
+            if (percento == 99 && !std::exchange(fatto, true))
+                cambia();
+            return true;
+        });
+        EXPECT_EQ(copia.errore, QString());
+        const QTemporaryDir nuova;
+        EXPECT_EQ(torna(copia.percorso, nuova.path()).errore, QString());
+        return contenuto(nuova.filePath(u"suprok/suprok/boraz0.007"_s));
+    };
+    const auto quieta = copiaMentre([this] { scrivi(azienda.percorso(u"sotto/nota.txt"_s), "dopo"); });
+    EXPECT_EQ(quieta[u"sotto/nota.txt"_s], "nota") << "nobody has registered: nothing is read again";
+
+    const auto registrata = copiaMentre([this] {
+        Archivio a(azienda.percorsi(), disco, 7);
+        a.apri();
+        Raffica raffica(a, {});
+        Fte fte = raffica.leggi(a.fte, 1);
+        fte.numero.set(u"77"_s);
+        raffica.cambia(a.fte, Conta::Fte, 1, fte);
+        ASSERT_EQ(raffica.esegui([this] { azienda.scrivi(u"f1"_s, "settantasette"); }),
+                  EsitoRaffica::Riuscita);
+    });
+    EXPECT_EQ(registrata[u"f1"_s], "settantasette");
+    EXPECT_EQ(registrata[u"borlano.fte"_s], azienda.leggi(u"borlano.fte"_s));
+    EXPECT_EQ(registrata[u"sotto/nota.txt"_s], "dopo");
 }
 
 TEST_F(CopiaTest, UnaRegistrazioneRimastaAMetaEPrimaCompletata) {

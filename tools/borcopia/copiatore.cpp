@@ -5,6 +5,7 @@
 #include "archive/raffica.h"
 #include "borcopia/appunti.h"
 #include "borcopia/elencocopie.h"
+#include "borcopia/fileletto.h"
 #include "borcopia/fonte.h"
 #include "borcopia/nastro.h"
 #include "common/testo.h"
@@ -12,16 +13,15 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QSysInfo>
 #include <QThread>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
-#include <fcntl.h>
-#include <unistd.h>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
@@ -32,38 +32,10 @@ namespace {
 constexpr qsizetype pezzoLetto = qsizetype{1} << 20;
 /// A clock of files ticks: what was changed so shortly before may change again without showing it.
 constexpr qint64 appenaCambiato = 2'000'000'000;
-constexpr int tentativi = 6;
+constexpr int tentativi = 12;
 constexpr auto passoTentativi = 50UL;
-
-/// A file of this machine that is only read.
-class FileLetto {
-public:
-    explicit FileLetto(const QString& percorso)
-        : m_descrittore(::open(QFile::encodeName(percorso).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)),
-          m_errore(m_descrittore < 0 ? errno : 0) {}
-    ~FileLetto() {
-        if (m_descrittore >= 0)
-            ::close(m_descrittore);
-    }
-    FileLetto(const FileLetto&) = delete;
-    FileLetto& operator=(const FileLetto&) = delete;
-
-    bool aperto() const { return m_descrittore >= 0; }
-    int errore() const { return m_errore; }
-    std::optional<Identita> chi() const { return identita(m_descrittore); }
-    /// How many bytes; 0 at the end, -1 on a failure.
-    qint64 leggi(QByteArray& bytes, qsizetype massimo) {
-        bytes.resize(massimo);
-        const ssize_t letti = ::read(m_descrittore, bytes.data(), static_cast<std::size_t>(massimo));
-        m_errore = letti < 0 ? errno : 0;
-        bytes.truncate(std::max<qsizetype>(letti, 0));
-        return letti;
-    }
-
-private:
-    int m_descrittore;
-    int m_errore;
-};
+/// Who wants to register waits five seconds for the lock, then gives up.
+constexpr std::chrono::milliseconds bloccoMassimo{2000};
 
 /// A file whose bytes wait in memory until the lock is given back.
 struct InMemoria {
@@ -77,7 +49,15 @@ struct Copiato {
     QByteArray impronta;
     qint64 lunghezza = 0;
     bool certo = false; ///< a change since then would show
-    int volta = 0;      ///< the last attempt under the lock that found it as it is here
+    int volta = 0;      ///< the last look at the company that found it as it is here
+};
+
+/// By which the files that bursts change show whether anybody has registered in between.
+struct Registrato {
+    std::array<std::optional<Identita>, fileDiRaffica.size()> file;
+    bool certo = true; ///< a change since then would show
+
+    friend bool operator==(const Registrato& uno, const Registrato& altro) { return uno.file == altro.file; }
 };
 
 class Copiatore {
@@ -95,9 +75,11 @@ private:
     bool scriviNastro(int descrittore);
     bool senzaBlocco();
     bool copia(const FileFonte& file);
-    bool sottoBlocco();
+    bool cogliMomento();
+    bool sottoBlocco(bool pronto, std::optional<Registrato>& prima);
     void raccontaRecuperi();
-    bool leggiTutto(const std::vector<FileFonte>& file, int volta);
+    Registrato registrato() const;
+    bool leggiCambiati(QDeadlineTimer scadenza = QDeadlineTimer::Forever);
     std::optional<bool> leggiInMemoria(const FileFonte& file);
     bool scriviInMemoria();
     bool scriviTesto(const QString& nome, const QByteArray& testo);
@@ -112,6 +94,7 @@ private:
     std::optional<NastroScritto> m_nastro;
     QHash<QString, Copiato> m_copiati; ///< by their names in the copy
     std::vector<InMemoria> m_inMemoria;
+    int m_volta = 0;
     QByteArray m_pezzo;
     EsitoCopia m_esito;
 };
@@ -149,7 +132,7 @@ EsitoCopia Copiatore::esegui(const QString& cartella) {
 bool Copiatore::scriviNastro(int descrittore) {
     m_nastro.emplace(descrittore);
     const bool scritto = scriviTesto(nomeAppunti.toString(), appunti().testo()) && senzaBlocco() &&
-                         sottoBlocco() && scriviInMemoria() &&
+                         cogliMomento() && scriviInMemoria() &&
                          scriviTesto(nomeImpronte.toString(), impronte()) && m_nastro->chiudi();
     if (!m_nastro->errore().isEmpty())
         fallisci(u"La copia non si può scrivere: %1."_s.arg(m_nastro->errore()));
@@ -209,34 +192,65 @@ bool Copiatore::copia(const FileFonte& fonte) {
     return true;
 }
 
-bool Copiatore::sottoBlocco() {
-    for (int volta = 1; volta <= tentativi; ++volta) {
-        bool letto = false;
-        // Open no longer than needed: somebody may want the files alone, for a reorder.
-        m_archivio.apri();
-        {
-            const Raffica raffica(m_archivio, {});
-            QElapsedTimer tempo;
-            tempo.start();
-            raccontaRecuperi();
-            if (!raffica.riuscita() && raffica.esito() != EsitoRaffica::Occupata)
-                return fallisci(
-                    u"L'archivio non si può prendere per la copia: serve il permesso di scrivere in %1."_s
-                        .arg(m_archivio.reale(m_archivio.file(u""))));
-            const auto file = raffica.riuscita() ? elencaFonte(m_percorsi, m_codice) : std::nullopt;
-            letto = file && leggiTutto(*file, volta);
-            m_esito.blocco = tempo.elapsed();
-        }
-        m_archivio.chiudi();
-        if (letto) {
-            m_copiati.removeIf([volta](const auto& copiato) { return copiato.value().volta != volta; });
+/// What was changed is read without the lock; if under it nobody turns out to have registered since it was
+/// last held, that is the company of this moment. Only where somebody has, it is read under the lock.
+bool Copiatore::cogliMomento() {
+    std::optional<Registrato> prima;
+    bool pronto = false;
+    for (int tentativo = 0; tentativo <= tentativi; ++tentativo) {
+        if (sottoBlocco(pronto, prima)) {
+            m_copiati.removeIf([this](const auto& copiato) { return copiato.value().volta != m_volta; });
             return true;
         }
-        if (!m_esito.errore.isEmpty() || !avanza(99, 100))
+        if (!m_esito.errore.isEmpty())
             return false;
-        QThread::msleep(passoTentativi);
+        if (tentativo > 0)
+            QThread::msleep(passoTentativi);
+        pronto = leggiCambiati();
+        if (!avanza(99, 100))
+            return false;
     }
     return fallisci(u"Altri programmi scrivono nell'archivio senza sosta: ripetere la copia più tardi."_s);
+}
+
+/// `pronto`: what was read is whole, and was begun when the lock had found the company as in `prima`, which
+/// is brought up to date.
+bool Copiatore::sottoBlocco(bool pronto, std::optional<Registrato>& prima) {
+    bool letto = false;
+    // Open no longer than needed: somebody may want the files alone, for a reorder.
+    m_archivio.apri();
+    {
+        const Raffica raffica(m_archivio, {});
+        QElapsedTimer tempo;
+        tempo.start();
+        raccontaRecuperi();
+        if (raffica.riuscita()) {
+            const bool seconda = prima.has_value();
+            const Registrato ora = registrato();
+            letto = pronto && prima && prima->certo && ora == *prima;
+            prima = ora;
+            if (!letto && seconda)
+                letto = leggiCambiati(QDeadlineTimer(bloccoMassimo));
+        } else if (raffica.esito() != EsitoRaffica::Occupata) {
+            fallisci(
+                u"L'archivio non si può prendere per la copia: serve il permesso di scrivere in %1."_s.arg(
+                    m_archivio.reale(m_archivio.file(u""))));
+        }
+        m_esito.blocco = std::max(m_esito.blocco, tempo.elapsed());
+    }
+    m_archivio.chiudi();
+    return letto && m_esito.errore.isEmpty();
+}
+
+Registrato Copiatore::registrato() const {
+    Registrato adesso;
+    const qint64 limite = QDateTime::currentMSecsSinceEpoch() * 1'000'000 - appenaCambiato;
+    for (std::size_t i = 0; i < fileDiRaffica.size(); ++i) {
+        const auto chi = FileLetto(m_archivio.reale(m_archivio.borlano(fileDiRaffica[i].estensione))).chi();
+        adesso.certo = adesso.certo && (!chi || std::max(chi->modificato, chi->cambiato) < limite);
+        adesso.file[i] = chi;
+    }
+    return adesso;
 }
 
 void Copiatore::raccontaRecuperi() {
@@ -249,19 +263,23 @@ void Copiatore::raccontaRecuperi() {
     }
 }
 
-/// Reads what the copy lacks of these files, and marks what it has of them. False without an error when
-/// somebody who does not know the lock wrote in between.
-bool Copiatore::leggiTutto(const std::vector<FileFonte>& file, int volta) {
+/// Reads what the copy lacks of the company, and marks what it has of it. False without an error when
+/// somebody who does not know the lock wrote in between, and when the time is over.
+bool Copiatore::leggiCambiati(QDeadlineTimer scadenza) {
     m_inMemoria.clear();
+    ++m_volta;
+    const auto file = elencaFonte(m_percorsi, m_codice, scadenza);
+    if (!file)
+        return false;
     std::vector<const FileFonte*> diRaffica;
-    for (const FileFonte& fonte : file) {
+    for (const FileFonte& fonte : *file) {
         const auto copiato = m_copiati.find(fonte.nome);
         if (!fonte.diRaffica && copiato != m_copiati.end() && copiato->certo &&
             copiato->identita == fonte.identita) {
-            copiato->volta = volta;
+            copiato->volta = m_volta;
             continue;
         }
-        const auto letto = leggiInMemoria(fonte);
+        const auto letto = scadenza.hasExpired() ? std::nullopt : leggiInMemoria(fonte);
         if (!letto)
             return false;
         if (*letto && fonte.diRaffica)

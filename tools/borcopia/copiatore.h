@@ -1,6 +1,7 @@
-// Makes a copy of a company while others work on it. Lines files and the like, nearly all the bytes, are read
-// without a lock; what bursts change is read under theirs, together with whatever was changed meanwhile: the
-// copy is the company as it was in that moment, which takes a tenth of a second.
+// Makes a copy of a company while others work on it. Nearly all is read without a lock; the lock of the
+// bursts tells whether anybody has registered meanwhile, and only then is what they changed read under it:
+// the copy is the company as it was in that moment, for which others wait a thousandth of a second, and two
+// seconds at the most.
 #pragma once
 
 #include <QString>
@@ -23,7 +24,7 @@ struct EsitoCopia {
     int file = 0;       ///< how many are in it
     qint64 byte = 0;    ///< how many they have
     QStringList avvisi; ///< registrations of others that were completed first
-    qint64 blocco = 0;  ///< milliseconds for which nobody else could register
+    qint64 blocco = 0;  ///< milliseconds at a stretch for which nobody else could register, at the most
 };
 
 /// Writes a copy of the company into a folder of this machine, which is made when it is missing. The copy has

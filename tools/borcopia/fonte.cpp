@@ -52,6 +52,8 @@ bool dellaSuite(const QString& nome) {
 
 class Raccolta {
 public:
+    explicit Raccolta(QDeadlineTimer scadenza) : m_scadenza(scadenza) {}
+
     /// Adds the regular files of a folder that `ammessi` takes; a folder that is not there has none.
     template <class Ammessi>
     void aggiungi(const QString& cartella, const QString& parte, bool conSottocartelle, Ammessi ammessi) {
@@ -61,6 +63,10 @@ public:
             return;
         fs::recursive_directory_iterator voce(radice, errore);
         for (; !errore && voce != fs::recursive_directory_iterator(); voce.increment(errore)) {
+            if (m_scadenza.hasExpired()) {
+                intera = false;
+                return;
+            }
             if (!conSottocartelle)
                 voce.disable_recursion_pending();
             const QString percorso = QFile::decodeName(voce->path().c_str());
@@ -76,6 +82,9 @@ public:
 
     std::vector<FileFonte> file;
     bool intera = true;
+
+private:
+    QDeadlineTimer m_scadenza;
 };
 
 } // namespace
@@ -89,8 +98,9 @@ QString parteAzienda(int codice) {
     return cartellaAzienda(codice).mid(1).replace(u'\\', u'/') + u'/';
 }
 
-std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int codice) {
-    Raccolta raccolta;
+std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int codice,
+                                                  QDeadlineTimer scadenza) {
+    Raccolta raccolta(scadenza);
     raccolta.aggiungi(percorsi.reale(cartellaAzienda(codice)).value_or(QString()), parteAzienda(codice), true,
                       [](const QString& nome) { return !tralasciato(nome); });
     raccolta.aggiungi(percorsi.reale(radiceSuite.chopped(1)).value_or(QString()), parteSuite.toString(),

@@ -1,6 +1,7 @@
 // What belongs to a company and goes into its copy, and by what a file is known again.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QString>
 
 #include <optional>
@@ -36,8 +37,9 @@ struct FileFonte {
 /// The files of the company as they are now: its folder with all that is below it; of the suite's folder the
 /// settings and pictures that all companies share; of the user's own data the lines of documents that have no
 /// lines file yet. Not the recovery log, which is empty whenever a copy is taken, and not the note about the
-/// last copy. Nothing when a folder could not be read.
-std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int codice);
+/// last copy. Nothing when a folder could not be read, or not by then.
+std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int codice,
+                                                  QDeadlineTimer scadenza = QDeadlineTimer::Forever);
 
 /// Where the parts lie in a copy, each with its closing slash.
 inline constexpr QStringView parteSuite = u"suprok/suprok/";
