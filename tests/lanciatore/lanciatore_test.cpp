@@ -1,9 +1,11 @@
 #include "archive/promemoria.h"
+#include "common/installazione.h"
 #include "lanciatore/scelta.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -164,6 +166,30 @@ TEST(Aziende, IlProgrammaDeiPdfSiTrovaNellaSuite) {
     scrivi(unita.suite(u"BORXPDF"_s), "della suite");
     EXPECT_TRUE(collegaBorxpdf(unita.percorsi(), programmi.path()));
     EXPECT_FALSE(QFileInfo::exists(unita.suite(u"borxpdf"_s)));
+}
+
+/// Where links cannot be made the suite's folder has a copy, which would otherwise stay for ever.
+TEST(Aziende, DelProgrammaDeiPdfSiRinnovaSoloLaCopiaDiUnaVersionePiuVecchia) {
+    const Unita unita;
+    const QTemporaryDir programmi;
+    const QByteArray nostro(reinterpret_cast<const char*>(identificatore.utf16()), identificatore.size() * 2);
+    const QString posto = unita.suite(u"borxpdf"_s);
+    scrivi(programmi.filePath(u"borxpdf"_s), nostro + " 2");
+    const auto dopo = [&](const QByteArray& copia, int giorni) {
+        scrivi(posto, copia);
+        QFile file(posto);
+        EXPECT_TRUE(
+            file.open(QIODevice::ReadWrite) &&
+            file.setFileTime(QDateTime::currentDateTime().addDays(giorni), QFile::FileModificationTime));
+        file.close();
+        EXPECT_TRUE(collegaBorxpdf(unita.percorsi(), programmi.path()));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    EXPECT_EQ(dopo(nostro + " 1", -1), nostro + " 2");
+    EXPECT_EQ(QFileInfo(posto).lastModified(), QFileInfo(programmi.filePath(u"borxpdf"_s)).lastModified());
+    EXPECT_EQ(dopo(nostro + " 3", 1), nostro + " 3");
+    EXPECT_EQ(dopo("altrui", -1), "altrui");
+    EXPECT_EQ(QDir(unita.suite({})).entryList({u"*.nuovo"_s}), QStringList());
 }
 
 TEST(SceltaAzienda, InvioApreLAziendaSceltaEdEscChiude) {

@@ -5,13 +5,16 @@
 #include "common/installazione.h"
 #include "common/testo.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cstdio>
 #include <map>
 
 namespace bor::lancia {
@@ -77,17 +80,52 @@ Comando comandoCopia(const QString& cartellaProgrammi, const QString& unita, int
              u"--avanzamento"_s}};
 }
 
+namespace {
+
+/// A copy of the tool that an older version of the program has left. What somebody else has put there is not.
+bool copiaSuperata(const QFileInfo& posta, const QFileInfo& programma) {
+    constexpr qint64 tic = 2000; // milliseconds; some file systems count in them
+    if (!posta.isFile() || posta.isSymLink() || posta.lastModified().msecsTo(programma.lastModified()) <= tic)
+        return false;
+    QFile file(posta.filePath());
+    const QByteArrayView nostro(reinterpret_cast<const char*>(identificatore.utf16()),
+                                identificatore.size() * qsizetype{sizeof(char16_t)});
+    return file.open(QIODevice::ReadOnly) && file.readAll().contains(nostro);
+}
+
+/// Beside it first, so that a program that runs just then keeps its file. The copy has the age of its
+/// original.
+bool copiaProgramma(const QString& programma, const QString& posto) {
+    const QString nuova = posto + u".nuovo"_s;
+    QFile::remove(nuova);
+    QFile file(nuova);
+    const bool copiata = QFile::copy(programma, nuova) && file.open(QIODevice::ReadWrite) &&
+                         file.setFileTime(QFileInfo(programma).lastModified(), QFile::FileModificationTime);
+    file.close();
+    if (copiata &&
+        std::rename(QFile::encodeName(nuova).constData(), QFile::encodeName(posto).constData()) == 0)
+        return true;
+    QFile::remove(nuova);
+    return false;
+}
+
+} // namespace
+
 bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi) {
     const auto posto = percorsi.reale(radiceSuite.toString() + u"borxpdf"_s);
     if (!posto)
         return false;
-    if (QFileInfo::exists(*posto))
+    const QString programma = bor::programma(cartellaProgrammi, u"borxpdf");
+    const bool installato = QFile::exists(programma);
+    if (const QFileInfo posta(*posto); posta.exists()) {
+        if (installato && copiaSuperata(posta, QFileInfo(programma)) && !copiaProgramma(programma, *posto))
+            qWarning("borxpdf in the suite's folder is of an older version, and was not replaced");
         return true;
+    }
     // What is in the way can only be a link to a program that has gone.
     QFile::remove(*posto);
-    const QString programma = bor::programma(cartellaProgrammi, u"borxpdf");
     // Some network drives know no links.
-    return QFile::exists(programma) && (QFile::link(programma, *posto) || QFile::copy(programma, *posto));
+    return installato && (QFile::link(programma, *posto) || copiaProgramma(programma, *posto));
 }
 
 bool avviaModulo(const Percorsi& percorsi, const QString& cartellaProgrammi, int codiceazienda) {

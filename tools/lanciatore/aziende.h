@@ -43,8 +43,9 @@ Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& un
 Comando comandoCopia(const QString& cartellaProgrammi, const QString& unita, int codiceazienda,
                      const QString& cartella);
 
-/// Puts the PDF tool where the module calls it, in the suite's folder, unless one is there. False when that
-/// failed: everything but PDF files then works.
+/// Puts the PDF tool where the module calls it, in the suite's folder, unless one is there; where links
+/// cannot be made it is a copy, which a newer version of the program replaces. False when there is none
+/// afterwards: everything but PDF files then works.
 bool collegaBorxpdf(const Percorsi& percorsi, const QString& cartellaProgrammi);
 
 /// Starts the module on a company of the drive and goes on without waiting; false when it did not start.
