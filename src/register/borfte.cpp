@@ -3,6 +3,7 @@
 #include "common/posti.h"
 #include "document/riscontromovimento.h"
 #include "register/righeelenco.h"
+#include "register/tabellaregistro.h"
 
 #include <algorithm>
 
@@ -29,7 +30,7 @@ int primoRecord(std::optional<Selvis> selvis, int numero) {
 } // namespace
 
 Borfte::Borfte(Contesto& contesto, Documento& documento)
-    : m_contesto(contesto), m_documento(documento), m_riordino(contesto),
+    : m_contesto(contesto), m_documento(documento), m_riordino(contesto), m_elenco(contesto.tabelle),
       m_opzioni(
           contesto, [this] { return !m_riordino.inCorso(); },
           [this](OpzioniRegistro::Effetto effetto) { opzioniCambiate(effetto); }),
@@ -102,6 +103,9 @@ void Borfte::opzioniCambiate(OpzioniRegistro::Effetto effetto) {
         m_elenco.cerca(m_opzioni.scelte().cercato);
         m_primaRiga.reset();
         ++m_edizione;
+        return;
+    case OpzioniRegistro::Effetto::Colonne:
+        return;
     }
 }
 
@@ -146,7 +150,10 @@ void Borfte::caricalista() {
     m_difetti.clear();
     m_senzaRighe.clear();
     m_elenco.carica(m_contesto.archivio, primoRecord(m_opzioni.scelte().selvis, m_numero), m_numero,
-                    filtroScelto());
+                    [filtro = filtroScelto(), vaglio = Vaglio(m_opzioni.vista().documenti)](
+                        int record, const Fte& fte, const F2e& f2e) {
+                        return vaglio.passa(fte, f2e) && filtro(record, fte, f2e);
+                    });
     const int righelista = m_elenco.quante() + 1;
     m_primaRiga = 0;
     if (m_opzioni.scelte().visua == Visua::DallUltima && righelista > righeSotto + 1)
@@ -207,6 +214,29 @@ std::optional<int> Borfte::colore(int riga, Colonna colonna) const {
     if (m_cellaColorata && m_cellaColorata->cella == Cella{riga, colonna})
         return m_cellaColorata->colore;
     return std::nullopt;
+}
+
+QString Borfte::totali(const SommeElenco& somme) const {
+    QString testo = somme.documenti == 1 ? u"1 documento"_s : u"%1 documenti"_s.arg(somme.documenti);
+    if (somme.eliminati > 0)
+        testo += (somme.eliminati == 1 ? u" (%1 eliminato)"_s : u" (%1 eliminati)"_s).arg(somme.eliminati);
+    const auto aggiungi = [&](QStringView nome, double importo) {
+        if (const QString scritto = m_contesto.valuta().importotesto(importo); !scritto.isEmpty())
+            testo += u"   %1 %2"_s.arg(nome, scritto);
+    };
+    aggiungi(u"Imponibile", somme.imponibile);
+    aggiungi(u"Imposta", somme.imposta);
+    aggiungi(u"Esente", somme.esente);
+    aggiungi(u"Totale", somme.totale);
+    aggiungi(u"Ritenuta", somme.ritenuta);
+    return testo;
+}
+
+Tabella Borfte::tabella() const {
+    Tabella tabella = tabellaRegistro(m_elenco, m_opzioni.vista().mostrate(), m_contesto.valuta());
+    tabella.titolo = titoloRegistro(m_contesto.archivio);
+    tabella.filtro = m_opzioni.descrizione();
+    return tabella;
 }
 
 int Borfte::righeGriglia() const {

@@ -36,6 +36,10 @@ public:
 
     const ElencoFatture& elenco() const { return m_elenco; }
     QString testo(int riga, Colonna colonna) const;
+    /// The list as it is shown. Refers to it: to be written before anything else happens to the register.
+    Tabella tabella() const;
+    /// What rows of the list come to, credit notes subtracted, deleted ones left out.
+    QString totali(const SommeElenco& somme) const;
     /// Background of a cell as 0x00BBGGRR; nothing for the grid's own.
     std::optional<int> colore(int riga, Colonna colonna) const;
     /// What the operator should know of the document of a row: its lines are not on file, its movement does

@@ -17,19 +17,15 @@ namespace {
 constexpr int documentiPerBlocco = 512;
 const QString eliminata = QStringLiteral("Fattura eliminata");
 
-/// Taxable, tax and exempt amount position by position, the order in which the suite adds them.
-double totaleDocumento(const Fte& fte, const F2e& f2e) {
-    double totale = 0;
-    for (std::size_t i = 0; i < fte.impon.size(); ++i)
-        totale = totale + fte.impon[i] + fte.iva[i] + fte.esen[i];
-    for (std::size_t i = 0; i < f2e.impon.size(); ++i)
-        totale = totale + f2e.impon[i] + f2e.iva[i] + f2e.esen[i];
-    return fte.tipo == 1 ? -totale : totale;
-}
-
 /// The name would still have a character after cleaning and trimming.
 bool nominato(const Text<60>& pdf) {
     return std::ranges::any_of(pdf.bytes, [](char c) { return c != ' ' && stampabile(codiceDi(c)); });
+}
+
+/// The number of its payment type; 0 where it names none.
+std::int16_t tipoPagamento(const Fte& fte) {
+    const int numero = QByteArray(fte.pagamento.raw().data(), fte.pagamento.raw().size()).trimmed().toInt();
+    return breve(decltype(Tabelle::tipopagamenti)::contiene(numero) ? numero : 0);
 }
 
 /// Sets the number that cannot be one of an electronic invoice back to 0, in the records as they are by now.
@@ -82,8 +78,9 @@ void ElencoFatture::aggiungi(int record, const Fte& fte, const F2e& f2e) {
     if (pdf)
         m_pdf.push_back(f2e.pdf);
     m_righe.push_back({fte.numero, fte.datareg, fte.datadoc, breve(record), fte.cliente,
-                       breve(pdf ? quantiIn(m_pdf) - 1 : -1), fte.stamp, fte.nfile, fte.parcella != 0,
-                       f2e.fatturaPa(), fte.annullata == 1, totaleDocumento(fte, f2e)});
+                       breve(pdf ? quantiIn(m_pdf) - 1 : -1), tipoPagamento(fte), fte.stamp, fte.nfile,
+                       fte.parcella != 0, f2e.fatturaPa(), fte.annullata == 1, importiDi(fte, f2e),
+                       primaScadenza(fte, f2e)});
 }
 
 void ElencoFatture::leggiNomi(const Archivio& archivio) {
@@ -97,6 +94,10 @@ QString ElencoFatture::nomeCliente(const Riga& riga) const {
     if (riga.annullata)
         return eliminata;
     return riga.cliente > 0 ? elemento(m_nomi, riga.cliente) : QString();
+}
+
+QString ElencoFatture::nomePagamento(const Riga& riga) const {
+    return m_tabelle.tipopagamenti[riga.pagamento].descrizione;
 }
 
 void ElencoFatture::ordina(Colonna colonna) {
@@ -120,7 +121,7 @@ void ElencoFatture::scegliMostrate() {
     const auto trovata = [&](const Riga& r) {
         const bool perNome = r.annullata ? eliminate : r.cliente > 0 && elemento(nomi, r.cliente);
         return cerca.vuota() || perNome ||
-               cerca.trovaDocumento(r.numero.raw(), r.datareg.raw(), r.datadoc.raw(), r.totale);
+               cerca.trovaDocumento(r.numero.raw(), r.datareg.raw(), r.datadoc.raw(), r.importi.totale);
     };
     m_mostrate.clear();
     for (std::size_t i = 0; i < m_righe.size(); ++i) {
@@ -146,7 +147,7 @@ QString ElencoFatture::testo(const Riga& r, Colonna colonna, const Valuta& valut
     case Colonna::Cliente:
         return nomeCliente(r);
     case Colonna::Importo:
-        return valuta.importotesto(r.totale);
+        return valuta.importotesto(r.importi.totale);
     case Colonna::Pa:
         return r.pa ? QStringLiteral("PA") : QString();
     case Colonna::Pdf:
@@ -155,6 +156,18 @@ QString ElencoFatture::testo(const Riga& r, Colonna colonna, const Valuta& valut
         return nomePdf(r);
     case Colonna::Chiave:
         return puliscitesto(r.datareg.text());
+    case Colonna::Imponibile:
+        return valuta.importotesto(r.importi.imponibile);
+    case Colonna::Imposta:
+        return valuta.importotesto(r.importi.imposta);
+    case Colonna::Esente:
+        return valuta.importotesto(r.importi.esente);
+    case Colonna::Ritenuta:
+        return valuta.importotesto(r.importi.ritenuta);
+    case Colonna::PrimaScadenza:
+        return dataDaAnnoMeseGiorno(r.scadenza.text());
+    case Colonna::Pagamento:
+        return nomePagamento(r);
     }
     return {};
 }

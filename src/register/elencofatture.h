@@ -3,32 +3,40 @@
 #pragma once
 
 #include "archive/archivio.h"
+#include "archive/tabelle.h"
 #include "common/posti.h"
 #include "common/valuta.h"
 #include "document/identita.h"
+#include "register/colonneelenco.h"
+#include "register/importidocumento.h"
 
 #include <functional>
 #include <vector>
 
 namespace bor {
 
-/// Columns of the register, by their number on screen.
-enum class Colonna {
-    Registrazione,
-    DataRegistrazione,
-    Numero,
-    DataDocumento,
-    Cliente,
-    Importo,
-    Pa,
-    Pdf,
-    NomePdf,
-    Chiave
+/// Rows one below the other, counted from 0; both ends belong to it.
+struct TrattoRighe {
+    int prima = 0;
+    int ultima = 0;
 };
-inline constexpr int colonneElenco = 10;
+
+/// Of some rows: how many documents, and what they come to, credit notes subtracted, deleted ones left out.
+struct SommeElenco {
+    int documenti = 0; ///< deleted ones included
+    int eliminati = 0;
+    double imponibile = 0;
+    double imposta = 0;
+    double esente = 0;
+    double ritenuta = 0;
+    double totale = 0;
+};
 
 class ElencoFatture {
 public:
+    /// `tabelle` names the payment types, and outlives the list.
+    explicit ElencoFatture(const Tabelle& tabelle) : m_tabelle(tabelle) {}
+
     /// The most rows that the list can show; later documents are left out.
     static constexpr int massimoRighe = 31999;
 
@@ -48,6 +56,12 @@ public:
     void cerca(const QString& testo);
 
     int quante() const { return quantiIn(m_mostrate); }
+    /// What the rows come to; those that do not exist count as nothing.
+    SommeElenco somma(const std::vector<TrattoRighe>& tratti) const;
+    /// The same of all that are shown.
+    SommeElenco somma() const;
+    /// The value of a cell, for a table that leaves the program.
+    void cella(int riga, Colonna colonna, CelleRiga& celle) const;
     /// Text of a cell; rows count from 0. A row that does not exist is blank.
     QString testo(int riga, Colonna colonna, const Valuta& valuta) const;
     /// Record number of a row; 0 for a row that does not exist.
@@ -71,13 +85,15 @@ private:
         Text<8> datadoc;
         std::int16_t record;
         std::int16_t cliente;
-        std::int16_t pdf; ///< index in `m_pdf`; -1 none
+        std::int16_t pdf;       ///< index in `m_pdf`; -1 none
+        std::int16_t pagamento; ///< number of the payment type; 0 none
         double stamp;
         float nfile;
         bool parcella;
         bool pa;
         bool annullata;
-        double totale;
+        ImportiDocumento importi;
+        Text<8> scadenza; ///< of the first instalment, `yyyymmdd`; blank without one
     };
 
     bool esiste(int riga) const { return riga >= 0 && riga < quante(); }
@@ -87,8 +103,10 @@ private:
     void aggiungi(int record, const Fte& fte, const F2e& f2e);
     void leggiNomi(const Archivio& archivio);
     QString nomeCliente(const Riga& riga) const;
+    QString nomePagamento(const Riga& riga) const;
     QString nomePdf(const Riga& riga) const;
 
+    const Tabelle& m_tabelle;
     std::vector<Riga> m_righe;           ///< all that the fill took in
     std::vector<std::size_t> m_mostrate; ///< indices of those that answer to `m_cercato`
     QString m_cercato;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/contesto.h"
+#include "register/vistaregistro.h"
 
 #include <functional>
 #include <optional>
@@ -28,21 +29,28 @@ struct SceltaVista {
 class OpzioniRegistro {
 public:
     /// What a choice asks of the list.
-    enum class Effetto { Riempimento, Posizione, Ricerca };
+    enum class Effetto { Riempimento, Posizione, Ricerca, Colonne };
 
     /// `libero`: choices may be made, otherwise they have no effect. `cambiate` hears of each one.
     OpzioniRegistro(Contesto& contesto, std::function<bool()> libero, std::function<void(Effetto)> cambiate);
 
-    /// From the stored preference, without a word to `cambiate`.
+    /// From the stored preference and what is remembered, without a word to `cambiate`.
     void ripristina();
 
     void cambiaFiltro(FiltroFatture filtro);
     void cambiaSelvis(Selvis scelta);
     void cambiaVisua(Visua scelta);
+    /// The list as the operator wants it; remembered for the company.
+    void cambiaVista(const VistaRegistro& vista);
     /// Leaves in the list the documents that answer to the text, as `CercaFatture` tells.
     void cerca(const QString& testo);
 
     const SceltaVista& scelte() const { return m_scelte; }
+    const VistaRegistro& vista() const { return m_vista; }
+    /// One line that tells which documents are in the list: "Tutti i documenti", "marzo 2015, fatture".
+    QString descrizione() const;
+    Bordata bordata() const { return m_contesto.bordata(); }
+    QDate oggi() const { return m_contesto.orologio.oggi(); }
 
 private:
     void salva();
@@ -50,7 +58,9 @@ private:
     Contesto& m_contesto;
     std::function<bool()> m_libero;
     std::function<void(Effetto)> m_cambiate;
+    MemoriaVista m_memoria;
     SceltaVista m_scelte;
+    VistaRegistro m_vista;
 };
 
 } // namespace bor

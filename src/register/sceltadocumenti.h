@@ -2,19 +2,11 @@
 // rows: a sort, a search or a fill moves the rows under them.
 #pragma once
 
-#include "document/identita.h"
+#include "register/elencofatture.h"
 
 #include <vector>
 
 namespace bor {
-
-class ElencoFatture;
-
-/// Rows one below the other, counted from 0; both ends belong to it.
-struct TrattoRighe {
-    int prima = 0;
-    int ultima = 0;
-};
 
 class SceltaDocumenti {
 public:
@@ -24,15 +16,18 @@ public:
     void scegli(const std::vector<TrattoRighe>& righe);
     /// Where the chosen documents stand by now, after a fill or a sort. One that is not in the list any more
     /// is no longer chosen.
-    std::vector<TrattoRighe> ritrova();
-    void dimentica() { m_documenti.clear(); }
+    const std::vector<TrattoRighe>& ritrova();
+    void dimentica();
 
     /// In the order of the list.
     const std::vector<Identita>& documenti() const { return m_documenti; }
+    /// Their rows, as of the last `scegli` or `ritrova`.
+    const std::vector<TrattoRighe>& righe() const { return m_righe; }
 
 private:
     const ElencoFatture& m_elenco;
     std::vector<Identita> m_documenti;
+    std::vector<TrattoRighe> m_righe;
 };
 
 } // namespace bor

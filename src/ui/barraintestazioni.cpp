@@ -1,6 +1,7 @@
 #include "ui/barraintestazioni.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTableView>
 
@@ -36,6 +37,8 @@ BarraIntestazioni::BarraIntestazioni(QTableView* griglia, const std::vector<Coma
     setFixedHeight(fontMetrics().height() + 4);
     connect(griglia->horizontalHeader(), &QHeaderView::sectionResized, this, [this] { disponi(); });
     connect(griglia->horizontalHeader(), &QHeaderView::geometriesChanged, this, [this] { disponi(); });
+    connect(griglia->horizontalHeader(), &QHeaderView::sectionMoved, this, [this] { disponi(); });
+    connect(griglia->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { disponi(); });
 }
 
 void BarraIntestazioni::resizeEvent(QResizeEvent*) {
@@ -44,9 +47,11 @@ void BarraIntestazioni::resizeEvent(QResizeEvent*) {
 
 void BarraIntestazioni::disponi() {
     const QHeaderView* testata = m_griglia->horizontalHeader();
-    for (const auto& [colonna, bottone] : m_bottoni)
+    for (const auto& [colonna, bottone] : m_bottoni) {
+        bottone->setVisible(!testata->isSectionHidden(colonna));
         bottone->setGeometry(testata->sectionViewportPosition(colonna) + m_griglia->frameWidth(), 0,
                              testata->sectionSize(colonna), height());
+    }
 }
 
 } // namespace bor

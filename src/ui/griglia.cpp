@@ -27,8 +27,63 @@ void vaiARiga(QTableView* elenco, int riga) {
     elenco->setCurrentIndex(elenco->model()->index(riga, std::max(elenco->currentIndex().column(), 0)));
 }
 
+constexpr int caratteriData = 12;
+constexpr auto proprietaScorre = "scorre";
+
+bool scorre(const QTableView* elenco) {
+    return elenco->property(proprietaScorre).toBool();
+}
+
+/// Of a stated width in pixels: a thousand has room for a date.
+int puntiDi(const QTableView* elenco, int larghezza) {
+    return larghezza * elenco->fontMetrics().horizontalAdvance(QStringLiteral("00/00/000000")) / 1000;
+}
+
+bool diTesto(const ColonnaGriglia& colonna) {
+    constexpr int larga = 2000;
+    return colonna.larghezza >= larga && colonna.caratteri == 0;
+}
+
+/// Width of a column that takes no part in what the others leave.
+int puntiFissi(const QTableView* elenco, const ColonnaGriglia& colonna, int minimi) {
+    if (colonna.larghezza == ColonnaGriglia::nascosta)
+        return 0;
+    if (colonna.caratteri > 0)
+        return puntiDi(elenco, colonna.caratteri * 1000 / caratteriData);
+    return colonna.larghezza == ColonnaGriglia::elastica ? std::max(minimi, puntiDi(elenco, colonna.minima))
+                                                         : puntiDi(elenco, colonna.larghezza);
+}
+
 /// Shares the width of a grid: texts take what the narrow columns leave, each by its stated width, and the
 /// elastic column at least what its content needs.
+void adattaColonne(QTableView* elenco, std::span<const ColonnaGriglia> colonne) {
+    QHeaderView* testata = elenco->horizontalHeader();
+    int tutte = 0;
+    int libera = elenco->viewport()->width();
+    int parti = 0;
+    for (int i = 0; i < std::ssize(colonne); ++i) {
+        const ColonnaGriglia& colonna = elemento(colonne, i);
+        if (diTesto(colonna))
+            parti += colonna.larghezza;
+        else
+            libera -= puntiFissi(elenco, colonna, testata->sectionSizeHint(i));
+    }
+    for (int i = 0; i < std::ssize(colonne); ++i) {
+        const ColonnaGriglia& colonna = elemento(colonne, i);
+        if (testata->sectionResizeMode(i) == QHeaderView::Stretch || testata->isSectionHidden(i))
+            continue;
+        const int suoi = diTesto(colonna)
+                             ? std::max({testata->sectionSizeHint(i), libera * colonna.larghezza / parti,
+                                         scorre(elenco) ? puntiDi(elenco, colonna.minima) : 0})
+                             : puntiFissi(elenco, colonna, testata->sectionSizeHint(i));
+        testata->resizeSection(i, suoi);
+        tutte += suoi;
+    }
+    const bool nonCiStanno = scorre(elenco) && tutte > elenco->viewport()->width();
+    elenco->setHorizontalScrollBarPolicy(nonCiStanno ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+}
+
+/// Keeps the columns to the width of their grid.
 class ColonneDaTesto : public QObject {
 public:
     ColonneDaTesto(QTableView* elenco, std::span<const ColonnaGriglia> colonne)
@@ -40,42 +95,11 @@ public:
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override {
         if (evento->type() == QEvent::Resize || evento->type() == QEvent::FontChange)
-            adatta();
+            adattaColonne(m_elenco, m_colonne);
         return QObject::eventFilter(oggetto, evento);
     }
 
 private:
-    /// Of a stated width in pixels: a thousand has room for a date.
-    int punti(int larghezza) const {
-        return larghezza * m_elenco->fontMetrics().horizontalAdvance(QStringLiteral("00/00/000000")) / 1000;
-    }
-    static bool diTesto(const ColonnaGriglia& colonna) {
-        constexpr int larga = 2000;
-        return colonna.larghezza >= larga;
-    }
-    void adatta() {
-        QHeaderView* testata = m_elenco->horizontalHeader();
-        int libera = m_elenco->viewport()->width();
-        int parti = 0;
-        for (int i = 0; i < std::ssize(m_colonne); ++i) {
-            const ColonnaGriglia& colonna = elemento(m_colonne, i);
-            if (diTesto(colonna))
-                parti += colonna.larghezza;
-            else if (colonna.larghezza == ColonnaGriglia::elastica)
-                libera -= std::max(testata->sectionSizeHint(i), punti(colonna.minima));
-            else
-                libera -= punti(colonna.larghezza);
-        }
-        for (int i = 0; i < std::ssize(m_colonne); ++i) {
-            const ColonnaGriglia& colonna = elemento(m_colonne, i);
-            if (diTesto(colonna))
-                testata->resizeSection(
-                    i, std::max(testata->sectionSizeHint(i), libera * colonna.larghezza / parti));
-            else if (colonna.larghezza > 0)
-                testata->resizeSection(i, punti(colonna.larghezza));
-        }
-    }
-
     QTableView* m_elenco;
     std::span<const ColonnaGriglia> m_colonne;
 };
@@ -177,20 +201,32 @@ void preparaElenco(QTableView* elenco, std::span<const ColonnaGriglia> colonne,
     elenco->setTabKeyNavigation(false);
     elenco->setWordWrap(false);
     elenco->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    elenco->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    elenco->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     elenco->verticalHeader()->hide();
     elenco->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     elenco->verticalHeader()->setDefaultSectionSize(elenco->fontMetrics().height() + 5);
     QHeaderView* testata = elenco->horizontalHeader();
     testata->setHighlightSections(false);
-    for (int i = 0; i < std::ssize(colonne); ++i) {
-        const int larghezza = elemento(colonne, i).larghezza;
-        if (larghezza == ColonnaGriglia::nascosta)
-            elenco->hideColumn(i);
-        else if (larghezza == ColonnaGriglia::elastica)
-            testata->setSectionResizeMode(i, QHeaderView::Stretch);
-    }
+    disponiColonne(elenco, colonne, false);
     new ColonneDaTesto(elenco, colonne);
+}
+
+void disponiColonne(QTableView* elenco, std::span<const ColonnaGriglia> colonne, bool scorrevole) {
+    elenco->setProperty(proprietaScorre, scorrevole);
+    QHeaderView* testata = elenco->horizontalHeader();
+    for (int i = 0; i < std::ssize(colonne); ++i) {
+        const ColonnaGriglia& colonna = elemento(colonne, i);
+        const bool elastica =
+            colonna.larghezza == ColonnaGriglia::elastica && colonna.caratteri == 0 && !scorrevole;
+        elenco->setColumnHidden(i, colonna.larghezza == ColonnaGriglia::nascosta);
+        testata->setSectionResizeMode(i, elastica ? QHeaderView::Stretch : QHeaderView::Interactive);
+    }
+    adattaColonne(elenco, colonne);
+}
+
+int caratteriIn(const QTableView* elenco, int punti) {
+    const int data = elenco->fontMetrics().horizontalAdvance(QStringLiteral("00/00/000000"));
+    return (punti * caratteriData + data / 2) / data;
 }
 
 } // namespace bor

@@ -20,7 +20,8 @@ struct ColonnaGriglia {
     QStringView intestazione;
     int larghezza = nascosta; ///< 1000 for a date and some room; from 2000 on, its share among the texts
     Qt::Alignment allineamento = Qt::AlignLeft;
-    int minima = 0; ///< what an elastic column has at least
+    int minima = 0;    ///< what an elastic column has at least, and a text where the grid scrolls
+    int caratteri = 0; ///< chosen by the operator: exactly so wide
 };
 
 /// Where the cells come from. Rows and columns count from 0.
@@ -60,6 +61,13 @@ private:
     CelleGriglia m_celle;
     int m_righe = 0;
 };
+
+/// Gives the columns of a grid their widths anew, after what is in `colonne` has changed. Where it is
+/// `scorrevole`, no column gives way to the others, and the grid scrolls sideways when not all have room.
+void disponiColonne(QTableView* elenco, std::span<const ColonnaGriglia> colonne, bool scorrevole);
+
+/// A width in pixels in characters, rounded.
+int caratteriIn(const QTableView* elenco, int punti);
 
 /// Makes a grid that has its model a list of whole rows to choose from, with its columns, which outlive it.
 /// Home and End go to the first row and to the last one of `righe`, which leaves the blank filler rows out.

@@ -16,7 +16,8 @@ using AvanzaPagina = std::function<bool(int pagina, int pagine)>;
 /// takes no drawing.
 bool disegnaTabella(const Tabella& tabella, QPagedPaintDevice& fogli, const AvanzaPagina& avanza = {});
 
-/// The table as PDF; false as `disegnaTabella`. A failed write is known to `uscita` alone, and to `salvaFile`.
+/// The table as PDF; false as `disegnaTabella`. A failed write is known to `uscita` alone, and to
+/// `salvaFile`.
 bool scriviPdf(const Tabella& tabella, QIODevice& uscita, const AvanzaPagina& avanza = {});
 
 /// Asks for the printer, then prints; tells the operator what went wrong.

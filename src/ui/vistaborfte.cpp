@@ -6,9 +6,11 @@
 #include "ui/barraintestazioni.h"
 #include "ui/bottonemenu.h"
 #include "ui/campi.h"
+#include "ui/colonneregistro.h"
 #include "ui/finestrainformazioni.h"
 #include "ui/flusso.h"
 #include "ui/griglia.h"
+#include "ui/menuelenco.h"
 #include "ui/menuscelti.h"
 #include "ui/sceltarighe.h"
 
@@ -28,7 +30,6 @@
 #include <QStandardPaths>
 #include <QTableView>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,20 +37,6 @@ using namespace Qt::StringLiterals;
 namespace bor {
 
 namespace {
-
-/// Shown in the order of `Colonna`.
-constexpr std::array<ColonnaGriglia, colonneElenco> colonne = {{
-    {u"Registr.", 1000, Qt::AlignRight},
-    {u"Data", 1000},
-    {u"Fattura", 1000},
-    {u"Data", 1000},
-    {u"Cliente", 7230},
-    {u"Importo", 1300, Qt::AlignRight},
-    {u"PA", 800, Qt::AlignHCenter},
-    {u"PDF", ColonnaGriglia::elastica, Qt::AlignHCenter},
-    {},
-    {},
-}};
 
 /// A group of options, one of which is chosen; the buttons are named `nome(0)` and so on.
 template <class Opzione>
@@ -77,9 +64,9 @@ QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList
 } // namespace
 
 VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
-    : Vista(parent), m_form(form),
+    : Vista(parent), m_form(form), m_colonne(new ColonneRegistro(this)),
       m_modello(new ModelloGriglia(
-          colonne,
+          m_colonne->tutte(),
           {[&form] { return form.righeGriglia(); },
            [&form](int riga, int colonna) { return form.testo(riga, enumeratore<Colonna>(colonna)); },
            [&form](int riga, int colonna) { return form.colore(riga, enumeratore<Colonna>(colonna)); },
@@ -94,6 +81,7 @@ VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
     layout->addWidget(elenco, 1);
     layout->addWidget(creaComandi());
     creaScorciatoie();
+    m_colonne->mostra(m_form.opzioni().vista());
     legami.altro([this] { aggiornaElenco(); });
     m_form.comandoRiordino().suAvanzamento([this] { legami.aggiorna(); });
 }
@@ -154,10 +142,21 @@ QWidget* VistaBorfte::creaElenco() {
     m_elenco->setObjectName(u"elenco"_s);
     m_elenco->setAccessibleName(u"Registro delle fatture emesse"_s);
     m_elenco->setModel(m_modello);
-    preparaElenco(m_elenco, colonne, [this] { return m_form.elenco().quante(); });
+    preparaElenco(m_elenco, m_colonne->tutte(), [this] { return m_form.elenco().quante(); });
+    m_colonne->segui(m_elenco, [this](const std::vector<ColonnaScelta>& mostrate) {
+        VistaRegistro vista = m_form.opzioni().vista();
+        if (mostrate == vista.mostrate())
+            return;
+        vista.colonne = mostrate;
+        m_form.opzioni().cambiaVista(vista);
+        mostraVista();
+    });
     m_scelta = new SceltaRighe(
         m_elenco, [this] { return m_form.elenco().quante(); },
-        [this](const std::vector<TrattoRighe>& righe) { m_form.scelta().scegli(righe); });
+        [this](const std::vector<TrattoRighe>& righe) {
+            m_form.scelta().scegli(righe);
+            aggiornaPiede();
+        });
     connect(m_elenco, &QTableView::doubleClicked, this, [this](const QModelIndex& cella) {
         legami.esegui([&] { m_form.apertura().cella(cella.row(), enumeratore<Colonna>(cella.column())); });
     });
@@ -190,7 +189,43 @@ QWidget* VistaBorfte::creaElenco() {
     m_nota->setAccessibleName(u"Documento scelto"_s);
     m_nota->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     layout->addWidget(m_nota);
+    layout->addWidget(creaPiede());
     return riquadro;
+}
+
+/// What the rows come to: on the left all that are shown, on the right those chosen.
+QWidget* VistaBorfte::creaPiede() {
+    auto* riquadro = new QWidget;
+    auto* linea = new QHBoxLayout(riquadro);
+    linea->setContentsMargins(0, 0, 0, 0);
+    const auto somma = [&](const QString& nome, const QString& accessibile, Qt::Alignment dove) {
+        auto* etichetta = new QLabel;
+        etichetta->setObjectName(nome);
+        etichetta->setAccessibleName(accessibile);
+        etichetta->setAlignment(dove | Qt::AlignVCenter);
+        etichetta->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        linea->addWidget(etichetta, 1);
+        return etichetta;
+    };
+    m_mostrati = somma(u"mostrati"_s, u"Totali dell'elenco"_s, Qt::AlignLeft);
+    m_scelti = somma(u"scelti"_s, u"Totali dei documenti scelti"_s, Qt::AlignRight);
+    return riquadro;
+}
+
+void VistaBorfte::aggiornaPiede() {
+    const auto scrivi = [](QLabel* etichetta, const QString& testo) {
+        etichetta->setText(testo);
+        etichetta->setToolTip(testo);
+    };
+    const ElencoFatture& elenco = m_form.elenco();
+    scrivi(m_mostrati, m_form.totali(elenco.somma()));
+    const SommeElenco scelti = elenco.somma(m_form.scelta().righe());
+    scrivi(m_scelti, scelti.documenti > 1 ? u"Scelti: "_s + m_form.totali(scelti) : QString());
+}
+
+void VistaBorfte::mostraVista() {
+    m_colonne->mostra(m_form.opzioni().vista());
+    legami.aggiorna();
 }
 
 QWidget* VistaBorfte::creaComandi() {
@@ -210,6 +245,9 @@ QWidget* VistaBorfte::creaComandi() {
     });
     layout->addWidget(avanzamento);
     layout->molla();
+    auto* menu = new MenuElenco(m_form, this, [this] { mostraVista(); });
+    legami.visibile(menu->bottone(), [&riordino] { return riordino.fermo(); });
+    layout->addWidget(menu->bottone());
     auto* informazioni = new BottoneComando(u"informazioni"_s, u"Informazioni"_s, u"informazioni"_s,
                                             QKeySequence(u"Ctrl+I"_s));
     legami.comando(informazioni, [this] { mostraInformazioni(); });
@@ -340,7 +378,7 @@ void VistaBorfte::aggiornaElenco() {
     const int vista = m_elenco->verticalScrollBar()->value();
     const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
-    const QModelIndex cella = m_modello->index(corrente, ordinale(Colonna::DataRegistrazione));
+    const QModelIndex cella = m_modello->index(corrente, m_colonne->cursore());
     m_scelta->rimetti(cella, m_form.scelta().ritrova());
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));
     if (!prima)

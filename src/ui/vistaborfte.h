@@ -12,6 +12,7 @@ namespace bor {
 class Borfte;
 struct Identita;
 class CampoTesto;
+class ColonneRegistro;
 class Flusso;
 class ModelloGriglia;
 class Scelti;
@@ -35,17 +36,23 @@ private:
     QWidget* creaOpzioni();
     QGroupBox* creaFiltro();
     QWidget* creaElenco();
+    QWidget* creaPiede();
     QWidget* creaComandi();
     void creaBottoni(Flusso* layout);
     void creaScorciatoie();
     void mostraInformazioni();
     void aggiornaElenco();
+    void aggiornaPiede();
+    void mostraVista();
     void mostraUltima();
     void apri(const Identita& documento);
 
     Borfte& m_form;
+    ColonneRegistro* m_colonne;
     ModelloGriglia* m_modello;
     QLabel* m_nota = nullptr;
+    QLabel* m_mostrati = nullptr;
+    QLabel* m_scelti = nullptr;
     QTableView* m_elenco = nullptr;
     SceltaRighe* m_scelta = nullptr;
     CampoTesto* m_cerca = nullptr;
