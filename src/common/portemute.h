@@ -23,7 +23,7 @@ public:
 
 class SenzaSistema : public Sistema {
 public:
-    int apri(const QString&) override { return 2; }
+    EsitoApri apri(const QString&) override { return EsitoApri::FileMancante; }
     bool avvia(const QString&, const QStringList&) override { return false; }
 };
 

@@ -8,19 +8,9 @@ namespace bor {
 
 namespace {
 
-/// What the desktop answers to the opening of a file; above all errors it has opened it.
-enum Risposta {
-    FileMancante = 2,
-    CartellaMancante = 3,
-    Vietato = 5,
-    SenzaMemoria = 8,
-    SenzaProgramma = 31,
-    SenzaDll = 32,
-    Riuscito
-};
-
-QString testoErrore(int codice) {
-    switch (codice) {
+QString testoErrore(EsitoApri esito) {
+    using enum EsitoApri;
+    switch (esito) {
     case FileMancante:
         return u"File PDF non trovato"_s;
     case CartellaMancante:
@@ -33,18 +23,21 @@ QString testoErrore(int codice) {
         return u"Programma Acrobat Reader non installato o non disponibile"_s;
     case SenzaDll:
         return u"DLL non trovata"_s;
-    default:
-        return u"Errore sconosciuto"_s;
+    case Riuscito:
+        break;
     }
+    return u"Errore sconosciuto"_s;
 }
 
 } // namespace
 
 void ApriPDF(const Contesto& contesto, const QString& nome) {
     const QString percorso = contesto.archivio.reale(puliscitesto(nome));
-    const int esito = percorso.isEmpty() ? CartellaMancante : contesto.sistema.apri(percorso);
-    if (esito < Riuscito)
-        contesto.operatore.messaggio(u"Si è verificato l'errore "_s + QString::number(esito) + u" - "_s +
+    const EsitoApri esito =
+        percorso.isEmpty() ? EsitoApri::CartellaMancante : contesto.sistema.apri(percorso);
+    if (esito != EsitoApri::Riuscito)
+        contesto.operatore.messaggio(u"Si è verificato l'errore "_s +
+                                         QString::number(static_cast<int>(esito)) + u" - "_s +
                                          testoErrore(esito),
                                      u"ApriPDF"_s, Icona::Stop);
 }

@@ -5,7 +5,10 @@
 #include "document/avvisi.h"
 #include "document/duplica.h"
 #include "document/scadenze.h"
+#include "document/totali.h"
+#include "document/totaliparcella.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -15,7 +18,7 @@ namespace bor {
 Borftea::Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni,
                  RigheInSospeso& sospese, ComandiEsterni comandi)
     : m_contesto(contesto), m_documento(documento), m_registrazioni(registrazioni), m_sospese(sospese),
-      m_comandi(std::move(comandi)) {}
+      m_comandi(std::move(comandi)), m_importiIva(contesto, documento) {}
 
 void Borftea::attiva() {
     Sessione& sessione = m_contesto.sessione;
@@ -32,7 +35,7 @@ void Borftea::attiva() {
         m_prospetto = Prospetto::RigheIva;
         apri();
     }
-    m_finestra.scorri(1);
+    m_importiIva.scorri(1);
     m_fuoco = PostoTea{CampoTea::Numero};
 }
 
@@ -167,6 +170,25 @@ QString Borftea::integrata() const {
         break;
     }
     return {};
+}
+
+bool Borftea::anticipazioniFuori() const {
+    return m_documento.parcella() && sommaParcella(m_documento.dddp).totanticipazioni != 0.0;
+}
+
+void Borftea::cambiato(const void* dato) {
+    Scadenze& scadenze = m_documento.scadenze;
+    if (dato == &scadenze.pagamento) {
+        calcolascadenze(m_documento, m_contesto);
+        calcolarate(m_documento, m_contesto);
+    } else if (dato == &scadenze.provaliq) {
+        if (scadenze.provaliq.trimmed().isEmpty())
+            scadenze.provimp.clear();
+        calcolaProvvigione(m_documento, m_contesto);
+    } else if (std::ranges::any_of(m_documento.prospetti.ritenute,
+                                   [dato](const Ritenuta& r) { return dato == &r.raimp; })) {
+        ricalcolaDocumento(m_documento, m_contesto);
+    }
 }
 
 std::optional<PostoTea> Borftea::prendiFuoco() {

@@ -7,9 +7,8 @@
 #include "document/comandiesterni.h"
 #include "document/dato.h"
 #include "document/documento.h"
-#include "document/finestrarighe.h"
+#include "document/importiiva.h"
 #include "document/numeriusati.h"
-#include "document/righeiva.h"
 #include "document/salvadoc.h"
 
 #include <QStringList>
@@ -22,31 +21,12 @@ namespace bor {
 
 class Borftea {
 public:
-    static constexpr int linee = 8;
+    using Comando = ComandoTea;
 
     /// The panels that share one place: `Frame4`, `ivadiff`, `Frame5` and `Frame6`.
     enum class Prospetto { RigheIva, IvaDifferita, Ritenute, Spesometro };
-    /// The buttons of the command bar, and those of the PDF selection.
-    enum class Comando {
-        Esci,
-        Salva,
-        Righe,
-        Pdf,
-        Elimina,
-        Duplica,
-        NotaCredito,
-        Stampa,
-        Anteprima,
-        Testata,
-        FatturaPa,
-        FatturaElettronica,
-        ScegliPdf,
-        ApriPdf
-    };
     /// The lists to choose from.
     enum class Lista { Pagamenti, Ricavi, Tributi, ClassiNoleggio };
-    /// The sums under the VAT rows.
-    enum class Totale { Imponibile, Imposta, Esente, Documento };
 
     Borftea(Contesto& contesto, Documento& documento, Registrazioni& registrazioni, RigheInSospeso& sospese,
             ComandiEsterni comandi);
@@ -81,16 +61,7 @@ public:
     /// False where the company's VAT regime does not allow deferred VAT.
     bool esigAbilitato() const { return m_contesto.tabelle.regimeiva() != 0; }
 
-    // The VAT rows: lines of the screen count from 0.
-    const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
-    void scorri(int prima) { m_finestra.scorri(prima); }
-    /// `es` before an exempt amount, `iv` before the others.
-    QString etichetta(int linea, VoceIva voce) const;
-    /// What an amount is read out by, behind its heading: " 22%", and the row where captions are the same.
-    QString nomeRigaIva(int linea, VoceIva voce) const;
-    QString importo(int linea, VoceIva voce) const;
-    void cambiaImporto(int linea, VoceIva voce, const QString& testo);
-    QString totale(Totale quale) const; ///< with a blank in front
+    ImportiIva& importiIva() { return m_importiIva; }
     /// A fee bill has advances, which the customer pays beside the instalments.
     bool anticipazioniFuori() const;
 
@@ -143,7 +114,7 @@ private:
     mutable std::optional<NumeriUsati> m_numeri; ///< read when first asked
     std::optional<PostoTea> m_fuoco;
     Prospetto m_prospetto = Prospetto::RigheIva;
-    FinestraRighe m_finestra{linee, righeIva - linee + 1};
+    ImportiIva m_importiIva;
     bool m_pdfVisibile = false; ///< `Picture1`
 };
 

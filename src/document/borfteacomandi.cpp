@@ -151,7 +151,7 @@ void Borftea::copia(Copia come) {
         return;
     m_prospetto = Prospetto::RigheIva;
     m_pdfVisibile = false;
-    m_finestra.scorri(1);
+    m_importiIva.scorri(1);
     m_fuoco = PostoTea{CampoTea::Numero};
     m_contesto.navigatore.mostra(Schermo::Borftea);
 }

@@ -2,6 +2,7 @@
 
 #include "archive/contesto.h"
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "document/avvisi.h"
 
 #include <algorithm>
@@ -18,6 +19,16 @@ QString vocetassata(int riga, const RigaAliquota& r) {
     if (valore(r.ritenuta) != 0.0)
         voce += u" - Rit.Acconto "_s + r.ritenuta.trimmed() + u'%';
     return voce;
+}
+
+/// The first row, from 1, that neither counts nor prints; 0 when all are in use.
+int primaLibera(const TabellaRighe& righe) {
+    const auto libera = [](const Riga& r) {
+        return r.recart == 0 && r.codice.isEmpty() && r.descrizione.isEmpty() && r.quantita == 0.0 &&
+               r.prezzo == 0.0;
+    };
+    const auto trovata = std::ranges::find_if(righe, libera);
+    return trovata == righe.end() ? 0 : postoDi(righe, trovata) + 1;
 }
 
 } // namespace
@@ -199,7 +210,7 @@ void Borftex::esegui(Comando comando) {
     case Comando::RigaGiu:
         return muovi(1);
     case Comando::PrimaLibera:
-        if (const int libera = m_righe.primaLibera(); libera > 0)
+        if (const int libera = primaLibera(m_righe.tutte()); libera > 0)
             vaiARiga(Campo::Artic, libera);
         return;
     case Comando::ChiudiIva:

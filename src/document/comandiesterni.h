@@ -1,5 +1,5 @@
-// Commands of the document form whose work is done in other parts of the program. The application plugs them
-// in; a command that is not plugged stays disabled.
+// The commands of the document form, and those whose work is done in other parts of the program: the
+// application plugs them in, and a command that is not plugged stays disabled.
 #pragma once
 
 #include <functional>
@@ -7,6 +7,24 @@
 namespace bor {
 
 struct Collegata;
+
+/// The buttons of the command bar, and those of the PDF selection.
+enum class ComandoTea {
+    Esci,
+    Salva,
+    Righe,
+    Pdf,
+    Elimina,
+    Duplica,
+    NotaCredito,
+    Stampa,
+    Anteprima,
+    Testata,
+    FatturaPa,
+    FatturaElettronica,
+    ScegliPdf,
+    ApriPdf
+};
 
 struct ComandiEsterni {
     /// Prints the document in the form, then makes its PDF and sends it; false when nothing was printed.

@@ -8,6 +8,8 @@
 
 namespace bor {
 
+inline constexpr int ultimoRegistro = 9; ///< the VAT registers of a company are 0 to 9
+
 /// Numbers, dates and revenue split. Boxes whose raw text a rule reads are kept as text; list positions count
 /// from 0, and -1 is no selection.
 struct Estremi {
@@ -15,7 +17,7 @@ struct Estremi {
     QString data;         ///< `text3(1)`: date of issue, "dd/mm/yyyy" or whatever was typed
     QString datareg;      ///< `text3(2)`: date of registration
     QString protocollo;   ///< `Text2(3)`
-    int registro = 0;     ///< `Combo5`
+    int registro = 0;     ///< `Combo5`: 0 to `ultimoRegistro`
     bool esig = false;    ///< deferred VAT
     int voce1 = -1;       ///< `Combo2`: main revenue item
     int voce2 = -1;       ///< `Combo3`

@@ -12,6 +12,9 @@ namespace bor {
 class Archivio;
 struct Estremi;
 
+/// A document's number without what makes no other number of it: leading zeros, small letters.
+QString numeroRidotto(const QString& numero);
+
 class NumeriUsati {
 public:
     /// Reads those of all live documents but the one at record `escluso`.

@@ -11,7 +11,6 @@ namespace {
 
 constexpr int tipiPagamento = 60;
 constexpr int vociRicavo = 100;
-constexpr int ultimoRegistro = 9;
 
 /// First position of the instalments that the second record holds.
 constexpr std::size_t rateFte = 4;
@@ -65,7 +64,7 @@ void caricaEstremi(Documento& documento) {
     // A document stored without a protocol shows its record number.
     estremi.protocollo =
         testoDecimale(fte.protocollo != 0.0 ? double{fte.protocollo} : documento.recordfattura);
-    estremi.registro = fte.registro < 0 || fte.registro > ultimoRegistro ? 0 : int{fte.registro};
+    estremi.registro = registroIva(fte);
     estremi.esig = leggiSpunta(fte.esigdiff);
     estremi.voce1 = leggiPosizione(fte.voce1, vociRicavo);
     estremi.voce2 = leggiPosizione(fte.voce2, vociRicavo);
@@ -200,6 +199,10 @@ void iniziaRecord(CoppiaFte& coppia) {
 }
 
 } // namespace
+
+int registroIva(const Fte& fte) {
+    return fte.registro < 0 || fte.registro > ultimoRegistro ? 0 : int{fte.registro};
+}
 
 void caricadoc(Documento& documento, const Archivio& archivio) {
     const auto& [fte, f2e] = documento.coppia;

@@ -6,6 +6,9 @@
 
 namespace bor {
 
+/// The VAT register of a document, 0 to `ultimoRegistro`; any other number counts for 0.
+int registroIva(const Fte& fte);
+
 /// Fills customer, numbers, schedule and panels of the document from its records. Lists get no selection
 /// where the stored position is none of theirs.
 void caricadoc(Documento& documento, const Archivio& archivio);

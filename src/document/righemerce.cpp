@@ -124,15 +124,6 @@ QString RigheMerce::importo(int n) const {
     return valuta.importotesto(importoRiga(riga(n), valuta));
 }
 
-int RigheMerce::primaLibera() const {
-    const auto libera = [](const Riga& r) {
-        return r.recart == 0 && r.codice.isEmpty() && r.descrizione.isEmpty() && r.quantita == 0.0 &&
-               r.prezzo == 0.0;
-    };
-    const auto trovata = std::ranges::find_if(m_righe, libera);
-    return trovata == m_righe.end() ? 0 : postoDi(m_righe, trovata) + 1;
-}
-
 void RigheMerce::cambiaScorporo(bool acceso) {
     m_scorporo = acceso;
     ricalcolaTutto();

@@ -41,8 +41,6 @@ public:
     QString testo(int n, Campo campo) const;
     QString aliquota(int n) const; ///< "22%", or "es." for an exempt code; empty where nothing is taxed
     QString importo(int n) const;  ///< quantity by price less the discounts; empty for 0
-    /// The first row that neither counts nor prints; 0 when all are in use.
-    int primaLibera() const;
     const TotaliRighe& totali() const { return m_totali; }
     int listino() const { return m_listino; } ///< 1 or 2
     void cambiaListino(int listino) { m_listino = listino; }

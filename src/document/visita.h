@@ -59,8 +59,9 @@ void visita(auto& a, Tale<Testata> auto& x) {
 void visita(auto& a, Tale<Estremi> auto& x) {
     auto& [numero, data, datareg, protocollo, registro, esig, voce1, voce2, voce3, quota2, quota3, pdf,
            postael] = x;
-    a(numero, data, datareg, protocollo, limitato(registro, 0, 9, 0), esig, posizione(voce1, vociRicavo),
-      posizione(voce2, vociRicavo), posizione(voce3, vociRicavo), quota2, quota3, pdf, postael);
+    a(numero, data, datareg, protocollo, limitato(registro, 0, ultimoRegistro, 0), esig,
+      posizione(voce1, vociRicavo), posizione(voce2, vociRicavo), posizione(voce3, vociRicavo), quota2,
+      quota3, pdf, postael);
 }
 
 void visita(auto& a, Tale<Rata> auto& x) {

@@ -128,7 +128,9 @@ bool Borftel::chiedeNatura(int codice) const {
     return inTabella || !m_dati.nature[static_cast<std::size_t>(codice)].isEmpty() || usato(codice);
 }
 
-QString Borftel::nomeCodiceIva(int codice) const {
+QString Borftel::codiceSenzaImposta(int codice) const {
+    if (!chiedeNatura(codice))
+        return {};
     const CodiceIva iva(codice);
     if (iva.tassato())
         return iva.testo() + u" aliquota 0"_s;
@@ -137,21 +139,21 @@ QString Borftel::nomeCodiceIva(int codice) const {
     return iva.testo() + u' ' + (riferimento.isEmpty() ? riga.descrizione() : riferimento);
 }
 
-Borftel::Prospetto Borftel::prospettoDi(PostoFel posto) {
+Borftel::Prospetto prospettoDi(PostoFel posto) {
     using enum PostoFel;
     switch (posto) {
     case Righe:
     case Riepilogo:
-        return Prospetto::Righe;
+        return Borftel::Prospetto::Righe;
     case Iban:
     case Pdf:
     case Cassa:
     case NaturaCi:
     case Nature:
     case Azienda:
-        return Prospetto::Azienda;
+        return Borftel::Prospetto::Azienda;
     default:
-        return Prospetto::Documento;
+        return Borftel::Prospetto::Documento;
     }
 }
 

@@ -46,14 +46,12 @@ public:
         datoIn(m_dati, passi...) = valore;
         componi();
     }
-    /// The VAT code, 1 to 24, bears no tax, and the company or the document uses it.
-    bool chiedeNatura(int codice) const;
-    /// "18 Art. 8 DPR 633/72".
-    QString nomeCodiceIva(int codice) const;
+    /// "18 Art. 8 DPR 633/72": a VAT code, 1 to 24, that bears no tax, and that the company or the document
+    /// uses. Empty for any other.
+    QString codiceSenzaImposta(int codice) const;
 
     Prospetto prospetto() const { return m_prospetto; }
     void mostra(Prospetto prospetto) { m_prospetto = prospetto; }
-    static Prospetto prospettoDi(PostoFel posto);
 
     const UscitaFel& uscita() const { return m_uscita; }
     /// Grows with every composition.
@@ -97,6 +95,7 @@ private:
     void controllaCartella();
     void spartisci();
     void racconta(const EsitoFel& esito);
+    bool chiedeNatura(int codice) const;
     bool usato(int codice) const;
 
     Contesto& m_contesto;
@@ -117,5 +116,8 @@ private:
     std::size_t m_seguente = 0; ///< finding that `vaiAlRilievo` goes to next
     int m_edizione = 0;
 };
+
+/// The panel that has the place.
+Borftel::Prospetto prospettoDi(PostoFel posto);
 
 } // namespace bor

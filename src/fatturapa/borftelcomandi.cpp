@@ -111,8 +111,7 @@ std::optional<QByteArray> Borftel::daLeggere() {
 }
 
 void Borftel::apriCartella() {
-    constexpr int riuscito = 33;
-    if (!m_generatore || m_contesto.sistema.apri(m_generatore->cartella()) >= riuscito)
+    if (!m_generatore || m_contesto.sistema.apri(m_generatore->cartella()) == EsitoApri::Riuscito)
         return;
     m_contesto.operatore.messaggio(
         u"La cartella %1 non si può aprire: controllare che ci sia."_s.arg(m_generatore->cartella()),

@@ -18,19 +18,23 @@ constexpr qsizetype lunghezzaRecord = 7;
 
 /// The number under which the suite's operators know an error of the system.
 int numeroErrore() {
+    constexpr int senzaFile = 53;
+    constexpr int guasto = 57;
+    constexpr int discoPieno = 61;
+    constexpr int negato = 70;
     switch (errno) {
     case EAGAIN:
     case EACCES:
     case EPERM:
     case EBUSY:
-        return 70;
+        return negato;
     case ENOSPC:
     case EDQUOT:
-        return 61;
+        return discoPieno;
     case ENOENT:
-        return 53;
+        return senzaFile;
     default:
-        return 57;
+        return guasto;
     }
 }
 

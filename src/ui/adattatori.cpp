@@ -97,21 +97,16 @@ QString OperatoreQt::scegliFile(const QString& titolo, const QString& filtro) {
     return QFileDialog::getOpenFileName(m_finestra, titolo, {}, filtro);
 }
 
-int SistemaQt::apri(const QString& percorso) {
-    constexpr int riuscito = 33;
-    constexpr int senzaFile = 2;
-    constexpr int senzaCartella = 3;
-    constexpr int negato = 5;
-    constexpr int senzaProgramma = 31;
+EsitoApri SistemaQt::apri(const QString& percorso) {
     const QFileInfo file(percorso);
     if (!file.exists())
-        return file.dir().exists() ? senzaFile : senzaCartella;
+        return file.dir().exists() ? EsitoApri::FileMancante : EsitoApri::CartellaMancante;
     if (!file.isReadable())
-        return negato;
+        return EsitoApri::Vietato;
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(percorso)))
-        return riuscito;
+        return EsitoApri::Riuscito;
     qCWarning(logUi, "no program opens %s", qPrintable(percorso));
-    return senzaProgramma;
+    return EsitoApri::SenzaProgramma;
 }
 
 bool SistemaQt::avvia(const QString& programma, const QStringList& argomenti) {

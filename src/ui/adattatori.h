@@ -31,7 +31,7 @@ public:
 
 class SistemaQt : public Sistema {
 public:
-    int apri(const QString& percorso) override;
+    EsitoApri apri(const QString& percorso) override;
     bool avvia(const QString& programma, const QStringList& argomenti) override;
 };
 

@@ -43,9 +43,8 @@ QKeySequence tastoGuida(Schermo schermo) {
 }
 
 void apriGuida(Sistema& sistema, Operatore& operatore, const QString& capitolo) {
-    constexpr int riuscito = 33;
     const QString pagina = installato(u"guida"_s) + u'/' + capitolo + u".html"_s;
-    if (sistema.apri(pagina) < riuscito)
+    if (sistema.apri(pagina) != EsitoApri::Riuscito)
         operatore.messaggio(
             u"La pagina della guida \"%1\" non si apre: manca, o su questo computer non c'è un "
             "programma per le pagine HTML."_s.arg(QDir::toNativeSeparators(pagina)),

@@ -51,36 +51,36 @@ RiquadroTea creaRigheIva(const BancoTea& banco) {
     gruppo->setObjectName(u"Frame4"_s);
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(9);
-    Borftea& form = banco.form;
+    ImportiIva& importi = banco.form.importiIva();
     auto* intera = new QLabel;
     intera->setObjectName(u"vocerigaiva"_s);
     intera->setWordWrap(true);
     std::vector<QWidget*> percorso;
     for (const ColonnaIva& c : colonne)
         griglia->addWidget(new QLabel(c.descrizione.toString()), 0, c.colonna, Qt::AlignRight);
-    const int linee = form.finestra().linee();
+    const int linee = importi.finestra().linee();
     for (int i = 0; i < linee; ++i) {
         auto* iv = etichetta(banco, indicizzato(u"iv", i), u"Non imponibile art. 8"_s,
-                             [&form, i] { return form.etichetta(i, VoceIva::Imponibile); });
+                             [&importi, i] { return importi.etichetta(i, VoceIva::Imponibile); });
         auto* es = etichetta(banco, indicizzato(u"es", i), u"Art. 17 c. 6 DPR 633/72"_s,
-                             [&form, i] { return form.etichetta(i, VoceIva::Esente); });
+                             [&importi, i] { return importi.etichetta(i, VoceIva::Esente); });
         griglia->addWidget(iv, i + 1, 0);
         griglia->addWidget(es, i + 1, 3);
         for (const ColonnaIva& c : colonne) {
             auto* casella = new CampoImporto(indicizzato(c.nome, i), c.descrizione.toString());
-            banco.legami.altro([&form, casella, i, c] {
-                casella->setAccessibleName(c.descrizione.toString() + form.nomeRigaIva(i, c.voce));
+            banco.legami.altro([&importi, casella, i, c] {
+                casella->setAccessibleName(c.descrizione.toString() + importi.nome(i, c.voce));
             });
             casella->setMaximumWidth(casella->minimumSizeHint().width());
             banco.legami.testo(
-                casella, [&form, i, voce = c.voce] { return form.importo(i, voce); },
-                [&form, i, voce = c.voce](const QString& t) { form.cambiaImporto(i, voce, t); });
+                casella, [&importi, i, voce = c.voce] { return importi.testo(i, voce); },
+                [&importi, i, voce = c.voce](const QString& t) { importi.cambia(i, voce, t); });
             banco.legami.entrato(casella, [intera, casella] { intera->setText(casella->accessibleName()); });
             griglia->addWidget(casella, i + 1, c.colonna);
             percorso.push_back(casella);
         }
     }
-    griglia->addWidget(cursoreRighe(banco.legami, form, u"Prima riga visibile"_s), 1, 5, linee, 1);
+    griglia->addWidget(cursoreRighe(banco.legami, importi, u"Prima riga visibile"_s), 1, 5, linee, 1);
     griglia->setColumnStretch(0, 3);
     griglia->setColumnStretch(3, 4);
     griglia->addWidget(intera, linee + 1, 0, 1, 6);

@@ -90,13 +90,14 @@ QWidget* VistaBorftea::creaScelta() {
 QWidget* VistaBorftea::creaTotali() {
     auto* riquadro = new QGroupBox(u"Totali"_s);
     auto* griglia = new QGridLayout(riquadro);
-    // In the order of `Borftea::Totale`.
+    // In the order of `ImportiIva::Totale`.
     const QStringList testi = {u"Imponibile"_s, u"Imposta"_s, u"Importi in esenzione iva"_s,
                                u"Importo complessivo documento"_s};
     for (int i = 0; i < testi.size(); ++i) {
         auto* casella = new CampoTesto(indicizzato(u"total", i), testi[i], 24);
         casella->setAlignment(Qt::AlignRight);
-        legami.testo(casella, [this, i] { return m_form.totale(enumeratore<Borftea::Totale>(i)); });
+        legami.testo(casella,
+                     [this, i] { return m_form.importiIva().totale(enumeratore<ImportiIva::Totale>(i)); });
         riga(griglia, i, testi[i], casella);
         if (i + 1 == testi.size()) {
             griglia->itemAtPosition(i, 0)->widget()->setObjectName(u"Label1(14)"_s);
@@ -259,7 +260,7 @@ QString VistaBorftea::titolo() const {
 }
 
 void VistaBorftea::keyPressEvent(QKeyEvent* evento) {
-    if (!sfoglia(evento, legami, m_form))
+    if (!sfoglia(evento, legami, m_form.importiIva()))
         Vista::keyPressEvent(evento);
 }
 

@@ -115,7 +115,7 @@ void VistaBorftel::seguiFuoco() {
     const auto posto = m_form.prendiFuoco();
     if (!posto)
         return;
-    const Prospetto prospetto = Borftel::prospettoDi(*posto);
+    const Prospetto prospetto = prospettoDi(*posto);
     m_form.mostra(prospetto);
     m_pila->setCurrentIndex(static_cast<int>(prospetto));
     if (*posto == PostoFel::Nature)

@@ -391,9 +391,9 @@ QWidget* VistaBorftel::creaNature() {
         auto* nome = new QLabel;
         nome->setTextFormat(Qt::PlainText);
         nome->setWordWrap(true);
-        legami.etichetta(nome, [this, codice] { return m_form.nomeCodiceIva(codice); });
+        legami.etichetta(nome, [this, codice] { return m_form.codiceSenzaImposta(codice); });
         for (QWidget* widget : {static_cast<QWidget*>(nome), static_cast<QWidget*>(natura)})
-            legami.visibile(widget, [this, codice] { return m_form.chiedeNatura(codice); });
+            legami.visibile(widget, [this, codice] { return !m_form.codiceSenzaImposta(codice).isEmpty(); });
         griglia->addWidget(nome, codice, 0);
         griglia->addWidget(natura, codice, 1);
         m_nature.push_back(natura);

@@ -232,7 +232,7 @@ TEST_F(CustodeTest, UnDocumentoNuovoTornaConLeRigheNonConfermate) {
         corsa.custode.conserva();
         EXPECT_TRUE(file().isEmpty()) << "nothing was typed";
         corsa.borftea.cambia(u"12"_s, &Estremi::numero);
-        corsa.borftea.cambiaImporto(0, VoceIva::Imponibile, u"100"_s);
+        corsa.borftea.importiIva().cambia(0, VoceIva::Imponibile, u"100"_s);
         corsa.borftea.esegui(Borftea::Comando::Righe);
         corsa.borftex.cambia({Borftex::Campo::Ds, 2}, u"Vite à testa"_s);
         corsa.custode.conserva();

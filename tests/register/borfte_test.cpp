@@ -158,7 +158,7 @@ TEST_F(RegistroTest, ApreDocumentiEPdf) {
     eliminata.fte.annullata = 1;
     azienda.documento(eliminata);
     apri();
-    prova().sistema.esitoApri = 2;
+    prova().sistema.esitoApri = EsitoApri::FileMancante;
     form().apertura().cella(0, Colonna::Pdf);
     ASSERT_EQ(prova().sistema.aperti.size(), 1);
     EXPECT_TRUE(prova().sistema.aperti[0].endsWith(QStringLiteral("/suprok/PDF/FTR1.pdf")));

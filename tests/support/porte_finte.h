@@ -54,12 +54,12 @@ public:
 
 class SistemaFinto : public Sistema {
 public:
-    int esitoApri = 33;
+    EsitoApri esitoApri = EsitoApri::Riuscito;
     bool esitoAvvia = true;
     QStringList aperti;
     QList<QStringList> avviati; ///< program and arguments of each start
 
-    int apri(const QString& percorso) override {
+    EsitoApri apri(const QString& percorso) override {
         aperti.append(percorso);
         return esitoApri;
     }

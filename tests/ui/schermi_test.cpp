@@ -252,7 +252,7 @@ TEST_F(Schermi, F1ApreIlCapitoloDelloSchermo) {
         EXPECT_EQ(sistema.aperti.size(), 2) << qPrintable(titolo);
     }
     EXPECT_TRUE(operatore.messaggi.isEmpty());
-    sistema.esitoApri = 31;
+    sistema.esitoApri = EsitoApri::SenzaProgramma;
     tasto(mostra(Schermo::Borfte), Qt::Key_F1);
     EXPECT_EQ(operatore.messaggi.size(), 1);
 }

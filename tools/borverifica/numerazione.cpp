@@ -1,5 +1,7 @@
 #include "borverifica/verifica.h"
 #include "common/numeri.h"
+#include "document/numeriusati.h"
+#include "document/recorddoc.h"
 
 #include <QDate>
 
@@ -22,13 +24,6 @@ struct Serie {
 };
 
 using ChiaveSerie = std::pair<int, int>; ///< year of issue, VAT register
-
-QString senzaZeri(const QString& numero) {
-    qsizetype zeri = 0;
-    while (zeri + 1 < numero.size() && numero[zeri] == u'0' && numero[zeri + 1].isDigit())
-        ++zeri;
-    return maiuscolo(numero.mid(zeri));
-}
 
 QString tratto(qint64 primo, qint64 ultimo) {
     return primo == ultimo ? QString::number(primo) : u"da %1 a %2"_s.arg(primo).arg(ultimo);
@@ -85,13 +80,12 @@ std::map<ChiaveSerie, Serie> leggiSerie(const Archivio& archivio, Discordanze& t
                 trovate.append({Gravita::Avviso, nomeDocumento(fte, n), motivo, Rimedio::Correggi});
             return true;
         }
-        const int registro = fte.registro >= 0 && fte.registro <= 9 ? int{fte.registro} : 0;
-        Serie& sua = serie[{data.year(), registro}];
+        Serie& sua = serie[{data.year(), registroIva(fte)}];
         const double cifra = valore(numero);
         if (cifra >= 1 && cifra < numeroMassimo)
             (vivo ? sua.numeri : sua.eliminati).insert(static_cast<qint64>(cifra));
         if (vivo)
-            sua.documenti[senzaZeri(numero)].append(nomeDocumento(fte, n));
+            sua.documenti[numeroRidotto(numero)].append(nomeDocumento(fte, n));
         return true;
     });
     return serie;

@@ -35,7 +35,7 @@ public:
 /// Other programs are started by the tour alone, where it waits for them.
 class SistemaDelGiro : public bor::Sistema {
 public:
-    int apri(const QString&) override { return 33; }
+    bor::EsitoApri apri(const QString&) override { return bor::EsitoApri::Riuscito; }
     bool avvia(const QString&, const QStringList&) override { return true; }
 };
 
