@@ -65,7 +65,7 @@ bool prendi(QDataStream& flusso, IndiceStorico& indice) {
         r.prezzo = finito(r.prezzo);
         vendite.righe.push_back(r);
     }
-    indice.insert(nome, std::move(vendite));
+    indice.emplace(nome, std::move(vendite));
     return flusso.status() == QDataStream::Ok;
 }
 

@@ -122,7 +122,7 @@ const VenditeFile* Storico::venditeDi(const Fte& fte) {
     if (m_contesto.orologio.adesso().toMSecsSinceEpoch() - tempi.scritto > assestato)
         vendite.tempi = tempi;
     m_nuovi += vendite.tempi == tempi ? 1 : 0;
-    return &*m_indice->insert(nome, std::move(vendite));
+    return &*m_indice->emplace(nome, std::move(vendite));
 }
 
 /// A document that was registered once has its lines in the user's folder until it is registered again.

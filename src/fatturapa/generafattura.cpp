@@ -159,6 +159,7 @@ std::vector<EsitoFel> GeneratoreFel::genera(std::span<const Documento> documenti
     for (const Documento& documento : documenti)
         uscite.push_back(prepara(documento));
     std::vector<InUscitaFel*> tutte;
+    tutte.reserve(uscite.size());
     for (InUscitaFel& uscita : uscite)
         tutte.push_back(&uscita);
     nomina(tutte);

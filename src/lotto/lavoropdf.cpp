@@ -101,11 +101,12 @@ void LavoroPdf::prendi(std::size_t riga, Documento documento) {
     if (rapporto.isEmpty())
         return racconta(riga, EsitoRiga::NonFatta, u"non ha righe: non c'è nulla da stampare"_s);
     voce.posta = perPosta(documento);
+    const qsizetype byte = rapporto.size();
     m_preparato = Pdf{.riga = riga,
                       .documento = identitaDi(documento.recordfattura, documento.coppia.fte),
                       .comando = {.layout = layoutStrumento(documento.parcella(), contesto().archivio),
                                   .pdf = voce.pdf,
-                                  .byte = rapporto.size()},
+                                  .byte = byte},
                       .rapporto = std::move(rapporto),
                       .daNominare = documento.estremi.pdf.trimmed() != voce.pdf};
     chiudiBustaPiena();

@@ -77,6 +77,7 @@ bool ColonneRegistro::eventFilter(QObject* oggetto, QEvent* evento) {
 
 std::vector<int> ColonneRegistro::larghezze() const {
     std::vector<int> punti;
+    punti.reserve(colonneElenco);
     for (int i = 0; i < colonneElenco; ++i)
         punti.push_back(m_elenco->horizontalHeader()->sectionSize(i));
     return punti;
