@@ -27,7 +27,6 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QStackedLayout>
 #include <QStandardPaths>
 #include <QTableView>
 
@@ -189,30 +188,27 @@ QWidget* VistaBorfte::creaElenco() {
     m_nota->setObjectName(u"nota"_s);
     m_nota->setAccessibleName(u"Documento scelto"_s);
     m_nota->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout->addWidget(m_nota);
     layout->addWidget(creaPiede());
     return riquadro;
 }
 
-/// What the rows come to: all that are shown and, in place of the note on one document, those chosen.
+/// What the rows come to: on the left all that are shown, on the right those chosen.
 QWidget* VistaBorfte::creaPiede() {
     auto* riquadro = new QWidget;
-    auto* linee = new QVBoxLayout(riquadro);
-    linee->setContentsMargins(0, 0, 0, 0);
-    linee->setSpacing(0);
-    const auto somma = [](const QString& nome, const QString& accessibile) {
+    auto* linea = new QHBoxLayout(riquadro);
+    linea->setContentsMargins(0, 0, 0, 0);
+    const auto somma = [&](const QString& nome, const QString& accessibile, Qt::Alignment dove) {
         auto* etichetta = new QLabel;
         etichetta->setObjectName(nome);
         etichetta->setAccessibleName(accessibile);
+        etichetta->setAlignment(dove | Qt::AlignVCenter);
         etichetta->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        linea->addWidget(etichetta, 1);
         return etichetta;
     };
-    m_scelti = somma(u"scelti"_s, u"Totali dei documenti scelti"_s);
-    m_mostrati = somma(u"mostrati"_s, u"Totali dell'elenco"_s);
-    m_notaOScelti = new QStackedLayout;
-    m_notaOScelti->addWidget(m_nota);
-    m_notaOScelti->addWidget(m_scelti);
-    linee->addLayout(m_notaOScelti);
-    linee->addWidget(m_mostrati);
+    m_mostrati = somma(u"mostrati"_s, u"Totali dell'elenco"_s, Qt::AlignLeft);
+    m_scelti = somma(u"scelti"_s, u"Totali dei documenti scelti"_s, Qt::AlignRight);
     return riquadro;
 }
 
@@ -224,9 +220,7 @@ void VistaBorfte::aggiornaPiede() {
     const ElencoFatture& elenco = m_form.elenco();
     scrivi(m_mostrati, m_form.totali(elenco.somma()));
     const SommeElenco scelti = elenco.somma(m_form.scelta().righe());
-    const bool molti = scelti.documenti > 1;
-    scrivi(m_scelti, molti ? u"Scelti: "_s + m_form.totali(scelti) : QString());
-    m_notaOScelti->setCurrentWidget(molti ? m_scelti : m_nota);
+    scrivi(m_scelti, scelti.documenti > 1 ? u"Scelti: "_s + m_form.totali(scelti) : QString());
 }
 
 void VistaBorfte::mostraVista() {

@@ -5,7 +5,6 @@
 
 class QGroupBox;
 class QLabel;
-class QStackedLayout;
 class QTableView;
 
 namespace bor {
@@ -52,7 +51,6 @@ private:
     ColonneRegistro* m_colonne;
     ModelloGriglia* m_modello;
     QLabel* m_nota = nullptr;
-    QStackedLayout* m_notaOScelti = nullptr;
     QLabel* m_mostrati = nullptr;
     QLabel* m_scelti = nullptr;
     QTableView* m_elenco = nullptr;
