@@ -41,12 +41,12 @@ void Borftek::scegli(int verso) {
 bool Borftek::scelta(int linea) const {
     if (!m_ancora)
         return false;
-    const auto [prima, ultima] = std::minmax(*m_ancora, rigaFuoco());
+    const auto [prima, ultima] = std::minmax({*m_ancora, rigaFuoco()});
     return m_finestra.riga(linea) >= prima && m_finestra.riga(linea) <= ultima;
 }
 
 QString Borftek::copia() const {
-    const auto [prima, ultima] = std::minmax(m_ancora.value_or(rigaFuoco()), rigaFuoco());
+    const auto [prima, ultima] = std::minmax({m_ancora.value_or(rigaFuoco()), rigaFuoco()});
     return testoRighe(std::span(m_righe).subspan(postoDaZero(prima - 1), postoDaZero(ultima - prima + 1)));
 }
 

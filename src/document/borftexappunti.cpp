@@ -20,12 +20,12 @@ void Borftex::scegli(int verso) {
 bool Borftex::scelta(int linea) const {
     if (!m_ancora)
         return false;
-    const auto [prima, ultima] = std::minmax(*m_ancora, rigaFuoco());
+    const auto [prima, ultima] = std::minmax({*m_ancora, rigaFuoco()});
     return riga(linea) >= prima && riga(linea) <= ultima;
 }
 
 QString Borftex::copia() const {
-    const auto [prima, ultima] = std::minmax(m_ancora.value_or(rigaFuoco()), rigaFuoco());
+    const auto [prima, ultima] = std::minmax({m_ancora.value_or(rigaFuoco()), rigaFuoco()});
     return testoRighe(
         std::span(m_righe.tutte()).subspan(postoDaZero(prima - 1), postoDaZero(ultima - prima + 1)));
 }
