@@ -61,6 +61,12 @@ QGroupBox* opzioni(const QString& titolo, const QString& nome, const QStringList
     return gruppo;
 }
 
+/// The tooltip has what the line has no room for.
+void mostraIntero(QLabel* linea, const QString& testo) {
+    linea->setText(testo);
+    linea->setToolTip(testo);
+}
+
 } // namespace
 
 VistaBorfte::VistaBorfte(Borfte& form, QWidget* parent)
@@ -155,7 +161,7 @@ QWidget* VistaBorfte::creaElenco() {
         m_elenco, [this] { return m_form.elenco().quante(); },
         [this](const std::vector<TrattoRighe>& righe) {
             m_form.scelta().scegli(righe);
-            aggiornaPiede();
+            aggiornaNota();
         });
     connect(m_elenco, &QTableView::doubleClicked, this, [this](const QModelIndex& cella) {
         legami.esegui([&] { m_form.apertura().cella(cella.row(), enumeratore<Colonna>(cella.column())); });
@@ -163,7 +169,7 @@ QWidget* VistaBorfte::creaElenco() {
     connect(m_elenco->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& cella) {
                 m_form.cellaCorrente(cella.row(), enumeratore<Colonna>(cella.column()));
-                m_nota->setText(m_form.nota(cella.row()));
+                aggiornaNota();
             });
     invio.passo(m_elenco, [this] {
         const QModelIndex cella = m_elenco->currentIndex();
@@ -184,43 +190,29 @@ QWidget* VistaBorfte::creaElenco() {
         legami.esegui([&] { m_form.ordina(enumeratore<Colonna>(colonna)); });
     }));
     layout->addWidget(m_elenco);
-    m_nota = new QLabel;
-    m_nota->setObjectName(u"nota"_s);
-    m_nota->setAccessibleName(u"Documento scelto"_s);
-    m_nota->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    layout->addWidget(m_nota);
-    layout->addWidget(creaPiede());
+    creaPiede(*layout);
     return riquadro;
 }
 
 /// What the rows come to: on the left all that are shown, on the right those chosen.
-QWidget* VistaBorfte::creaPiede() {
-    auto* riquadro = new QWidget;
-    auto* linea = new QHBoxLayout(riquadro);
-    linea->setContentsMargins(0, 0, 0, 0);
-    const auto somma = [&](const QString& nome, const QString& accessibile, Qt::Alignment dove) {
+void VistaBorfte::creaPiede(QLayout& layout) {
+    const auto linea = [&](const QString& nome, const QString& accessibile) {
         auto* etichetta = new QLabel;
         etichetta->setObjectName(nome);
         etichetta->setAccessibleName(accessibile);
-        etichetta->setAlignment(dove | Qt::AlignVCenter);
         etichetta->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        linea->addWidget(etichetta, 1);
+        layout.addWidget(etichetta);
         return etichetta;
     };
-    m_mostrati = somma(u"mostrati"_s, u"Totali dell'elenco"_s, Qt::AlignLeft);
-    m_scelti = somma(u"scelti"_s, u"Totali dei documenti scelti"_s, Qt::AlignRight);
-    return riquadro;
+    m_nota = linea(u"nota"_s, u"Documento scelto o totali dei documenti scelti"_s);
+    m_mostrati = linea(u"mostrati"_s, u"Totali dell'elenco"_s);
 }
 
-void VistaBorfte::aggiornaPiede() {
-    const auto scrivi = [](QLabel* etichetta, const QString& testo) {
-        etichetta->setText(testo);
-        etichetta->setToolTip(testo);
-    };
-    const ElencoFatture& elenco = m_form.elenco();
-    scrivi(m_mostrati, m_form.totali(elenco.somma()));
-    const SommeElenco scelti = elenco.somma(m_form.scelta().righe());
-    scrivi(m_scelti, scelti.documenti > 1 ? u"Scelti: "_s + m_form.totali(scelti) : QString());
+/// Of the row of the cursor, or of all those that are chosen.
+void VistaBorfte::aggiornaNota() {
+    const SommeElenco scelti = m_form.elenco().somma(m_form.scelta().righe());
+    mostraIntero(m_nota, scelti.documenti > 1 ? u"Scelti: "_s + m_form.totali(scelti)
+                                              : m_form.nota(m_elenco->currentIndex().row()));
 }
 
 void VistaBorfte::mostraVista() {
@@ -378,6 +370,7 @@ void VistaBorfte::aggiornaElenco() {
     const int vista = m_elenco->verticalScrollBar()->value();
     const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
+    mostraIntero(m_mostrati, m_form.totali(m_form.elenco().somma()));
     const QModelIndex cella = m_modello->index(corrente, m_colonne->cursore());
     m_scelta->rimetti(cella, m_form.scelta().ritrova());
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));

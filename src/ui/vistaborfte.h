@@ -5,6 +5,7 @@
 
 class QGroupBox;
 class QLabel;
+class QLayout;
 class QTableView;
 
 namespace bor {
@@ -36,13 +37,13 @@ private:
     QWidget* creaOpzioni();
     QGroupBox* creaFiltro();
     QWidget* creaElenco();
-    QWidget* creaPiede();
+    void creaPiede(QLayout& layout);
     QWidget* creaComandi();
     void creaBottoni(Flusso* layout);
     void creaScorciatoie();
     void mostraInformazioni();
     void aggiornaElenco();
-    void aggiornaPiede();
+    void aggiornaNota();
     void mostraVista();
     void mostraUltima();
     void apri(const Identita& documento);
@@ -52,7 +53,6 @@ private:
     ModelloGriglia* m_modello;
     QLabel* m_nota = nullptr;
     QLabel* m_mostrati = nullptr;
-    QLabel* m_scelti = nullptr;
     QTableView* m_elenco = nullptr;
     SceltaRighe* m_scelta = nullptr;
     CampoTesto* m_cerca = nullptr;

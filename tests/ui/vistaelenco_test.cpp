@@ -86,16 +86,16 @@ const QString comeSempre = u"Registr. Data Fattura Data Cliente Importo PA PDF"_
 TEST_F(VistaElencoTest, IlPiedeDiceITotaliDiChiSiVedeEDiChiEScelto) {
     EXPECT_EQ(testoDi(*vista, u"mostrati"_s),
               u"12 documenti   Imponibile 5.400,00   Imposta 1.188,00   Totale 6.588,00");
-    EXPECT_EQ(testoDi(*vista, u"scelti"_s), QString());
+    EXPECT_EQ(testoDi(*vista, u"nota"_s), QString());
     tasto(*vista, Qt::Key_End);
     tasto(*vista, Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_EQ(testoDi(*vista, u"scelti"_s),
+    EXPECT_EQ(testoDi(*vista, u"nota"_s),
               u"Scelti: 2 documenti   Imponibile -100,00   Imposta -22,00   Totale -122,00");
     tasto(*vista, Qt::Key_F, Qt::ControlModifier);
     scrivi(*vista, u"11"_s);
     EXPECT_EQ(testoDi(*vista, u"mostrati"_s),
               u"1 documento   Imponibile 1.100,00   Imposta 242,00   Totale 1.342,00");
-    EXPECT_EQ(testoDi(*vista, u"scelti"_s), QString());
+    EXPECT_EQ(testoDi(*vista, u"nota"_s), QString());
 }
 
 TEST_F(VistaElencoTest, CtrlLSceglieIDocumentiELeColonneEComePrimaLiRimette) {
