@@ -20,6 +20,7 @@ const std::map<std::string, Cartelle> frecceStrumenti = {
     {"borcrea", {"common", "archive", "document", "posting"}},
     {"borverifica", {"common", "archive", "document"}},
     {"borefattura", {"common", "archive", "document", "xmlcheck", "fatturapa", "borxmlcheck"}},
+    {"borelenco", {"common", "archive", "register"}},
     {"borxmlcheck", {"common", "xmlcheck", "ui"}},
     {"borxpdf", {"common", "ui"}},
     {"lanciatore", {"common", "archive", "borcopia", "ui"}},

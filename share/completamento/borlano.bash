@@ -16,6 +16,7 @@ _borlano() {
     borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --help --version" ;;
     borverifica) opzioni="--unita --azienda --json --aiuto --help --version" ;;
     borefattura) opzioni="--unita --azienda --cartella --documento --json --aiuto --help --version" ;;
+    borelenco) opzioni="--unita --azienda --dal --al --formato --colonne --aiuto --help --version" ;;
     borxmlcheck) opzioni="--json --mostra --html --aiuto --help --version" ;;
     borxpdf) opzioni="--anteprima --lotto --version" ;;
     *) return ;;
@@ -26,7 +27,8 @@ _borlano() {
     case $prima in
     --unita | --sorgente | --cartella | --in) mapfile -t COMPREPLY < <(compgen -d -- "$parola") ;;
     --azienda) mapfile -t COMPREPLY < <(compgen -W "$(_borlano_aziende "$unita")" -- "$parola") ;;
-    --documenti | --documento | --conserva) COMPREPLY=() ;;
+    --formato) mapfile -t COMPREPLY < <(compgen -W "csv json" -- "$parola") ;;
+    --documenti | --documento | --conserva | --dal | --al | --colonne) COMPREPLY=() ;;
     *)
         if [[ $parola == -* ]]; then
             mapfile -t COMPREPLY < <(compgen -W "$opzioni" -- "$parola")
@@ -36,4 +38,4 @@ _borlano() {
         ;;
     esac
 }
-complete -o filenames -F _borlano lanciatore borcopia borcrea borverifica borefattura borxmlcheck borxpdf
+complete -o filenames -F _borlano lanciatore borcopia borcrea borverifica borefattura borelenco borxmlcheck borxpdf

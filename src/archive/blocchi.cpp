@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -61,6 +62,19 @@ EsitoBlocco blocca(int descrittore, short tipo, qint64 posizione) {
     if (::fcntl(descrittore, F_OFD_SETLK, &richiesta) == 0)
         return EsitoBlocco::Preso;
     return errno == EACCES || errno == EAGAIN ? EsitoBlocco::Occupato : EsitoBlocco::Impossibile;
+}
+
+BloccoDiLettura::BloccoDiLettura(const FileCasuale& tot, Orario::time_point fine)
+    : m_descrittore(tot.descrittore()), m_esito(blocca(m_descrittore, F_RDLCK, byteContatori)) {
+    while (occupato() && Orario::now() < fine) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        m_esito = blocca(m_descrittore, F_RDLCK, byteContatori);
+    }
+}
+
+BloccoDiLettura::~BloccoDiLettura() {
+    if (m_esito == EsitoBlocco::Preso)
+        blocca(m_descrittore, F_UNLCK, byteContatori);
 }
 
 bool blocchiSoloQui(const QString& tipo, const QString& opzioni) {

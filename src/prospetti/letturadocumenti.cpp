@@ -4,7 +4,6 @@
 #include "common/posti.h"
 
 #include <algorithm>
-#include <fcntl.h>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -13,31 +12,11 @@ namespace bor {
 
 namespace {
 
-using Orario = std::chrono::steady_clock;
+using Orario = BloccoDiLettura::Orario;
 
 constexpr int documentiPerBlocco = 256;
 constexpr auto attesaMassima = std::chrono::seconds(5);
 constexpr auto passo = std::chrono::milliseconds(1);
-
-/// The lock of the company, shared with other readers, for the read of one block. Where the file system knows
-/// no locks, the read goes on without.
-class BloccoDiLettura {
-public:
-    explicit BloccoDiLettura(const FileCasuale& file)
-        : m_file(file), m_esito(blocca(file.descrittore(), F_RDLCK, byteContatori)) {}
-    ~BloccoDiLettura() {
-        if (m_esito == EsitoBlocco::Preso)
-            blocca(m_file.descrittore(), F_UNLCK, byteContatori);
-    }
-    BloccoDiLettura(const BloccoDiLettura&) = delete;
-    BloccoDiLettura& operator=(const BloccoDiLettura&) = delete;
-
-    bool occupato() const { return m_esito == EsitoBlocco::Occupato; }
-
-private:
-    const FileCasuale& m_file;
-    EsitoBlocco m_esito;
-};
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "register/colonneelenco.h"
 
+#include "common/posti.h"
+
 namespace bor {
 
 const DatiColonna& datiColonna(Colonna colonna) {
@@ -23,6 +25,14 @@ const DatiColonna& datiColonna(Colonna colonna) {
         {u"Pagamento", u"pagamento", Testo, 22},
     }}};
     return colonne[colonna];
+}
+
+std::optional<Colonna> colonnaDi(QStringView chiave) {
+    for (int i = 0; i < colonneElenco; ++i) {
+        if (datiColonna(enumeratore<Colonna>(i)).chiave == chiave)
+            return enumeratore<Colonna>(i);
+    }
+    return std::nullopt;
 }
 
 } // namespace bor

@@ -4,6 +4,8 @@
 #include "common/serie.h"
 #include "common/tabella.h"
 
+#include <optional>
+
 namespace bor {
 
 /// The first ten by their number on screen; the others are shown where the operator chooses them.
@@ -35,5 +37,7 @@ struct DatiColonna {
 };
 
 const DatiColonna& datiColonna(Colonna colonna);
+/// The column of this key; nothing for none of them.
+std::optional<Colonna> colonnaDi(QStringView chiave);
 
 } // namespace bor

@@ -1,5 +1,6 @@
 #include "register/elencofatture.h"
 
+#include "archive/blocchi.h"
 #include "archive/nomiclienti.h"
 #include "archive/raffica.h"
 #include "common/date.h"
@@ -28,6 +29,23 @@ std::int16_t tipoPagamento(const Fte& fte) {
     return breve(decltype(Tabelle::tipopagamenti)::contiene(numero) ? numero : 0);
 }
 
+/// Documents that are read together.
+struct Blocco {
+    std::vector<Fte> teste = std::vector<Fte>(documentiPerBlocco);
+    std::vector<F2e> code = std::vector<F2e>(documentiPerBlocco);
+
+    /// Reads documents from n on, both halves of each of one moment unless another program keeps the company
+    /// until `fine`. How many of them, from the first one on, could be read; the others are zero bytes.
+    int leggi(const Archivio& archivio, int n, int quanti, BloccoDiLettura::Orario::time_point fine,
+              bool& occupato) {
+        const BloccoDiLettura chiuso(archivio.tot, fine);
+        occupato = occupato || chiuso.occupato();
+        const int letteTeste = archivio.fte.leggiBlocco(n, std::span(teste).first(postoDaZero(quanti)));
+        const int letteCode = archivio.f2e.leggiBlocco(n, std::span(code).first(postoDaZero(quanti)));
+        return letteCode < 0 ? 0 : std::max(letteTeste, 0);
+    }
+};
+
 /// Sets the number that cannot be one of an electronic invoice back to 0, in the records as they are by now.
 /// What cannot be written stays for the next time.
 void riparaFpa(Archivio& archivio, const std::vector<int>& guasti) {
@@ -47,27 +65,47 @@ void riparaFpa(Archivio& archivio, const std::vector<int>& guasti) {
 } // namespace
 
 void ElencoFatture::carica(Archivio& archivio, int primo, int ultimo, const Passa& passa) {
+    Scansione scansione{.attesa = std::chrono::milliseconds(100), .anchePersi = true};
+    scorri(archivio, primo, ultimo, passa, scansione);
+    riparaFpa(archivio, scansione.guasti);
+}
+
+LetturaElenco ElencoFatture::leggi(const Archivio& archivio, int primo, int ultimo, const Passa& passa) {
+    Scansione scansione{.attesa = std::chrono::seconds(5), .anchePersi = false};
+    scorri(archivio, primo, ultimo, passa, scansione);
+    return scansione.esito;
+}
+
+void ElencoFatture::scorri(const Archivio& archivio, int primo, int ultimo, const Passa& passa,
+                           Scansione& scansione) {
     m_righe.clear();
     m_pdf.clear();
-    std::vector<Fte> teste(documentiPerBlocco);
-    std::vector<F2e> code(documentiPerBlocco);
-    std::vector<int> guasti;
+    LetturaElenco& esito = scansione.esito;
+    const auto fine = BloccoDiLettura::Orario::now() + scansione.attesa;
+    Blocco blocco;
     for (int n = primo; n <= ultimo; n += documentiPerBlocco) {
         const int nelBlocco = std::min(documentiPerBlocco, ultimo - n + 1);
-        archivio.fte.leggiBlocco(n, std::span(teste).first(postoDaZero(nelBlocco)));
-        archivio.f2e.leggiBlocco(n, std::span(code).first(postoDaZero(nelBlocco)));
+        const int letti = blocco.leggi(archivio, n, nelBlocco, fine, esito.occupato);
         for (int i = 0; i < nelBlocco; ++i) {
-            const Fte& fte = elemento(teste, i);
-            F2e& f2e = elemento(code, i);
+            const Fte& fte = elemento(blocco.teste, i);
+            F2e& f2e = elemento(blocco.code, i);
+            if (i >= letti) {
+                esito.nonLetti.push_back(n + i);
+                if (!scansione.anchePersi)
+                    continue;
+            }
             if (f2e.fpaGuasto()) {
                 f2e.fpa = 0.0;
-                guasti.push_back(n + i);
+                scansione.guasti.push_back(n + i);
             }
-            if (std::ssize(m_righe) < massimoRighe && passa(n + i, fte, f2e))
+            if (!passa(n + i, fte, f2e))
+                continue;
+            if (std::ssize(m_righe) < massimoRighe)
                 aggiungi(n + i, fte, f2e);
+            else
+                ++esito.oltre;
         }
     }
-    riparaFpa(archivio, guasti);
     m_ultimaPdf = !m_righe.empty() && m_righe.back().pdf >= 0;
     leggiNomi(archivio);
     scegliMostrate();

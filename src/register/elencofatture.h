@@ -10,6 +10,7 @@
 #include "register/colonneelenco.h"
 #include "register/importidocumento.h"
 
+#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -32,6 +33,13 @@ struct SommeElenco {
     double totale = 0;
 };
 
+/// What a list lacks of the documents that were asked for.
+struct LetturaElenco {
+    std::vector<int> nonLetti; ///< records that could not be read, or are not on file though they are counted
+    int oltre = 0;             ///< documents that the list has no room for
+    bool occupato = false;     ///< another program kept the company: its documents may be of two moments
+};
+
 class ElencoFatture {
 public:
     /// `tabelle` names the payment types, and outlives the list.
@@ -46,6 +54,9 @@ public:
     /// Fills the list with the documents from `primo` to `ultimo` that pass, in the order of their records. A
     /// broken reference to electronic invoice data is set to 0 on file, which is all that a fill writes.
     void carica(Archivio& archivio, int primo, int ultimo, const Passa& passa);
+    /// The same for a program that only reads: nothing is written, and a document that cannot be read is left
+    /// out. Waits up to five seconds while another program writes.
+    LetturaElenco leggi(const Archivio& archivio, int primo, int ultimo, const Passa& passa);
 
     /// Sorts by record number, registration date or customer: ascending, documents that tie in their present
     /// order.
@@ -79,6 +90,13 @@ public:
     bool ultimaPdf() const { return m_ultimaPdf; }
 
 private:
+    /// How the records are read, and what comes of it.
+    struct Scansione {
+        std::chrono::milliseconds attesa; ///< for another program that writes
+        bool anchePersi;                  ///< documents that cannot be read are blank rows
+        LetturaElenco esito = {};
+        std::vector<int> guasti = {}; ///< records with a broken reference to electronic invoice data
+    };
     struct Riga {
         Text<10> numero;
         Text<8> datareg;
@@ -100,6 +118,7 @@ private:
     const Riga& mostrata(int riga) const { return m_righe[elemento(m_mostrate, riga)]; }
     QString testo(const Riga& riga, Colonna colonna, const Valuta& valuta) const;
     void scegliMostrate();
+    void scorri(const Archivio& archivio, int primo, int ultimo, const Passa& passa, Scansione& scansione);
     void aggiungi(int record, const Fte& fte, const F2e& f2e);
     void leggiNomi(const Archivio& archivio);
     QString nomeCliente(const Riga& riga) const;

@@ -1,6 +1,7 @@
 #include "register/opzioniregistro.h"
 
 #include "common/posti.h"
+#include "register/tabellaregistro.h"
 
 #include <utility>
 
@@ -95,9 +96,7 @@ QString OpzioniRegistro::descrizione() const {
                                                             : u"ultime 5000 registrazioni"_s);
     if (!m_scelte.cercato.trimmed().isEmpty())
         parti.append(u"cercando \"%1\""_s.arg(m_scelte.cercato.trimmed()));
-    QString riga = parti.isEmpty() ? u"Tutti i documenti"_s : parti.join(u", "_s);
-    riga[0] = riga[0].toUpper();
-    return riga;
+    return filtroRegistro(parti);
 }
 
 void OpzioniRegistro::salva() {

@@ -75,4 +75,10 @@ QString titoloRegistro(const Archivio& archivio) {
     return azienda.isEmpty() ? titolo : titolo + u" - "_s + azienda;
 }
 
+QString filtroRegistro(const QStringList& limiti) {
+    QString riga = limiti.isEmpty() ? u"Tutti i documenti"_s : limiti.join(u", "_s);
+    riga[0] = riga[0].toUpper();
+    return riga;
+}
+
 } // namespace bor

@@ -5,6 +5,8 @@
 #include "register/elencofatture.h"
 #include "register/vistaregistro.h"
 
+#include <QStringList>
+
 namespace bor {
 
 /// Refers to `elenco`, which has to stay as it is until the table is written.
@@ -13,5 +15,9 @@ Tabella tabellaRegistro(const ElencoFatture& elenco, const std::vector<ColonnaSc
 
 /// "Registro delle fatture emesse - Rossi Srl", by the first line of the company's printed heading.
 QString titoloRegistro(const Archivio& archivio);
+
+/// The line that tells which documents are listed, made of what limits them: "Tutti i documenti", "Marzo
+/// 2015, fatture".
+QString filtroRegistro(const QStringList& limiti);
 
 } // namespace bor

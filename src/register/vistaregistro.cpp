@@ -37,14 +37,6 @@ bool delGenere(GenereDocumento genere, const Fte& fte, const F2e& f2e) {
     return true;
 }
 
-std::optional<Colonna> colonnaDi(QStringView chiave) {
-    for (int i = 0; i < colonneElenco; ++i) {
-        if (datiColonna(enumeratore<Colonna>(i)).chiave == chiave)
-            return enumeratore<Colonna>(i);
-    }
-    return std::nullopt;
-}
-
 /// The enumerator that was kept under a key; its first where there is none.
 template <class E>
 E letto(const QSettings& file, QStringView chiave, E ultimo) {
