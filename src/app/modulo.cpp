@@ -21,7 +21,8 @@ std::unique_ptr<Modulo> Modulo::avvia(const QString& rigaComando, Percorsi perco
 }
 
 Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
-    : m_percorsi(std::move(percorsi)), m_archivio(m_percorsi, m_disco, codiceazienda), m_rapporto(m_percorsi),
+    : m_percorsi(std::move(percorsi)), m_sessione{.codiceazienda = codiceazienda},
+      m_archivio(m_percorsi, m_disco, codiceazienda), m_rapporto(m_percorsi),
       m_navigatore(porte.navigatore), m_contesto{m_sessione,    m_archivio,      m_impostazioni,
                                                  m_tabelle,     porte.operatore, porte.orologio,
                                                  porte.sistema, m_navigatore,    m_rapporto.nome()},
@@ -38,7 +39,6 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
       m_datiMensili(m_contesto),
       m_bozze(m_contesto, m_documento, {m_borftem, m_borftea, m_borftex, m_borftek}, m_sospese.cartella()) {
     m_navigatore.affida(m_bozze);
-    m_sessione.codiceazienda = codiceazienda;
     m_impostazioni = caricaimpostazioni(m_archivio);
     m_archivio.apri();
     recupera(m_archivio);

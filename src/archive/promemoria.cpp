@@ -2,8 +2,6 @@
 
 #include "common/percorsi.h"
 
-#include <QSettings>
-
 namespace bor {
 
 namespace {

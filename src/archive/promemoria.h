@@ -3,7 +3,10 @@
 // remembered.
 #pragma once
 
+#include "common/posti.h"
+
 #include <QDateTime>
+#include <QSettings>
 #include <QString>
 
 #include <optional>
@@ -33,5 +36,12 @@ public:
 private:
     QString m_file;
 };
+
+/// The choice that was kept under a key; the first one where it is none of them.
+template <class E>
+E sceltaRicordata(const QSettings& file, QStringView chiave, E ultima) {
+    const int numero = file.value(chiave, 0).toInt();
+    return numero >= 0 && numero <= ordinale(ultima) ? enumeratore<E>(numero) : E{};
+}
 
 } // namespace bor

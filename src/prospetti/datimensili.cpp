@@ -17,17 +17,27 @@ const QString senzaData = u"Senza data"_s;
 
 } // namespace
 
+DatiMensili::DatiMensili(Contesto& c)
+    : Prospetto(c), m_memoria(c.archivio.percorsi(), c.sessione.codiceazienda), m_anno(m_memoria.anno()) {}
+
 void DatiMensili::completa() {
-    const int oggi = contesto.orologio.oggi().year();
     m_anni = m_somme.anni();
     if (m_anni.isEmpty())
-        m_anni.append(oggi);
+        m_anni.append(contesto.orologio.oggi().year());
     if (!m_anni.contains(m_anno))
-        m_anno = m_anni.contains(oggi) ? oggi : m_anni.first();
+        m_anno = annoProposto();
+}
+
+/// This year, or the last one that has documents.
+int DatiMensili::annoProposto() const {
+    const int oggi = contesto.orologio.oggi().year();
+    return m_anni.contains(oggi) ? oggi : m_anni.first();
 }
 
 void DatiMensili::cambiaAnno(int posto) {
     m_anno = m_anni.value(posto, m_anno);
+    // Whoever looks at this year wants to see the next one when it has come.
+    m_memoria.segnaAnno(m_anno == annoProposto() ? 0 : m_anno);
     mostra();
 }
 

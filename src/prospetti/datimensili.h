@@ -1,6 +1,7 @@
 // The figures of a year on screen: what was invoiced by month and VAT register, as a table and a chart.
 #pragma once
 
+#include "prospetti/memoriaprospetti.h"
 #include "prospetti/prospetto.h"
 #include "prospetti/sommemensili.h"
 
@@ -12,7 +13,7 @@ inline constexpr int colonneMese = 8;
 
 class DatiMensili : public Prospetto {
 public:
-    explicit DatiMensili(Contesto& c) : Prospetto(c) {}
+    explicit DatiMensili(Contesto& c);
 
     /// Years with documents, the latest first; this year where there is none.
     const QList<int>& anni() const { return m_anni; }
@@ -47,14 +48,16 @@ private:
     void prendi(int, const Fte& fte, const F2e& f2e) override { m_somme.aggiungi(fte, f2e); }
     void completa() override;
     void scegli() override;
+    int annoProposto() const;
     SommeDocumenti somme(int anno, int mese) const;
     void aggiungiMese(const QString& nome, int anno, int mese);
     void celle(const Riga& riga, CelleRiga& celle) const;
 
+    MemoriaProspetti m_memoria;
     SommeMensili m_somme;
     QList<int> m_anni;
     QList<int> m_registri; ///< those of the year
-    int m_anno = 0;
+    int m_anno;
     int m_registro = -1; ///< -1 for all
     std::vector<Riga> m_righe;
 };

@@ -20,17 +20,30 @@ void LimitiScadenze::metti(PeriodoScadenze periodo) {
     if (periodo == PeriodoScadenze::DalAl)
         return;
     const QDate oggi = m_orologio.oggi();
-    m_primo.reset();
-    m_ultimo.reset();
+    Giorni giorni;
     if (periodo == PeriodoScadenze::DaOggi) {
-        m_primo = oggi;
+        giorni.dal = oggi;
     } else if (periodo != PeriodoScadenze::Tutte) {
         const int fra = periodo == PeriodoScadenze::MeseProssimo ? 1 : 0;
-        m_primo = QDate(oggi.year(), oggi.month(), 1).addMonths(fra);
-        m_ultimo = m_primo->addMonths(1).addDays(-1);
+        giorni.dal = QDate(oggi.year(), oggi.month(), 1).addMonths(fra);
+        giorni.al = giorni.dal.addMonths(1).addDays(-1);
     }
+    limita(giorni);
+}
+
+void LimitiScadenze::limita(const Giorni& giorni) {
+    const auto limite = [](QDate giorno) { return giorno.isValid() ? std::optional(giorno) : std::nullopt; };
+    m_primo = limite(giorni.dal);
+    m_ultimo = limite(giorni.al);
     m_dal = m_primo ? testoData(*m_primo) : QString();
     m_al = m_ultimo ? testoData(*m_ultimo) : QString();
+}
+
+void LimitiScadenze::riprendi(PeriodoScadenze periodo, const Giorni& giorni) {
+    m_scelto = true;
+    metti(periodo);
+    if (periodo == PeriodoScadenze::DalAl)
+        limita(giorni);
 }
 
 void LimitiScadenze::cambiaDal(const QString& testo) {

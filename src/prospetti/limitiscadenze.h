@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/orologio.h"
+#include "common/periodo.h"
 
 #include <QString>
 
@@ -33,8 +34,18 @@ public:
     /// whoever opens an archive of past years does not find an empty list.
     void proponi(bool daOggi);
 
+    /// What the operator has chosen; nothing before he has.
+    std::optional<PeriodoScadenze> scelto() const {
+        return m_scelto ? std::optional(m_periodo) : std::nullopt;
+    }
+    /// None of the boxes holds half a date.
+    bool interi() const { return (m_primo || m_dal.isEmpty()) && (m_ultimo || m_al.isEmpty()); }
+    /// Takes up what was chosen in another run; `giorni` are those of `PeriodoScadenze::DalAl`.
+    void riprendi(PeriodoScadenze periodo, const Giorni& giorni);
+
 private:
     void metti(PeriodoScadenze periodo);
+    void limita(const Giorni& giorni);
 
     const Orologio& m_orologio;
     std::function<void()> m_cambiati;

@@ -30,7 +30,13 @@ QString qualeRata(const RataDovuta& rata, const DocumentoARate& documento) {
 } // namespace
 
 Scadenzario::Scadenzario(Contesto& c, std::function<void(const Identita&)> apri)
-    : Prospetto(c), m_apri(std::move(apri)), m_limiti(c.orologio, [this] { mostra(); }) {}
+    : Prospetto(c), m_apri(std::move(apri)), m_limiti(c.orologio, [this] { mostra(); }),
+      m_memoria(c.archivio.percorsi(), c.sessione.codiceazienda), m_ricordate(m_memoria.scadenzario()) {
+    m_scelta.gruppi = m_ricordate.gruppi;
+    m_scelta.riba = m_ricordate.riba;
+    if (m_ricordate.periodo)
+        m_limiti.riprendi(*m_ricordate.periodo, m_ricordate.giorni);
+}
 
 void Scadenzario::completa() {
     m_elenco.completa(contesto.archivio);
@@ -43,6 +49,18 @@ void Scadenzario::scegli() {
     m_scelta.dal = m_limiti.primo();
     m_scelta.al = m_limiti.ultimo();
     m_elenco.mostra(m_scelta);
+    ricorda();
+}
+
+/// Half a date that is being typed is no choice yet.
+void Scadenzario::ricorda() {
+    ScelteScadenzario scelte{.periodo = m_limiti.scelto(), .gruppi = m_scelta.gruppi, .riba = m_scelta.riba};
+    if (scelte.periodo == PeriodoScadenze::DalAl)
+        scelte.giorni = {m_scelta.dal.value_or(QDate()), m_scelta.al.value_or(QDate())};
+    if (scelte == m_ricordate || !m_limiti.interi())
+        return;
+    m_ricordate = scelte;
+    m_memoria.segna(scelte);
 }
 
 void Scadenzario::cambiaCliente(const QString& testo) {

@@ -4,6 +4,7 @@
 
 #include "prospetti/elencoscadenze.h"
 #include "prospetti/limitiscadenze.h"
+#include "prospetti/memoriaprospetti.h"
 #include "prospetti/prospetto.h"
 
 #include <functional>
@@ -52,6 +53,7 @@ private:
     void prendi(int record, const Fte& fte, const F2e& f2e) override { m_elenco.aggiungi(record, fte, f2e); }
     void completa() override;
     void scegli() override;
+    void ricorda();
     QString testoTotale(const ElencoScadenze::Riga& riga, ColonnaScadenze colonna) const;
     QString nomeGruppo(const ElencoScadenze::Riga& riga) const;
     QString giorno(const RataDovuta& rata) const;
@@ -65,6 +67,8 @@ private:
     ElencoScadenze m_elenco;
     SceltaScadenze m_scelta;
     LimitiScadenze m_limiti;
+    MemoriaProspetti m_memoria;
+    ScelteScadenzario m_ricordate;
     ElencoScadenze::Chi m_corrente;
 };
 

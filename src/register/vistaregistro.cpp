@@ -1,5 +1,6 @@
 #include "register/vistaregistro.h"
 
+#include "archive/promemoria.h"
 #include "common/posti.h"
 
 #include <QSettings>
@@ -35,13 +36,6 @@ bool delGenere(GenereDocumento genere, const Fte& fte, const F2e& f2e) {
         return f2e.fatturaPa();
     }
     return true;
-}
-
-/// The enumerator that was kept under a key; its first where there is none.
-template <class E>
-E letto(const QSettings& file, QStringView chiave, E ultimo) {
-    const int numero = file.value(chiave, 0).toInt();
-    return numero >= 0 && numero <= ordinale(ultimo) ? enumeratore<E>(numero) : E{};
 }
 
 std::vector<ColonnaScelta> colonneDa(const QStringList& testi) {
@@ -108,13 +102,13 @@ VistaRegistro MemoriaVista::leggi() const {
     file.beginGroup(gruppo);
     VistaRegistro vista;
     DocumentiScelti& documenti = vista.documenti;
-    documenti.periodo = {letto(file, u"periodo", Periodo::Genere::DalAl),
+    documenti.periodo = {sceltaRicordata(file, u"periodo", Periodo::Genere::DalAl),
                          file.value(u"anno").toInt(),
                          file.value(u"quale", 1).toInt(),
                          {QDate::fromString(file.value(u"dal").toString(), Qt::ISODate),
                           QDate::fromString(file.value(u"al").toString(), Qt::ISODate)}};
-    documenti.data = letto(file, u"data", DataPeriodo::Registrazione);
-    documenti.genere = letto(file, u"genere", GenereDocumento::Pa);
+    documenti.data = sceltaRicordata(file, u"data", DataPeriodo::Registrazione);
+    documenti.genere = sceltaRicordata(file, u"genere", GenereDocumento::Pa);
     documenti.eliminati = file.value(u"eliminati", true).toBool();
     vista.colonne = colonneDa(file.value(u"colonne").toStringList());
     return vista;

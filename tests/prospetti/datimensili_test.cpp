@@ -107,6 +107,19 @@ TEST_F(DatiMensiliTest, MesiRegistriETotali) {
     EXPECT_EQ(form.mese(3).imposta, -22.0);
 }
 
+TEST_F(DatiMensiliTest, LAnnoSceltoRestaMaNonQuelloProposto) {
+    CoppiaFte vecchio = documentoDi(1, u"1"_s, 100, 22);
+    vecchio.fte.datareg.set(u"20140105"_s);
+    azienda.documento(vecchio);
+    azienda.documento(documentoDi(1, u"2"_s, 100, 22));
+    EXPECT_EQ(carica().anni(), QList<int>({2015, 2014}));
+    m_form->cambiaAnno(1);
+    EXPECT_EQ(carica().anno(), 2014);
+    m_form->cambiaAnno(0);
+    EXPECT_EQ(carica().anno(), 2015);
+    EXPECT_EQ(MemoriaProspetti(azienda.percorsi(), 7).anno(), 0) << "the next year shows itself";
+}
+
 TEST_F(DatiMensiliTest, UnAziendaSenzaDocumentiHaUnAnnoVuoto) {
     const DatiMensili& form = carica();
     EXPECT_EQ(form.anni(), QList{2015});

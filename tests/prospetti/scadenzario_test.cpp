@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QSettings>
+
 #include <map>
 
 using namespace Qt::StringLiterals;
@@ -138,6 +141,35 @@ TEST_F(ScadenzarioTest, SiScegliePerPeriodoClientePagamentoERiba) {
     form.cambiaRiba(SceltaRiba::Tutte);
     form.cambiaCliente(u" ROSS"_s);
     EXPECT_EQ(rate(), 4);
+}
+
+TEST_F(ScadenzarioTest, LeScelteRestanoPerLaProssimaVolta) {
+    azienda.documento(aRate(rossi, u"1"_s, {u"14032015"_s, u"15032015"_s, u"31032015"_s}));
+    EXPECT_EQ(carica().limiti().periodo(), PeriodoScadenze::DaOggi);
+    EXPECT_FALSE(QFile::exists(azienda.percorsi().promemoria(7)))
+        << "what is only proposed is not remembered";
+    carica().cambiaGruppi(GruppiScadenze::PerCliente);
+    m_form->cambiaRiba(SceltaRiba::SenzaRiba);
+    m_form->cambiaCliente(u"ross"_s);
+    m_form->limiti().cambiaDal(u"150315"_s);
+    m_form->limiti().cambiaAl(u"3"_s);
+    carica();
+    EXPECT_EQ(m_form->limiti().periodo(), PeriodoScadenze::DalAl);
+    EXPECT_EQ(m_form->limiti().dal() + m_form->limiti().al(), u"15/03/2015"_s) << "half a date is no choice";
+    EXPECT_EQ(m_form->scelta().gruppi, GruppiScadenze::PerCliente);
+    EXPECT_EQ(m_form->scelta().riba, SceltaRiba::SenzaRiba);
+    EXPECT_EQ(m_form->scelta().cliente, QString());
+    EXPECT_EQ(m_form->righe(), 3) << "two instalments and their total";
+
+    m_form->limiti().cambiaPeriodo(PeriodoScadenze::QuestoMese);
+    QSettings memoria(azienda.percorsi().promemoria(7), QSettings::IniFormat);
+    memoria.setValue(u"scadenzario/gruppi", 9);
+    memoria.setValue(u"scadenzario/riba", u"boh"_s);
+    memoria.sync();
+    carica();
+    EXPECT_EQ(m_form->limiti().al(), u"31/03/2015"_s);
+    EXPECT_EQ(m_form->scelta().gruppi, GruppiScadenze::PerGiorno);
+    EXPECT_EQ(m_form->scelta().riba, SceltaRiba::Tutte);
 }
 
 TEST_F(ScadenzarioTest, LaRigaSceltaRestaLaStessaESiApreLaSua) {

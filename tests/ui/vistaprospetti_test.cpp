@@ -46,6 +46,15 @@ protected:
     Schermo scadenzario = Schermo::Scadenzario;
 };
 
+TEST_F(VistaProspettiTest, LeScelteRestanoPerLAzienda) {
+    controllo(vista(scadenzario), u"gruppi"_s)->setFocus(Qt::TabFocusReason);
+    tasto(vista(scadenzario), Qt::Key_Down);
+    EXPECT_EQ(MemoriaProspetti(azienda.percorsi(), 7).scadenzario().gruppi, GruppiScadenze::PerCliente);
+    const VistaRegistro voluta{{.genere = GenereDocumento::NoteDiCredito}, {}};
+    modulo->borfte().opzioni().cambiaVista(voluta);
+    EXPECT_EQ(MemoriaVista(azienda.percorsi(), 7).leggi(), voluta);
+}
+
 TEST_F(VistaProspettiTest, DallaTastieraSiSceglieSiApreESiTorna) {
     Vista& vista = this->vista(scadenzario);
     ASSERT_TRUE(vista.isVisible());
