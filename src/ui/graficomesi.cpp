@@ -52,7 +52,7 @@ struct Scala {
     }
 };
 
-Scala scalaDi(const std::array<BarreMese, 12>& mesi) {
+Scala scalaDi(const DodiciMesi& mesi) {
     double minimo = 0;
     double massimo = 0;
     for (const BarreMese& mese : mesi) {
@@ -89,8 +89,27 @@ void disegnaTacche(QPainter& penna, const Scala& scala, const QColor& linea, con
         penna.drawLine(QPointF(scala.posto.left(), y), QPointF(scala.posto.right(), y));
         const double alta = penna.fontMetrics().height();
         penna.setPen(testo);
-        penna.drawText(QRectF(0, y - alta / 2, scala.posto.left() - 6, alta),
+        penna.drawText(QRectF(0, y - alta / 2, scala.posto.left() - alta * 0.4, alta),
                        Qt::AlignRight | Qt::AlignVCenter, testoItaliano(n * scala.passo, 0));
+    }
+}
+
+/// Where a month stands on the drawing.
+struct PostoMese {
+    double x;
+    double larghezza;
+};
+
+void disegnaBarre(QPainter& penna, const Scala& scala, const Colori& colori, const BarreMese& mese,
+                  PostoMese posto) {
+    const double barra = posto.larghezza * 0.34;
+    double da = posto.x + posto.larghezza * 0.14;
+    for (const auto& [importo, colore] :
+         {std::pair{mese.imponibile, colori.imponibile}, {mese.imposta, colori.imposta}}) {
+        if (std::fabs(importo) < 1e15)
+            penna.fillRect(
+                QRectF(QPointF(da, scala.y(0)), QPointF(da + barra, scala.y(importo))).normalized(), colore);
+        da += barra * 1.04;
     }
 }
 
@@ -102,7 +121,7 @@ GraficoMesi::GraficoMesi(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void GraficoMesi::mostra(const std::array<BarreMese, 12>& mesi, const QString& descrizione) {
+void GraficoMesi::mostra(const DodiciMesi& mesi, const QString& descrizione) {
     m_mesi = mesi;
     setAccessibleDescription(descrizione);
     update();
@@ -110,35 +129,34 @@ void GraficoMesi::mostra(const std::array<BarreMese, 12>& mesi, const QString& d
 
 void GraficoMesi::paintEvent(QPaintEvent*) {
     QPainter penna(this);
+    disegnaMesi(penna, rect(), m_mesi, palette());
+}
+
+void disegnaMesi(QPainter& penna, const QRectF& posto, const DodiciMesi& mesi, const QPalette& tavolozza) {
+    penna.save();
+    penna.translate(posto.topLeft());
     penna.setRenderHint(QPainter::Antialiasing);
-    const Colori colori = coloriPer(tonoDi(palette()));
-    const QColor testo = palette().color(QPalette::WindowText);
-    const double alta = fontMetrics().height();
-    Scala scala = scalaDi(m_mesi);
+    const Colori colori = coloriPer(tonoDi(tavolozza));
+    const QColor testo = tavolozza.color(QPalette::WindowText);
+    const QFontMetricsF misure(penna.font(), penna.device());
+    const double alta = misure.height();
+    Scala scala = scalaDi(mesi);
     const double sinistra =
-        std::max(fontMetrics().horizontalAdvance(testoItaliano(scala.sopra * scala.passo, 0)),
-                 fontMetrics().horizontalAdvance(testoItaliano(scala.sotto * scala.passo, 0))) +
-        12;
-    scala.posto = QRectF(sinistra, alta * 1.8, width() - sinistra - 4, height() - alta * 3.4);
+        alta * 0.75 + std::max(misure.horizontalAdvance(testoItaliano(scala.sopra * scala.passo, 0)),
+                               misure.horizontalAdvance(testoItaliano(scala.sotto * scala.passo, 0)));
+    scala.posto =
+        QRectF(sinistra, alta * 1.8, posto.width() - sinistra - alta / 4, posto.height() - alta * 3.4);
     disegnaTacche(penna, scala, colori.linea, testo);
     disegnaLegenda(penna, colori, testo, QPointF(sinistra, alta));
-    const double mese = scala.posto.width() / quantiIn(m_mesi);
-    const double barra = mese * 0.34;
-    for (int i = 0; i < quantiIn(m_mesi); ++i) {
-        const BarreMese& m = elemento(m_mesi, i);
-        const double x = scala.posto.left() + mese * i;
-        const auto disegna = [&](double importo, double da, const QColor& colore) {
-            if (std::fabs(importo) < 1e15)
-                penna.fillRect(
-                    QRectF(QPointF(da, scala.y(0)), QPointF(da + barra, scala.y(importo))).normalized(),
-                    colore);
-        };
-        disegna(m.imponibile, x + mese * 0.14, colori.imponibile);
-        disegna(m.imposta, x + mese * 0.14 + barra + 1, colori.imposta);
+    const double larga = scala.posto.width() / quantiIn(mesi);
+    for (int i = 0; i < quantiIn(mesi); ++i) {
+        const double x = scala.posto.left() + larga * i;
+        disegnaBarre(penna, scala, colori, elemento(mesi, i), {x, larga});
         penna.setPen(testo);
-        penna.drawText(QRectF(x, height() - alta * 1.3, mese, alta), Qt::AlignCenter,
-                       fontMetrics().elidedText(m.mese, Qt::ElideNone, static_cast<int>(mese)));
+        penna.drawText(QRectF(x, posto.height() - alta * 1.3, larga, alta), Qt::AlignCenter,
+                       elemento(mesi, i).mese);
     }
+    penna.restore();
 }
 
 } // namespace bor

@@ -27,7 +27,8 @@ namespace bor {
 namespace {
 
 constexpr int risoluzione = 300;
-constexpr double margine = 12;           ///< millimetres
+constexpr double margine = 12; ///< millimetres
+constexpr double millimetriPerPollice = 25.4;
 constexpr double caratteriInPiedi = 100; ///< a table up to so many characters wide stands upright
 
 /// The texts of a row as paper shows them: nothing for an amount of zero, as on the screens.
@@ -65,8 +66,9 @@ double caratteriIn(const Tabella& tabella) {
 /// One print of a table: where its columns stand and how many rows a page has.
 class Foglio {
 public:
-    Foglio(const Tabella& tabella, QPainter& penna, QSizeF misura)
-        : m_tabella(tabella), m_penna(penna), m_misura(misura), m_celle(tabella.decimali) {
+    Foglio(const Tabella& tabella, const Figura& figura, QPainter& penna, QSizeF misura)
+        : m_tabella(tabella), m_figura(figura), m_penna(penna), m_misura(misura), m_celle(tabella.decimali),
+          m_altaFigura(figura.altezza * penna.device()->logicalDpiY() / millimetriPerPollice) {
         m_testo.setPointSizeF(8);
         m_neretto = m_testo;
         m_neretto.setBold(true);
@@ -75,19 +77,21 @@ public:
         const QFontMetricsF caratteri(m_testo, penna.device());
         m_passo = caratteri.height() * 1.25;
         m_cifra = caratteri.horizontalAdvance(u'0');
-        m_inizio = QFontMetricsF(m_titolo, penna.device()).height() * 1.3 +
-                   (tabella.filtro.isEmpty() ? 0.5 : 1.5) * m_passo;
+        m_sopra = QFontMetricsF(m_titolo, penna.device()).height() * 1.3 +
+                  (tabella.filtro.isEmpty() ? 0.5 : 1.5) * m_passo;
         disponi();
     }
 
-    int pagine() const { return std::max((daScrivere() + perPagina() - 1) / perPagina(), 1); }
+    int pagine() const {
+        const int resto = std::max(daScrivere() - perPagina(1), 0);
+        return 1 + (resto + perPagina(2) - 1) / perPagina(2);
+    }
 
     void disegna(int pagina) {
-        testata();
-        const int prima = (pagina - 1) * perPagina();
-        const int fine = std::min(prima + perPagina(), daScrivere());
-        double y = m_inizio + m_passo * 1.2;
-        for (int r = prima; r < fine; ++r, y += m_passo) {
+        testata(pagina);
+        const int fine = std::min(primaRiga(pagina + 1), daScrivere());
+        double y = inizio(pagina) + m_passo * 1.2;
+        for (int r = primaRiga(pagina); r < fine; ++r, y += m_passo) {
             const bool totale = r == m_tabella.righe;
             m_celle.nuovaRiga();
             if (totale)
@@ -106,9 +110,12 @@ public:
 
 private:
     int daScrivere() const { return m_tabella.righe + (m_tabella.totali ? 1 : 0); }
-    int perPagina() const {
-        return std::max(static_cast<int>((m_misura.height() - m_inizio - 2.7 * m_passo) / m_passo), 1);
+    /// Top of the head row.
+    double inizio(int pagina) const { return m_sopra + (pagina == 1 ? m_altaFigura : 0); }
+    int perPagina(int pagina) const {
+        return std::max(static_cast<int>((m_misura.height() - inizio(pagina) - 2.7 * m_passo) / m_passo), 1);
     }
+    int primaRiga(int pagina) const { return pagina == 1 ? 0 : perPagina(1) + (pagina - 2) * perPagina(2); }
 
     /// Each column gets its characters; texts share what is left, and where nothing is left all of them give
     /// way alike.
@@ -128,7 +135,7 @@ private:
         }
     }
 
-    void testata() {
+    void testata(int pagina) {
         m_penna.setPen(Qt::black);
         m_penna.setFont(m_titolo);
         const double alta = QFontMetricsF(m_titolo, m_penna.device()).height();
@@ -136,11 +143,17 @@ private:
                          m_tabella.titolo);
         if (!m_tabella.filtro.isEmpty())
             scrivi(QRectF(0, alta * 1.1, m_misura.width(), m_passo), m_tabella.filtro, m_testo, false);
+        if (pagina == 1 && m_altaFigura > 0) {
+            m_penna.setFont(m_testo);
+            m_figura.disegna(m_penna, QRectF(0, m_sopra, m_misura.width(), m_altaFigura - m_passo));
+            m_penna.setPen(Qt::black);
+        }
         m_celle.nuovaRiga();
         for (const ColonnaTabella& colonna : m_tabella.colonne)
             m_celle.testo(colonna.didascalia);
-        m_penna.fillRect(QRectF(0, m_inizio, m_misura.width(), m_passo), QColor(225, 225, 225));
-        riga(m_inizio, m_neretto);
+        const double y = inizio(pagina);
+        m_penna.fillRect(QRectF(0, y, m_misura.width(), m_passo), QColor(225, 225, 225));
+        riga(y, m_neretto);
     }
 
     void riga(double y, const QFont& font) {
@@ -179,15 +192,17 @@ private:
     };
 
     const Tabella& m_tabella;
+    const Figura& m_figura;
     QPainter& m_penna;
     QSizeF m_misura;
     CelleStampate m_celle;
     QFont m_testo;
     QFont m_neretto;
     QFont m_titolo;
+    double m_altaFigura; ///< with the room below it; 0 without a drawing
     double m_passo = 0;  ///< height of a row
     double m_cifra = 0;  ///< width of a digit
-    double m_inizio = 0; ///< top of the head row
+    double m_sopra = 0;  ///< room of title and filter
     std::vector<Posto> m_larghezze;
 };
 
@@ -248,7 +263,8 @@ QString scegliFileTabella(const QString& titolo, const QString& nome, QWidget* f
 
 } // namespace
 
-bool disegnaTabella(const Tabella& tabella, QPagedPaintDevice& fogli, const AvanzaPagina& avanza) {
+bool disegnaTabella(const Tabella& tabella, QPagedPaintDevice& fogli, const AvanzaPagina& avanza,
+                    const Figura& figura) {
     fogli.setPageSize(QPageSize(QPageSize::A4));
     fogli.setPageOrientation(caratteriIn(tabella) > caratteriInPiedi ? QPageLayout::Landscape
                                                                      : QPageLayout::Portrait);
@@ -256,7 +272,7 @@ bool disegnaTabella(const Tabella& tabella, QPagedPaintDevice& fogli, const Avan
     QPainter penna;
     if (!penna.begin(&fogli))
         return false;
-    Foglio foglio(tabella, penna, QSizeF(fogli.width(), fogli.height()));
+    Foglio foglio(tabella, figura, penna, QSizeF(fogli.width(), fogli.height()));
     const int pagine = foglio.pagine();
     for (int pagina = 1; pagina <= pagine; ++pagina) {
         if (avanza && !avanza(pagina, pagine))
@@ -268,20 +284,20 @@ bool disegnaTabella(const Tabella& tabella, QPagedPaintDevice& fogli, const Avan
     return penna.end();
 }
 
-bool scriviPdf(const Tabella& tabella, QIODevice& uscita, const AvanzaPagina& avanza) {
+bool scriviPdf(const Tabella& tabella, QIODevice& uscita, const AvanzaPagina& avanza, const Figura& figura) {
     QPdfWriter fogli(&uscita);
     fogli.setTitle(tabella.titolo);
     fogli.setResolution(risoluzione);
-    return disegnaTabella(tabella, fogli, avanza);
+    return disegnaTabella(tabella, fogli, avanza, figura);
 }
 
-void stampaTabella(const Tabella& tabella, QWidget* finestra) {
+void stampaTabella(const Tabella& tabella, QWidget* finestra, const Figura& figura) {
     QPrinter stampante(QPrinter::HighResolution);
     stampante.setDocName(tabella.titolo);
     if (QPrintDialog(&stampante, finestra).exec() != QDialog::Accepted)
         return;
     Avanzamento avanzamento(finestra);
-    const bool riuscita = disegnaTabella(tabella, stampante, avanzamento.funzione());
+    const bool riuscita = disegnaTabella(tabella, stampante, avanzamento.funzione(), figura);
     if (avanzamento.interrotto())
         stampante.abort();
     else if (!riuscita)
@@ -290,14 +306,14 @@ void stampaTabella(const Tabella& tabella, QWidget* finestra) {
             u"La stampante non ha accettato la stampa: controllatela e ripetete la stampa."_s);
 }
 
-void esportaTabella(const Tabella& tabella, const QString& nome, QWidget* finestra) {
+void esportaTabella(const Tabella& tabella, const QString& nome, QWidget* finestra, const Figura& figura) {
     const QString file = scegliFileTabella(u"Esporta: %1"_s.arg(tabella.titolo), nome, finestra);
     if (file.isEmpty())
         return;
     Avanzamento avanzamento(finestra);
     const QString errore = salvaFile(file, [&](QIODevice& uscita) {
         if (file.endsWith(u".pdf", Qt::CaseInsensitive))
-            return scriviPdf(tabella, uscita, avanzamento.funzione());
+            return scriviPdf(tabella, uscita, avanzamento.funzione(), figura);
         return file.endsWith(u".json", Qt::CaseInsensitive) ? scriviJson(tabella, uscita)
                                                             : scriviCsv(tabella, uscita);
     });

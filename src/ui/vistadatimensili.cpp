@@ -6,6 +6,7 @@
 #include "ui/campilegati.h"
 #include "ui/flusso.h"
 #include "ui/graficomesi.h"
+#include "ui/tinte.h"
 
 #include <QComboBox>
 #include <QTableView>
@@ -21,7 +22,7 @@ namespace {
 
 /// Shown in the order of `ColonnaMese`.
 constexpr std::array<ColonnaGriglia, colonneMese> colonne = {{
-    {u"Mese", 3000},
+    {u"Mese", 3000, Qt::AlignLeft, 1500},
     {u"Registro IVA", 1200, Qt::AlignHCenter},
     {u"Documenti", 1000, Qt::AlignRight},
     {u"Imponibile", 1400, Qt::AlignRight},
@@ -30,6 +31,8 @@ constexpr std::array<ColonnaGriglia, colonneMese> colonne = {{
     {u"Totale", 1400, Qt::AlignRight},
     {u"Ritenute", 1400, Qt::AlignRight},
 }};
+
+constexpr double altezzaGrafico = 60; ///< millimetres of paper
 
 const QString spiegazione =
     u"Per data di registrazione. Le note di credito sono in meno, i documenti eliminati non ci sono; le "
@@ -73,7 +76,7 @@ QWidget* VistaDatiMensili::creaScelte() {
 }
 
 void VistaDatiMensili::aggiornaGrafico() {
-    std::array<BarreMese, 12> mesi;
+    DodiciMesi mesi;
     QStringList parole;
     for (int m = 1; m <= quantiIn(mesi); ++m) {
         const SommeDocumenti somme = m_form.mese(m);
@@ -84,6 +87,12 @@ void VistaDatiMensili::aggiornaGrafico() {
                                                                  testoItaliano(somme.imposta, 2)));
     }
     m_grafico->mostra(mesi, parole.join(u"; "_s));
+}
+
+Figura VistaDatiMensili::figura() const {
+    return {altezzaGrafico, [mesi = m_grafico->mesi()](QPainter& penna, const QRectF& posto) {
+                disegnaMesi(penna, posto, mesi, tavolozza(Tono::Chiaro));
+            }};
 }
 
 int VistaDatiMensili::rigaCorrente() const {

@@ -14,6 +14,7 @@ public:
 
 protected:
     int rigaCorrente() const override;
+    Figura figura() const override;
 
 private:
     QWidget* creaScelte();

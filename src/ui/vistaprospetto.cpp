@@ -2,7 +2,6 @@
 
 #include "prospetti/prospetto.h"
 #include "ui/barracomandi.h"
-#include "ui/stampatabella.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -52,6 +51,7 @@ VistaProspetto::VistaProspetto(Prospetto& prospetto, const QString& titolo, cons
     m_elenco->setAccessibleName(titolo);
     m_elenco->setModel(m_modello);
     preparaElenco(m_elenco, colonne, [&prospetto] { return prospetto.righe(); });
+    disponiColonne(m_elenco, colonne, true);
     m_lettura.setInterval(0);
     connect(&m_lettura, &QTimer::timeout, this, [this] { leggi(); });
 }
@@ -124,10 +124,11 @@ QWidget* VistaProspetto::creaComandi() {
     comandi->spazio();
     const auto pronto = [this] { return !m_prospetto.lettura().inCorso(); };
     auto* stampa = comandi->comando(u"stampa"_s, u"Stampa"_s, u"stampa"_s, u"Ctrl+P"_s,
-                                    [this] { stampaTabella(m_prospetto.tabella(), this); });
+                                    [this] { stampaTabella(m_prospetto.tabella(), this, figura()); });
     legami.abilitato(stampa, pronto);
-    auto* esporta = comandi->comando(u"esporta"_s, u"Esporta"_s, u"esporta"_s, u"Ctrl+T"_s,
-                                     [this] { esportaTabella(m_prospetto.tabella(), m_file, this); });
+    auto* esporta = comandi->comando(u"esporta"_s, u"Esporta"_s, u"esporta"_s, u"Ctrl+T"_s, [this] {
+        esportaTabella(m_prospetto.tabella(), m_file, this, figura());
+    });
     esporta->setToolTip(u"Foglio di calcolo (CSV), PDF o JSON (Ctrl+T)"_s);
     legami.abilitato(esporta, pronto);
     return comandi;

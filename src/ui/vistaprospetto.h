@@ -4,6 +4,7 @@
 
 #include "ui/griglia.h"
 #include "ui/legame.h"
+#include "ui/stampatabella.h"
 #include "ui/vista.h"
 
 #include <QTimer>
@@ -38,6 +39,8 @@ protected:
     virtual int rigaCorrente() const = 0;
     /// A sum of what is shown, below the list; empty for none.
     virtual QString riepilogo() const { return {}; }
+    /// What the printed list has above its rows.
+    virtual Figura figura() const { return {}; }
 
 private:
     QWidget* creaPiede(const QString& spiegazione);

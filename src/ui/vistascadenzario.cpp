@@ -19,12 +19,12 @@ namespace {
 /// Shown in the order of `ColonnaScadenze`.
 constexpr std::array<ColonnaGriglia, colonneScadenze> colonne = {{
     {u"Scadenza", 1000},
-    {u"Cliente", 5000},
+    {u"Cliente", 5000, Qt::AlignLeft, 2000},
     {u"Documento", 1000},
     {u"Data", 1000},
     {u"Genere", 1300},
     {u"Rata", 900},
-    {u"Pagamento", 3000},
+    {u"Pagamento", 3000, Qt::AlignLeft, 1500},
     {u"Ri.Ba.", 600},
     {u"Importo", 1300, Qt::AlignRight},
 }};

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -41,14 +42,29 @@ Tabella lunga(int righe, int caratteri) {
 }
 
 /// The pages of the PDF of a table, as text.
-QStringList pagine(const Tabella& tabella) {
+QStringList pagine(const Tabella& tabella, const Figura& figura = {}) {
     const QTemporaryDir cartella;
     const QString file = cartella.filePath(u"tabella.pdf"_s);
-    EXPECT_EQ(salvaFile(file, [&](QIODevice& uscita) { return scriviPdf(tabella, uscita); }), QString());
+    EXPECT_EQ(salvaFile(file, [&](QIODevice& uscita) { return scriviPdf(tabella, uscita, {}, figura); }),
+              QString());
     QProcess lettore;
     lettore.start(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s});
     EXPECT_TRUE(lettore.waitForFinished());
     return QString::fromUtf8(lettore.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+}
+
+TEST(StampaTabella, UnaFiguraStaSullaPrimaPaginaENessunaRigaVaPersa) {
+    const Figura figura{80, [](QPainter& penna, const QRectF& posto) {
+                            penna.drawText(posto, Qt::AlignBottom | Qt::AlignLeft, u"FIGURA"_s);
+                        }};
+    for (const int righe : {1, 35, 40, 100}) {
+        const QStringList tutte = pagine(lunga(righe, 30), figura);
+        EXPECT_EQ(tutte.join(u' ').count(u"FIGURA"_s), 1);
+        EXPECT_LT(tutte[0].indexOf(u"FIGURA"_s), tutte[0].indexOf(u"01/01/2015"_s));
+        EXPECT_EQ(tutte.join(u' ').count(u"/2015 "_s), righe);
+        EXPECT_EQ(tutte.last().count(u"Totale"_s), 1);
+        EXPECT_EQ(tutte.last().count(u"Pagina %1 di %1"_s.arg(tutte.size())), 1);
+    }
 }
 
 TEST(StampaTabella, OgniPaginaHaTestataENumero) {
