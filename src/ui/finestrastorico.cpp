@@ -29,9 +29,9 @@ namespace {
 enum class ColonnaDocumento { Data, Genere, Numero, Imponibile, Imposta, Totale };
 constexpr std::array<ColonnaGriglia, 6> colonneDocumenti = {{
     {u"Data", 1000},
-    {u"Documento", 2500},
+    {u"Documento", 2500, Qt::AlignLeft, 1200},
     {u"Numero", 1200},
-    {u"Imponibile ed esente", 2000, Qt::AlignRight},
+    {u"Imponibile ed esente", 1900, Qt::AlignRight},
     {u"Imposta", 1300, Qt::AlignRight},
     {u"Totale", 1500, Qt::AlignRight},
 }};
@@ -44,7 +44,7 @@ constexpr std::array<ColonnaGriglia, 7> colonneVendite = {{
     {u"Prezzo", 1400, Qt::AlignRight},
     {u"Sc. 1", 600, Qt::AlignRight},
     {u"Sc. 2", 600, Qt::AlignRight},
-    {u"Note", 2500},
+    {u"Note", 2500, Qt::AlignLeft, 1200},
 }};
 
 QString testoGiorno(QDate giorno) {
@@ -65,6 +65,7 @@ QTableView* elenco(const QString& nome, const QString& titolo, ModelloGriglia* m
     vista->setAccessibleName(titolo);
     vista->setModel(modello);
     preparaElenco(vista, colonne, [modello] { return modello->rowCount(); });
+    disponiColonne(vista, colonne, true);
     return vista;
 }
 

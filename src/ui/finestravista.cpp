@@ -85,18 +85,15 @@ QGroupBox* FinestraVista::creaDocumenti(const Bordata& bordata) {
     m_eliminati->setObjectName(u"eliminati"_s);
     auto* griglia = new QGridLayout;
     riga(griglia, 0, u"&Genere"_s, m_genere);
+    griglia->addWidget(m_eliminati, 1, 1);
+    griglia->setRowMinimumHeight(2, 8);
+    creaPeriodo(griglia, 3, bordata);
     colonna->addLayout(griglia);
-    colonna->addWidget(m_eliminati);
-    colonna->addSpacing(8);
-    colonna->addWidget(creaPeriodo(bordata));
     colonna->addStretch();
     return gruppo;
 }
 
-QWidget* FinestraVista::creaPeriodo(const Bordata& bordata) {
-    auto* riquadro = new QWidget;
-    auto* griglia = new QGridLayout(riquadro);
-    griglia->setContentsMargins(0, 0, 0, 0);
+void FinestraVista::creaPeriodo(QGridLayout* griglia, int prima, const Bordata& bordata) {
     m_periodo = lista(u"periodo"_s, u"Periodo"_s,
                       {u"Tutti i giorni"_s, u"Un mese"_s, u"Un trimestre"_s, u"Un anno"_s, u"Dal - al"_s});
     m_mese = lista(u"mese"_s, u"Mese"_s, nomiMesi());
@@ -113,20 +110,20 @@ QWidget* FinestraVista::creaPeriodo(const Bordata& bordata) {
     auto* al = new CampoData(u"al"_s, u"calendarioAl"_s, u"Al"_s, bordata);
     m_dal = dal->campo();
     m_al = al->campo();
-    riga(griglia, 0, u"Pe&riodo"_s, m_periodo);
-    riga(griglia, 1, u"&Quale"_s, m_quale);
-    riga(griglia, 2, u"Ann&o"_s, m_anno);
-    riga(griglia, 3, u"&Dal"_s, dal);
-    riga(griglia, 4, u"&Al"_s, al);
-    riga(griglia, 5, u"&Secondo la"_s, m_data);
-    const auto mostra = [this, griglia](int numero) {
+    riga(griglia, prima, u"Pe&riodo"_s, m_periodo);
+    riga(griglia, prima + 1, u"&Quale"_s, m_quale);
+    riga(griglia, prima + 2, u"Ann&o"_s, m_anno);
+    riga(griglia, prima + 3, u"&Dal"_s, dal);
+    riga(griglia, prima + 4, u"&Al"_s, al);
+    riga(griglia, prima + 5, u"&Secondo la"_s, m_data);
+    const auto mostra = [this, griglia, prima](int numero) {
         const auto genere = enumeratore<Periodo::Genere>(numero);
         const bool parte = genere == Periodo::Genere::Mese || genere == Periodo::Genere::Trimestre;
         const bool dalAl = genere == Periodo::Genere::DalAl;
         m_quale->setCurrentIndex(genere == Periodo::Genere::Trimestre ? 1 : 0);
-        const auto abilita = [griglia](int riga, bool si) {
+        const auto abilita = [griglia, prima](int riga, bool si) {
             for (const int colonna : {0, 1})
-                griglia->itemAtPosition(riga, colonna)->widget()->setEnabled(si);
+                griglia->itemAtPosition(prima + riga, colonna)->widget()->setEnabled(si);
         };
         abilita(1, parte);
         abilita(2, parte || genere == Periodo::Genere::Anno);
@@ -136,7 +133,6 @@ QWidget* FinestraVista::creaPeriodo(const Bordata& bordata) {
     };
     connect(m_periodo, &QComboBox::currentIndexChanged, this, mostra);
     mostra(0);
-    return riquadro;
 }
 
 QGroupBox* FinestraVista::creaColonne() {

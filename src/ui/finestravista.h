@@ -8,6 +8,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -28,7 +29,8 @@ public:
 
 private:
     QGroupBox* creaDocumenti(const Bordata& bordata);
-    QWidget* creaPeriodo(const Bordata& bordata);
+    /// Puts the choice of the days into a grid, from a row on.
+    void creaPeriodo(QGridLayout* griglia, int prima, const Bordata& bordata);
     QGroupBox* creaColonne();
     QWidget* creaMossa();
     /// A part of the year that is not chosen stands at that of `oggi`.

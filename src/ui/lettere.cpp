@@ -29,6 +29,22 @@ bool siScrive(const QWidget* campo) {
     return campo && !qobject_cast<const QLabel*>(campo) && !(linea && linea->isReadOnly());
 }
 
+/// Writes a caption. Its underlined letter is drawn apart from its neighbours, which then overlap it no more:
+/// the text can be longer than it is by itself.
+void scrivi(QLabel* etichetta, const QString& testo) {
+    etichetta->setText(testo);
+    const qsizetype segno = testo.indexOf(u'&');
+    if (segno < 0 || etichetta->wordWrap())
+        return;
+    const QFontMetrics misure = etichetta->fontMetrics();
+    const int divisa = misure.horizontalAdvance(testo.first(segno)) +
+                       misure.horizontalAdvance(testo.mid(segno + 1, 1)) +
+                       misure.horizontalAdvance(testo.mid(segno + 2));
+    const int intera = misure.horizontalAdvance(QString(testo).remove(segno, 1));
+    if (divisa > intera)
+        etichetta->setMinimumWidth(etichetta->sizeHint().width() + divisa - intera);
+}
+
 std::vector<Portatore> portatori(QWidget& schermo) {
     std::vector<Portatore> tutti;
     for (auto* bottone : schermo.findChildren<QToolButton*>()) {
@@ -37,7 +53,7 @@ std::vector<Portatore> portatori(QWidget& schermo) {
     }
     for (auto* etichetta : schermo.findChildren<QLabel*>()) {
         if (siScrive(etichetta->buddy()) && etichetta->isVisibleTo(&schermo))
-            tutti.push_back({etichetta->text(), [etichetta](const QString& t) { etichetta->setText(t); }});
+            tutti.push_back({etichetta->text(), [etichetta](const QString& t) { scrivi(etichetta, t); }});
     }
     return tutti;
 }

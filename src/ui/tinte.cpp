@@ -85,10 +85,11 @@ QString foglioDiStile(Tono tono) {
     // What the style draws around ticks and options cannot be seen on a dark ground.
     if (scuro)
         foglio +=
-            u"QCheckBox::indicator, QRadioButton::indicator { width: 1.7ex; height: 1.7ex;"
+            u"QCheckBox::indicator, QRadioButton::indicator, QListView::indicator { width: 1.7ex; height: "
+            u"1.7ex;"
             "  border: 1px solid @spento; border-radius: 2px; background: @campo; }"
             "QRadioButton::indicator { border-radius: 0.85ex; }"
-            "QCheckBox::indicator:checked { image: url(:/icone/spunta.svg); }"
+            "QCheckBox::indicator:checked, QListView::indicator:checked { image: url(:/icone/spunta.svg); }"
             "QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5,"
             "  fx: 0.5, fy: 0.5, stop: 0 @fuoco, stop: 0.5 @fuoco, stop: 0.6 @campo); }"
             "QCheckBox::indicator:focus, QRadioButton::indicator:focus { border-color: @fuoco; }"

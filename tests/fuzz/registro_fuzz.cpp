@@ -1,7 +1,8 @@
-// An archive of hostile bytes and counts: the register shows it, sorts it and reorders it without harm.
+// An archive of hostile bytes and counts: the register shows, exports, sorts and reorders it without harm.
 #include "register/borfte.h"
 #include "support/azienda.h"
 
+#include <QBuffer>
 #include <QLoggingCategory>
 
 #include <cstdint>
@@ -21,6 +22,10 @@ void guarda(bor::Borfte& registro) {
             (void)registro.testo(riga, static_cast<bor::Colonna>(colonna));
             (void)registro.colore(riga, static_cast<bor::Colonna>(colonna));
         }
+    QBuffer uscita;
+    uscita.open(QIODevice::WriteOnly);
+    (void)bor::scriviCsv(registro.tabella(), uscita);
+    (void)bor::scriviJson(registro.tabella(), uscita);
 }
 
 } // namespace
