@@ -145,6 +145,20 @@ bool leggiarticolo(const Archivio& archivio, int recart, Art& articolo) {
     return archivio.art.leggi(recart, articolo) == EsitoLettura::Letta && articolo.eliminato == 0;
 }
 
+QStringList testoAggiuntivo(const Archivio& archivio, int recart) {
+    if (recart == 0)
+        return {};
+    const Prx prx = archivio.prx.leggi(recart);
+    QStringList testi;
+    if (prx.marca != Prx::marcaValida)
+        return testi;
+    for (const auto& campo : prx.riga) {
+        if (const QString testo = puliscitesto(daCp1252(campo.raw())); !testo.isEmpty())
+            testi.append(testo);
+    }
+    return testi;
+}
+
 int cercabarcode(const Archivio& archivio, QStringView testo) {
     const QString cercato = maiuscolo(testo.trimmed());
     int basso = 1;

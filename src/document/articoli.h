@@ -4,7 +4,7 @@
 #include "archive/art.h"
 #include "common/posti.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <vector>
@@ -50,6 +50,9 @@ private:
 /// Reads an article, blank beyond the end of the file. False when there is no such record or the article is
 /// deleted.
 bool leggiarticolo(const Archivio& archivio, int recart, Art& articolo);
+
+/// The lines of text that go with an article, without the empty ones; none for record 0.
+QStringList testoAggiuntivo(const Archivio& archivio, int recart);
 
 /// `art` record of a barcode, which must be the whole one; 0 when the index does not have it.
 int cercabarcode(const Archivio& archivio, QStringView testo);

@@ -2,10 +2,12 @@
 
 #include "common/numeri.h"
 #include "document/avvisi.h"
+#include "document/testorighe.h"
 #include "document/totali.h"
 #include "document/totaliparcella.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -99,6 +101,51 @@ void Borftek::cambia(Cella cella, const QString& testo) {
         cambiata.data = testo.left(caratteriData);
     else
         cambiata.descrizione = testo.left(caratteriDescrizione);
+}
+
+AppuntiRighe::Form Borftek::perAppunti() {
+    return {
+        .righe = righeParcella,
+        .fuoco = [this] { return rigaFuoco(); },
+        .vaiA = [this](int riga) { vaiARiga(riga); },
+        .testo =
+            [this](int prima, int ultima) {
+                const std::span righe(m_righe);
+                return testoRighe(righe.subspan(postoDaZero(prima - 1), postoDaZero(ultima - prima + 1)));
+            },
+        .prova =
+            [this](int posto, const QString& testo) {
+                TabellaRighep prova = m_righe;
+                return incollaParcella(prova, posto, testo);
+            },
+        .metti =
+            [this](int posto, const QString& testo) {
+                modificato();
+                return incollaParcella(m_righe, posto, testo);
+            },
+    };
+}
+
+void Borftek::entra(Cella cella) {
+    if (cella.linea != m_lineafuoco)
+        m_appunti.lascia();
+    m_lineafuoco = cella.linea;
+}
+
+void Borftek::scorri(int prima) {
+    m_appunti.lascia();
+    m_finestra.scorri(prima);
+}
+
+void Borftek::modificato() {
+    m_appunti.lascia();
+    m_modificato = true;
+}
+
+void Borftek::vaiARiga(int riga) {
+    m_finestra.scorri(m_finestra.primaCon(riga));
+    m_lineafuoco = riga - m_finestra.prima();
+    vaiAllInizio();
 }
 
 void Borftek::invio(Cella cella) {

@@ -4,10 +4,10 @@
 
 #include "archive/contesto.h"
 #include "common/posti.h"
+#include "document/appuntirighe.h"
 #include "document/cella.h"
 #include "document/documento.h"
 #include "document/finestrarighe.h"
-#include "document/incollarighe.h"
 #include "document/storico.h"
 
 #include <optional>
@@ -55,15 +55,8 @@ public:
     /// Puts a service into the row with the focus and those below it; its amounts go to the last of them.
     void scegliPrestazione(int indice);
 
-    /// Up (-1) or down: the row is chosen with those before, and the next one too.
-    void scegli(int verso);
-    /// The row of a line is among those that were chosen to be copied.
-    bool scelta(int linea) const;
-    /// The chosen rows, or that of the line last entered, as text.
-    QString copia() const;
-    /// What would become of the rows of a text in front of the line last entered, and putting them in.
-    Incollate provaIncolla(const QString& testo) const;
-    void incolla(const QString& testo);
+    /// Rows that are chosen, copied and pasted.
+    AppuntiRighe& appunti() { return m_appunti; }
 
     DomandaStorico storico() const { return {.cliente = m_documento.recordcliente}; }
 
@@ -82,6 +75,7 @@ private:
     Rigap& riga(int linea) { return elemento(m_righe, m_finestra.riga(linea) - 1); }
     const Rigap& riga(int linea) const { return elemento(m_righe, m_finestra.riga(linea) - 1); }
     int rigaFuoco() const { return m_finestra.riga(m_lineafuoco); }
+    AppuntiRighe::Form perAppunti();
     void vaiARiga(int riga);
     void modificato();
     void vaiAllInizio() { m_fuoco = Cella{Campo::Data, m_lineafuoco}; }
@@ -91,11 +85,11 @@ private:
     Documento& m_documento;
     TabellaRighep m_righe = TabellaRighep(righeParcella);
     std::optional<TabellaRighep> m_riprese;
+    AppuntiRighe m_appunti{perAppunti()};
     QList<Prestazione> m_prestazioni;
     FinestraRighe m_finestra{linee, righeParcella - linee + 1};
     std::optional<Cella> m_fuoco;
-    int m_lineafuoco = 0;        ///< the line last entered
-    std::optional<int> m_ancora; ///< the row at which choosing began; the other end is that of the focus
+    int m_lineafuoco = 0; ///< the line last entered
     int m_edizione = 0;
     bool m_modificato = false; ///< something was typed since the lines were opened
 };

@@ -1,36 +1,10 @@
 #include "document/borftem.h"
 
-#include "common/numeri.h"
 #include "document/clienti.h"
 
 using namespace Qt::StringLiterals;
 
 namespace bor {
-
-namespace {
-
-/// A text of each row of a table, as the items of a list.
-template <class Tabella, class Testo>
-QStringList voci(const Tabella& tabella, Testo testo) {
-    QStringList testi;
-    for (const auto& riga : tabella)
-        testi.append(testo(riga).trimmed());
-    return testi;
-}
-
-QString testoRegime(const RigaAliquota& riga) {
-    QString testo = u"Iva"_s + riga.aliquota + u'%';
-    const auto aggiungi = [&testo](QStringView sigla, const QString& percento) {
-        if (valore(percento) != 0)
-            testo.append(u" - "_s).append(sigla).append(percento).append(u'%');
-    };
-    aggiungi(u"R.A.", riga.ritenuta);
-    aggiungi(u"C.I.", riga.contributoci);
-    aggiungi(u"C.P.", riga.contributocp);
-    return testo;
-}
-
-} // namespace
 
 Borftem::Borftem(Contesto& contesto, Documento& documento) : m_contesto(contesto), m_documento(documento) {}
 
@@ -146,29 +120,6 @@ void Borftem::lascia() {
             prendi(m_documento.recordcliente);
         m_contesto.navigatore.mostra(Schermo::Borftea);
     }
-}
-
-QStringList Borftem::pagamenti() const {
-    return voci(m_contesto.tabelle.tipopagamenti, [](const TipoPagamento& t) { return t.descrizione; });
-}
-
-QStringList Borftem::causali() const {
-    return voci(m_contesto.tabelle.vettori, [](const RigaTrasporto& r) { return r.causale; });
-}
-
-QStringList Borftem::aspetti() const {
-    return voci(m_contesto.tabelle.vettori, [](const RigaTrasporto& r) { return r.aspetto; });
-}
-
-QStringList Borftem::vettori() const {
-    return voci(m_contesto.tabelle.vettori, [](const RigaTrasporto& r) { return r.vettore[0]; });
-}
-
-QStringList Borftem::regimi() const {
-    QStringList testi;
-    for (int riga = 1; riga <= righeIva; ++riga)
-        testi.append(testoRegime(m_contesto.tabelle.aliquote[riga]));
-    return testi;
 }
 
 } // namespace bor

@@ -6,8 +6,7 @@
 #include "document/dato.h"
 #include "document/documento.h"
 #include "document/storico.h"
-
-#include <QStringList>
+#include "document/vocitestata.h"
 
 #include <utility>
 
@@ -70,12 +69,7 @@ public:
         cambiato(&dove);
     }
 
-    QStringList pagamenti() const;
-    QStringList causali() const;
-    QStringList aspetti() const;
-    QStringList vettori() const;
-    /// The twelve VAT regimes of a fee bill, with their withholding and contributions.
-    QStringList regimi() const;
+    VociTestata voci() const { return VociTestata(m_contesto.tabelle); }
 
 private:
     void cambiato(const void* dato);

@@ -3,9 +3,12 @@
 #include "archive/contesto.h"
 #include "common/numeri.h"
 #include "common/posti.h"
+#include "document/articoli.h"
 #include "document/avvisi.h"
+#include "document/testorighe.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -14,12 +17,7 @@ namespace bor {
 
 namespace {
 
-QString vocetassata(int riga, const RigaAliquota& r) {
-    QString voce = CodiceIva(riga).testo() + u" Iva "_s + r.aliquota.trimmed() + u'%';
-    if (valore(r.ritenuta) != 0.0)
-        voce += u" - Rit.Acconto "_s + r.ritenuta.trimmed() + u'%';
-    return voce;
-}
+using Campo = Borftex::Campo;
 
 /// The first row, from 1, that neither counts nor prints; 0 when all are in use.
 int primaLibera(const TabellaRighe& righe) {
@@ -31,10 +29,27 @@ int primaLibera(const TabellaRighe& righe) {
     return trovata == righe.end() ? 0 : postoDi(righe, trovata) + 1;
 }
 
+/// Price and discounts of a sale go into the row; the price becomes one with VAT, or without it, as those of
+/// the document are.
+void mettiVendita(RigheMerce& righe, int n, const VenditaStorica& vendita, const Contesto& contesto) {
+    // The price proposes a VAT code to a row that has none.
+    righe.cambia(n, Campo::Prezzo, testoDecimale(vendita.riga.prezzo));
+    const CodiceIva codice = codiceContato(righe.riga(n));
+    if (vendita.conIva != righe.scorporo() && codice.tassato()) {
+        const double conImposta = contesto.tabelle.aliquota(codice.numero()) + 100;
+        const double prezzo =
+            vendita.conIva ? vendita.riga.prezzo * 100 / conImposta : vendita.riga.prezzo * conImposta / 100;
+        righe.cambia(n, Campo::Prezzo, testoDecimale(contesto.valuta().arrotondaprezzo(prezzo)));
+    }
+    righe.cambia(n, Campo::Sc1, QString::number(vendita.riga.sconto1));
+    righe.cambia(n, Campo::Sc2, QString::number(vendita.riga.sconto2));
+}
+
 } // namespace
 
 Borftex::Borftex(Contesto& contesto, Documento& documento)
-    : m_contesto(contesto), m_documento(documento), m_righe(contesto, documento), m_articoli(contesto) {}
+    : m_contesto(contesto), m_documento(documento), m_righe(contesto, documento), m_appunti(perAppunti()),
+      m_articoli(contesto) {}
 
 void Borftex::attiva() {
     const Archivio& archivio = m_contesto.archivio;
@@ -53,19 +68,6 @@ void Borftex::attiva() {
     vaiA(Campo::Artic, 0);
 }
 
-QString Borftex::titolo() const {
-    return m_documento.notaCredito() ? u"Ristampa nota credito"_s : u"Ristampa fattura"_s;
-}
-
-QString Borftex::numfat() const {
-    return testoDecimale(valore(m_documento.estremi.numero.trimmed()));
-}
-
-QString Borftex::link() const {
-    const double nfile = m_documento.coppia.fte.nfile;
-    return nfile > 0 ? u"Link:"_s + testoDecimale(nfile) : QString();
-}
-
 QString Borftex::testo(Cella cella) const {
     if (cella.campo == Campo::Artic && cella.linea == m_lineafuoco && m_digitato)
         return *m_digitato;
@@ -74,37 +76,6 @@ QString Borftex::testo(Cella cella) const {
 
 QString Borftex::avviso(Cella cella) const {
     return m_errata == cella ? u"Articolo non esistente"_s : QString();
-}
-
-QString Borftex::totale(Totale quale) const {
-    const TotaliRighe& totali = m_righe.totali();
-    const Valuta valuta = m_contesto.valuta();
-    const auto importo = [&valuta](double x) {
-        return u' ' + (valuta.euro ? testoItaliano(x, 2) : valuta.importotesto(x));
-    };
-    switch (quale) {
-    case Totale::Imponibile:
-        return importo(totali.totimp);
-    case Totale::Complessivo:
-        return importo(totali.totale);
-    case Totale::Pezzi:
-        return u' ' + testoDecimale(totali.pezzi);
-    case Totale::AliquotaRitenuta:
-        return testoDecimale(totali.aliquotarit);
-    case Totale::Ritenuta:
-        return testoDecimale(totali.importorit);
-    }
-    return {};
-}
-
-QStringList Borftex::vociIva() const {
-    const Tabelle& tabelle = m_contesto.tabelle;
-    QStringList voci;
-    for (int i = 1; i <= righeIva; ++i)
-        voci.append(vocetassata(i, tabelle.aliquote[i]));
-    for (int i = 1; i <= righeIva; ++i)
-        voci.append(CodiceIva::diEsente(i).testo() + u' ' + tabelle.esenzioni[i].descrizione());
-    return voci;
 }
 
 std::optional<int> Borftex::listaIva() const {
@@ -133,7 +104,7 @@ std::optional<Borftex::Cella> Borftex::prendiFuoco() {
 
 void Borftex::scorri(int prima) {
     m_finestra.scorri(prima);
-    m_ancora.reset();
+    m_appunti.lascia();
     m_digitato.reset();
     m_errata.reset();
     m_ricerca.reset();
@@ -163,19 +134,50 @@ void Borftex::cambiaBarcode(bool acceso) {
     vaiA(Campo::Artic, m_lineafuoco);
 }
 
-void Borftex::apriLista() {
-    if (m_articoli.apri())
-        vaiA(Campo::Artic, m_lineafuoco);
+AppuntiRighe::Form Borftex::perAppunti() {
+    const auto perCodice = [this](const QString& codice) -> ArticoloTrovato {
+        const Archivio& archivio = m_contesto.archivio;
+        int recart = m_articoli.perCodice(codice);
+        if (recart == 0 && m_barcode)
+            recart = cercabarcode(archivio, codice);
+        return {recart, testoAggiuntivo(archivio, recart)};
+    };
+    return {
+        .righe = righeMerce,
+        .fuoco = [this] { return rigaFuoco(); },
+        // Whoever passes through the descriptions takes the rows their articles.
+        .vaiA = [this](int riga) { vaiARiga(Campo::Artic, riga); },
+        .testo =
+            [this](int prima, int ultima) {
+                const std::span righe(m_righe.tutte());
+                return testoRighe(righe.subspan(postoDaZero(prima - 1), postoDaZero(ultima - prima + 1)));
+            },
+        .prova =
+            [this, perCodice](int posto, const QString& testo) {
+                RigheMerce prova = m_righe;
+                return incollaMerce(prova, posto, testo, perCodice);
+            },
+        .metti =
+            [this, perCodice](int posto, const QString& testo) {
+                modificato();
+                return incollaMerce(m_righe, posto, testo, perCodice);
+            },
+    };
+}
+
+DomandaStorico Borftex::storico() const {
+    return {m_documento.recordcliente, m_righe.riga(rigaFuoco()).recart, m_documento.recordfattura};
+}
+
+void Borftex::prendi(const VenditaStorica& vendita) {
+    modificato();
+    mettiVendita(m_righe, rigaFuoco(), vendita, m_contesto);
+    vaiA(Campo::Prezzo, m_lineafuoco);
 }
 
 void Borftex::pagina(int verso) {
     scorri(m_finestra.pagina(verso));
     vaiA(Campo::Artic, m_lineafuoco);
-}
-
-void Borftex::indietro() {
-    if (!m_modificato || uscireSenzaRegistrare(m_contesto))
-        m_contesto.navigatore.mostra(Schermo::Borftea);
 }
 
 void Borftex::esegui(Comando comando) {
@@ -184,7 +186,9 @@ void Borftex::esegui(Comando comando) {
         m_righe.riporta();
         return m_contesto.navigatore.mostra(Schermo::Borftea);
     case Comando::Indietro:
-        return indietro();
+        if (!m_modificato || uscireSenzaRegistrare(m_contesto))
+            m_contesto.navigatore.mostra(Schermo::Borftea);
+        return;
     case Comando::InserisciRiga:
         modificato();
         m_righe.inserisci(rigaFuoco());
@@ -198,7 +202,9 @@ void Borftex::esegui(Comando comando) {
         m_righe.ordina();
         return vaiA(Campo::Artic, 0);
     case Comando::ApriLista:
-        return apriLista();
+        if (m_articoli.apri())
+            vaiA(Campo::Artic, m_lineafuoco);
+        return;
     case Comando::CercaDescrizione:
         return cercaDescrizione();
     case Comando::PaginaSu:

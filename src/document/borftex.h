@@ -1,15 +1,14 @@
 // The goods lines form: twelve lines on the 500 rows of a document, with the article list beside them.
 #pragma once
 
+#include "document/appuntirighe.h"
 #include "document/cella.h"
 #include "document/documento.h"
 #include "document/elencoarticoli.h"
 #include "document/finestrarighe.h"
-#include "document/incollarighe.h"
 #include "document/righemerce.h"
 #include "document/storico.h"
-
-#include <QStringList>
+#include "document/testimerce.h"
 
 #include <optional>
 
@@ -41,8 +40,6 @@ public:
     };
     /// The first two are `prezz(0)` and `prezz(1)`.
     enum class Opzione { Listino1, Listino2, Scorporo, Barcode };
-    /// What stands under the lines.
-    enum class Totale { Imponibile, Complessivo, Pezzi, AliquotaRitenuta, Ritenuta };
 
     Borftex(Contesto& contesto, Documento& documento);
 
@@ -53,17 +50,13 @@ public:
     void riprendi(TabellaRighe righe) { m_righe.riprendi(std::move(righe)); }
 
     // What the screen shows.
-    QString titolo() const;
-    QString numfat() const; ///< number of the document
-    QString link() const;   ///< number of the document's detail-lines file; empty for none
+    const TestiMerce& testi() const { return m_testi; }
     const FinestraRighe& finestra() const { return m_finestra; } ///< `VScroll1`
     const RigheMerce& righe() const { return m_righe; }
     QString testo(Cella cella) const;
     /// Why a box is marked; empty for one that nothing is wrong with.
     QString avviso(Cella cella) const;
-    QString totale(Totale quale) const;              ///< the first three have a blank in front
     const QString& listx() const { return m_listx; } ///< status line: the article of the line last entered
-    QStringList vociIva() const;                     ///< items of `Combo1`; item k is code k + 1
     /// `Combo1`: position of the code of the line with the focus; nothing while the list is closed.
     std::optional<int> listaIva() const;
     const ElencoArticoli& articoli() const { return m_articoli; }
@@ -82,15 +75,8 @@ public:
     void cambiaOpzione(Opzione quale, bool accesa);
     void esegui(Comando comando);
 
-    /// Up (-1) or down: the row is chosen with those before, and the next one too.
-    void scegli(int verso);
-    /// The row of a line is among those that were chosen to be copied.
-    bool scelta(int linea) const;
-    /// The chosen rows, or that of the line last entered, as text.
-    QString copia() const;
-    /// What would become of the rows of a text in front of the line last entered, and putting them in.
-    Incollate provaIncolla(const QString& testo);
-    void incolla(const QString& testo);
+    /// Rows that are chosen, copied and pasted.
+    AppuntiRighe& appunti() { return m_appunti; }
 
     /// The customer, and the article of the line last entered.
     DomandaStorico storico() const;
@@ -110,12 +96,9 @@ private:
     void vaiARiga(Campo campo, int riga);
     void prossimaLinea(int linea);
     void muovi(int verso);
-    TrovaArticolo perCodice();
+    AppuntiRighe::Form perAppunti();
     void pagina(int verso);
-    void indietro();
-    void apriLista();
     void cambiaBarcode(bool acceso);
-
     void cambiaArticolo(int linea, const QString& testo);
     void invioArticolo(int linea);
     void cercaDescrizione();
@@ -127,6 +110,8 @@ private:
     Contesto& m_contesto;
     Documento& m_documento;
     RigheMerce m_righe;
+    TestiMerce m_testi{m_contesto, m_documento, m_righe};
+    AppuntiRighe m_appunti;
     ElencoArticoli m_articoli;
     FinestraRighe m_finestra{linee, righeMerce - linee + 1};
     QString m_listx;
@@ -135,7 +120,6 @@ private:
     std::optional<Cella> m_errata;    ///< the box whose article does not exist
     std::optional<Ricerca> m_ricerca; ///< of a description, while F1 goes on with it
     int m_lineafuoco = 0;             ///< the line last entered
-    std::optional<int> m_ancora;      ///< the row at which choosing began; the other end is that of the focus
     Campo m_campofuoco{};             ///< the box last entered
     bool m_listaIva = false;
     bool m_barcode = false;

@@ -1,14 +1,33 @@
 // The road of the keys through the lines, and what a visit to a box does.
 #include "archive/contesto.h"
+#include "document/articoli.h"
 #include "document/borftex.h"
 
 using namespace Qt::StringLiterals;
 
 namespace bor {
 
+namespace {
+
+/// The row of the last additional text of the row's article that still stands below it; the row itself for
+/// none.
+int ultimaDelTesto(const RigheMerce& righe, int n, const Archivio& archivio) {
+    const qsizetype testi = testoAggiuntivo(archivio, righe.riga(n).recart).size();
+    const auto commento = [&righe](int m) {
+        const Riga& r = righe.riga(m);
+        return r.recart == 0 && r.quantita == 0.0 && r.prezzo == 0.0 && !r.descrizione.isEmpty();
+    };
+    int ultima = n;
+    while (ultima - n < testi && ultima < righeMerce && commento(ultima + 1))
+        ++ultima;
+    return ultima;
+}
+
+} // namespace
+
 void Borftex::entra(Cella cella) {
     if (cella != Cella{m_campofuoco, m_lineafuoco})
-        m_ancora.reset();
+        m_appunti.lascia();
     if (cella.linea != m_lineafuoco) {
         m_digitato.reset();
         m_ricerca.reset();
@@ -69,7 +88,7 @@ void Borftex::invio(Cella cella) {
 }
 
 void Borftex::prossimaLinea(int linea) {
-    const int prossima = m_righe.ultimaDelTesto(riga(linea)) + 1;
+    const int prossima = ultimaDelTesto(m_righe, riga(linea), m_contesto.archivio) + 1;
     // Enter brings row 490 into view; the last ten rows are for the scroll bar.
     if (m_finestra.contiene(prossima - m_finestra.prima()) || prossima <= m_finestra.ultima() + 1)
         vaiARiga(Campo::Artic, prossima);
@@ -82,10 +101,8 @@ void Borftex::muovi(int verso) {
 }
 
 void Borftex::vaiARiga(Campo campo, int riga) {
-    if (riga < m_finestra.prima())
-        scorri(riga);
-    else if (riga >= m_finestra.prima() + linee)
-        scorri(riga - linee + 1);
+    if (const int prima = m_finestra.primaCon(riga); prima != m_finestra.prima())
+        scorri(prima);
     const Cella cella{campo, riga - m_finestra.prima()};
     // The box may have the focus already, and show another row now.
     entra(cella);
@@ -94,7 +111,7 @@ void Borftex::vaiARiga(Campo campo, int riga) {
 
 void Borftex::modificato() {
     m_modificato = true;
-    m_ancora.reset();
+    m_appunti.lascia();
     m_digitato.reset();
     m_ricerca.reset();
 }

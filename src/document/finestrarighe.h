@@ -18,6 +18,8 @@ public:
     int riga(int linea) const { return m_prima + linea; }
     bool contiene(int linea) const { return linea >= 0 && linea < m_linee; }
 
+    /// The position nearest to the present one that has the row in view.
+    int primaCon(int riga) const { return std::clamp(m_prima, riga - m_linee + 1, riga); }
     /// The first row of the page before (-1) or after (1); it may lie beyond either end.
     int pagina(int verso) const { return m_prima + verso * m_linee; }
     /// A position beyond either end counts for the end.

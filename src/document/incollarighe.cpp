@@ -126,8 +126,7 @@ private:
         RigaLetta letta(celle, m_linea + 1);
         if (m_linea == 0 && intestazione(celle, didascalie))
             return letta.fuori(testata);
-        const int recart = celle.front().isEmpty() ? 0 : m_articolo(celle.front());
-        const QStringList testi = m_righe.testiDi(recart);
+        const auto [recart, testi] = celle.front().isEmpty() ? ArticoloTrovato() : m_articolo(celle.front());
         if (!m_righe.apri(m_posto, 1 + quantiIn(testi)))
             return letta.fuori(pieno);
         const int riga = m_posto;

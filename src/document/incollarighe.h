@@ -32,8 +32,13 @@ struct Incollate {
     bool conRilievi() const;
 };
 
-/// `art` record of a code as it is on file, case aside; 0 for none.
-using TrovaArticolo = std::function<int(const QString& codice)>;
+struct ArticoloTrovato {
+    int recart = 0;    ///< `art` record; 0 for none
+    QStringList testi; ///< the lines of text that go with it
+};
+
+/// The article of a code as it is on file, case aside.
+using TrovaArticolo = std::function<ArticoloTrovato(const QString& codice)>;
 
 /// Inserts in front of row `posto`, counted from 1; rows in use that would not fit any more keep others out.
 Incollate incollaMerce(RigheMerce& righe, int posto, const QString& testo, const TrovaArticolo& articolo);

@@ -7,7 +7,7 @@
 #include "document/documento.h"
 #include "document/totaliriga.h"
 
-#include <QStringList>
+#include <QString>
 
 #include <optional>
 #include <utility>
@@ -15,7 +15,6 @@
 namespace bor {
 
 struct Contesto;
-struct RigaVenduta;
 
 /// Rows count from 1 to 500.
 class RigheMerce {
@@ -63,14 +62,6 @@ public:
 
     /// Puts an article into a row and its additional text below. False when there is no such article.
     bool metti(int n, int recart, Da da);
-    /// Price and discounts of a sale go into the row; the price becomes one with VAT, or without it, as those
-    /// of the document are.
-    void prendi(int n, const RigaVenduta& vendita, bool conIva);
-    /// The row of the last additional text of the row's article that still stands below it; the row itself
-    /// for none.
-    int ultimaDelTesto(int n) const;
-    /// The lines of text that go with an article, without the empty ones; none for record 0.
-    QStringList testiDi(int recart) const;
     /// What the status line says of the row's article; empty for a row without one.
     QString stato(int n);
 

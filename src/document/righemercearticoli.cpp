@@ -4,7 +4,6 @@
 #include "common/posti.h"
 #include "document/articoli.h"
 #include "document/defaultcliente.h"
-#include "document/indicestorico.h"
 #include "document/righemerce.h"
 
 using namespace Qt::StringLiterals;
@@ -17,24 +16,7 @@ QString pulito(QByteArrayView campo) {
     return puliscitesto(daCp1252(campo));
 }
 
-/// The lines of text that go with an article, without the empty ones.
-QStringList testoAggiuntivo(const Archivio& archivio, int recart) {
-    const Prx prx = archivio.prx.leggi(recart);
-    QStringList testi;
-    if (prx.marca != Prx::marcaValida)
-        return testi;
-    for (const auto& campo : prx.riga) {
-        if (const QString testo = pulito(campo.raw()); !testo.isEmpty())
-            testi.append(testo);
-    }
-    return testi;
-}
-
 } // namespace
-
-QStringList RigheMerce::testiDi(int recart) const {
-    return recart > 0 ? testoAggiuntivo(m_contesto.archivio, recart) : QStringList();
-}
 
 bool RigheMerce::metti(int n, int recart, Da da) {
     if (!leggiarticolo(m_contesto.archivio, recart, m_articolo))
@@ -63,19 +45,6 @@ double RigheMerce::prezzoListino(const Riga& r, Da da) const {
     return m_contesto.valuta().arrotondaprezzo(prezzo * (aliquota + 100) / 100);
 }
 
-void RigheMerce::prendi(int n, const RigaVenduta& vendita, bool conIva) {
-    // The price proposes a VAT code to a row that has none.
-    cambia(n, Campo::Prezzo, testoDecimale(vendita.prezzo));
-    const CodiceIva codice = codiceContato(riga(n));
-    if (conIva != scorporo() && codice.tassato()) {
-        const double conImposta = m_contesto.tabelle.aliquota(codice.numero()) + 100;
-        const double prezzo = conIva ? vendita.prezzo * 100 / conImposta : vendita.prezzo * conImposta / 100;
-        cambia(n, Campo::Prezzo, testoDecimale(m_contesto.valuta().arrotondaprezzo(prezzo)));
-    }
-    cambia(n, Campo::Sc1, QString::number(vendita.sconto1));
-    cambia(n, Campo::Sc2, QString::number(vendita.sconto2));
-}
-
 void RigheMerce::mettiTestoAggiuntivo(int n, int recart) {
     std::size_t posto = postoDaZero(n - 1);
     for (const QString& testo : testoAggiuntivo(m_contesto.archivio, recart)) {
@@ -90,20 +59,6 @@ void RigheMerce::mettiTestoAggiuntivo(int n, int recart) {
         commento.descrizione = testo;
         m_righe[posto] = commento;
     }
-}
-
-int RigheMerce::ultimaDelTesto(int n) const {
-    if (riga(n).recart == 0)
-        return n;
-    const qsizetype testi = testoAggiuntivo(m_contesto.archivio, riga(n).recart).size();
-    const auto commento = [this](int m) {
-        const Riga& r = riga(m);
-        return r.recart == 0 && r.quantita == 0.0 && r.prezzo == 0.0 && !r.descrizione.isEmpty();
-    };
-    int ultima = n;
-    while (ultima - n < testi && ultima < righeMerce && commento(ultima + 1))
-        ++ultima;
-    return ultima;
 }
 
 QString RigheMerce::stato(int n) {

@@ -60,7 +60,7 @@ void Borftel::componi() {
     m_prova = m_generatore->prova(m_registrato, m_dati);
     controllaCartella();
     m_uscita = bor::uscita(m_prova.fattura);
-    spartisci();
+    m_rilievi = RilieviFel(m_prova.rilievi);
     ++m_edizione;
 }
 
@@ -73,25 +73,6 @@ void Borftel::controllaCartella() {
              .motivo = u"La cartella dei file non c'è."_s,
              .rimedio =
                  u"Crearla, o indicarne un'altra nei quadri azienda del \"Kit Fatture elettroniche PA\"."_s});
-}
-
-/// Gives each finding to its place.
-void Borftel::spartisci() {
-    constexpr int perPosto = 3;
-    PerPosto<int> quanti;
-    m_testi = {};
-    m_gravi = {};
-    for (const Rilievo& rilievo : m_prova.rilievi) {
-        const PostoFel posto = postoDi(rilievo);
-        m_gravi[posto] = m_gravi[posto] || errore(rilievo);
-        if (++quanti[posto] > perPosto)
-            continue;
-        QString& testo = m_testi[posto];
-        testo += (testo.isEmpty() ? QString() : u"\n"_s) + rilievoInBreve(rilievo);
-    }
-    for (std::size_t i = 0; i < numeroPostiFel; ++i)
-        if (const int altri = quanti.tutti[i] - perPosto; altri > 0)
-            m_testi.tutti[i] += altri == 1 ? u"\nE un altro."_s : u"\nE altri %1."_s.arg(altri);
 }
 
 void Borftel::esci() {
@@ -137,31 +118,6 @@ QString Borftel::codiceSenzaImposta(int codice) const {
     const RigaEsenzione& riga = m_contesto.tabelle.esenzioni[iva.riga()];
     const QString riferimento = riga.riferimento.trimmed();
     return iva.testo() + u' ' + (riferimento.isEmpty() ? riga.descrizione() : riferimento);
-}
-
-Borftel::Prospetto prospettoDi(PostoFel posto) {
-    using enum PostoFel;
-    switch (posto) {
-    case Righe:
-    case Riepilogo:
-        return Borftel::Prospetto::Righe;
-    case Iban:
-    case Pdf:
-    case Cassa:
-    case NaturaCi:
-    case Nature:
-    case Azienda:
-        return Borftel::Prospetto::Azienda;
-    default:
-        return Borftel::Prospetto::Documento;
-    }
-}
-
-bool Borftel::grave(Prospetto prospetto) const {
-    for (std::size_t i = 0; i < numeroPostiFel; ++i)
-        if (m_gravi.tutti[i] && prospettoDi(static_cast<PostoFel>(i)) == prospetto)
-            return true;
-    return false;
 }
 
 QString Borftel::esito() const {

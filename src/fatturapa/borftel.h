@@ -7,6 +7,7 @@
 #include "document/dato.h"
 #include "document/documento.h"
 #include "fatturapa/generafattura.h"
+#include "fatturapa/rilievifel.h"
 #include "fatturapa/uscitafel.h"
 
 #include <functional>
@@ -19,8 +20,7 @@ class RigheInSospeso;
 
 class Borftel {
 public:
-    /// The panels that share one place.
-    enum class Prospetto { Documento, Righe, Azienda };
+    using Prospetto = ProspettoFel;
 
     /// `cartellaPdf` tells the folder of the PDFs, a DOS path: the files lie beside them where the company
     /// names no folder of its own.
@@ -57,11 +57,7 @@ public:
     /// Grows with every composition.
     int edizione() const { return m_edizione; }
 
-    /// The findings at a place, one a line; empty for none.
-    QString rilievi(PostoFel posto) const { return m_testi[posto]; }
-    /// One of them is more than a hint.
-    bool grave(PostoFel posto) const { return m_gravi[posto]; }
-    bool grave(Prospetto prospetto) const;
+    const RilieviFel& rilievi() const { return m_rilievi; }
     /// Whether the invoice can go out, in a sentence.
     QString esito() const;
     /// What is on disk of it, in a sentence.
@@ -93,7 +89,6 @@ private:
     void rileggi();
     void componi();
     void controllaCartella();
-    void spartisci();
     void racconta(const EsitoFel& esito);
     bool chiedeNatura(int codice) const;
     bool usato(int codice) const;
@@ -108,16 +103,12 @@ private:
     DatiFel m_letti;                           ///< as stored
     ProvaFel m_prova;
     UscitaFel m_uscita;
-    PerPosto<QString> m_testi;
-    PerPosto<bool> m_gravi;
+    RilieviFel m_rilievi;
     FileDocumento m_suDisco = FileDocumento::Assente;
     Prospetto m_prospetto = Prospetto::Documento;
     std::optional<PostoFel> m_fuoco;
     std::size_t m_seguente = 0; ///< finding that `vaiAlRilievo` goes to next
     int m_edizione = 0;
 };
-
-/// The panel that has the place.
-Borftel::Prospetto prospettoDi(PostoFel posto);
 
 } // namespace bor

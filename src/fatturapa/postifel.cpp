@@ -49,6 +49,24 @@ QString nomePosto(PostoFel posto) {
     return nomi[static_cast<std::size_t>(posto)].toString();
 }
 
+ProspettoFel prospettoDi(PostoFel posto) {
+    using enum PostoFel;
+    switch (posto) {
+    case Righe:
+    case Riepilogo:
+        return ProspettoFel::Righe;
+    case Iban:
+    case Pdf:
+    case Cassa:
+    case NaturaCi:
+    case Nature:
+    case Azienda:
+        return ProspettoFel::Azienda;
+    default:
+        return ProspettoFel::Documento;
+    }
+}
+
 PostoFel postoDi(const Rilievo& rilievo) {
     const QString campo = campoDiMaschera(Versione::V123, rilievo.elemento);
     const auto nome = std::ranges::find(nomi, QStringView(campo));

@@ -39,6 +39,10 @@ enum class PostoFel {
     Azienda,
     File
 };
+
+/// The panels of the screen, which share one place.
+enum class ProspettoFel { Documento, Righe, Azienda };
+
 inline constexpr std::size_t numeroPostiFel = static_cast<std::size_t>(PostoFel::File) + 1;
 
 /// Something for each place.
@@ -52,6 +56,9 @@ struct PerPosto {
 
 /// Caption of the place on the screen.
 QString nomePosto(PostoFel posto);
+
+/// The panel that has the place.
+ProspettoFel prospettoDi(PostoFel posto);
 
 /// Beside which place the finding stands; the whole file where no other is its own.
 PostoFel postoDi(const Rilievo& rilievo);

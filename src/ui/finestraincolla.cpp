@@ -1,8 +1,13 @@
 #include "ui/finestraincolla.h"
 
 #include "common/posti.h"
+#include "document/testorighe.h"
+#include "ui/legami.h"
 
+#include <QClipboard>
 #include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -25,7 +30,41 @@ QString conto(const Incollate& incollate) {
         .arg(entrano);
 }
 
+/// At once where nothing in the rows is to be told.
+void incollaRighe(Legami& legami, AppuntiRighe& appunti, std::span<const ColonnaGriglia> colonne,
+                  QWidget* schermo) {
+    constexpr qsizetype moltoTesto = 2'000'000; // the rows of any document end long before
+    const QString testo = QGuiApplication::clipboard()->text().left(moltoTesto);
+    Incollate esito;
+    legami.esegui([&] { esito = appunti.prova(testo); });
+    const auto metti = [&legami, &appunti, testo] { legami.esegui([&] { appunti.incolla(testo); }); };
+    if (!esito.conRilievi())
+        return metti();
+    auto* finestra = new FinestraIncolla(std::move(esito), colonne, schermo);
+    QObject::connect(finestra, &QDialog::accepted, schermo, metti);
+    finestra->open();
+}
+
 } // namespace
+
+bool tastoRighe(const QKeyEvent& tasto, const QLineEdit& campo, Legami& legami, AppuntiRighe& appunti,
+                std::span<const ColonnaGriglia> colonne, QWidget* schermo) {
+    const bool maiuscole = (tasto.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier;
+    if (maiuscole && (tasto.key() == Qt::Key_Up || tasto.key() == Qt::Key_Down)) {
+        legami.esegui([&] { appunti.scegli(tasto.key() == Qt::Key_Up ? -1 : 1); });
+        return true;
+    }
+    if (tasto.matches(QKeySequence::Copy) &&
+        (campo.property(proprietaScelta).toBool() || !campo.hasSelectedText())) {
+        QGuiApplication::clipboard()->setText(appunti.copia());
+        return true;
+    }
+    if (tasto.matches(QKeySequence::Paste) && testoDiRighe(QGuiApplication::clipboard()->text())) {
+        incollaRighe(legami, appunti, colonne, schermo);
+        return true;
+    }
+    return false;
+}
 
 QList<TastoSchermo> tastiRighe() {
     return {{u"Maiusc+Su, Maiusc+Giù"_s, u"Sceglie più righe"_s},

@@ -2,20 +2,17 @@
 // the keys by which the screens with lines copy and paste rows.
 #pragma once
 
-#include "document/incollarighe.h"
-#include "document/testorighe.h"
+#include "document/appuntirighe.h"
 #include "ui/finestratasti.h"
 #include "ui/griglia.h"
 #include "ui/legami.h"
 
-#include <QClipboard>
 #include <QDialog>
-#include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 #include <span>
 
+class QKeyEvent;
 class QLabel;
 
 namespace bor {
@@ -35,44 +32,22 @@ private:
     QLabel* m_rilievi;
 };
 
+/// The style sheet draws a box by it.
+inline constexpr auto proprietaScelta = "scelta";
+
 /// What F12 says of the keys below.
 QList<TastoSchermo> tastiRighe();
 
-/// Puts the rows of the clipboard in front of the row that the operator is in, at once where nothing in them
-/// is to be told.
+/// Marks a box of a line while its row is chosen.
 template <class Form>
-void incollaRighe(Legami& legami, Form& form, std::span<const ColonnaGriglia> colonne, QWidget* schermo) {
-    constexpr qsizetype moltoTesto = 2'000'000; // the rows of any document end long before
-    const QString testo = QGuiApplication::clipboard()->text().left(moltoTesto);
-    Incollate esito;
-    legami.esegui([&] { esito = form.provaIncolla(testo); });
-    const auto metti = [&legami, &form, testo] { legami.esegui([&] { form.incolla(testo); }); };
-    if (!esito.conRilievi())
-        return metti();
-    auto* finestra = new FinestraIncolla(std::move(esito), colonne, schermo);
-    QObject::connect(finestra, &QDialog::accepted, schermo, metti);
-    finestra->open();
+void segnaScelta(QLineEdit* campo, Form& form, int linea) {
+    segna(campo, proprietaScelta, form.appunti().scelta(form.finestra().riga(linea)));
 }
 
 /// The keys that choose, copy and paste rows, typed in a box of the lines. False for one that is the box's
-/// own: selected text is copied as such, and a text of one cell is pasted into the box.
-template <class Form>
-bool tastoRighe(const QKeyEvent& tasto, const QLineEdit& campo, int linea, Legami& legami, Form& form,
-                std::span<const ColonnaGriglia> colonne, QWidget* schermo) {
-    const bool maiuscole = (tasto.modifiers() & ~Qt::KeypadModifier) == Qt::ShiftModifier;
-    if (maiuscole && (tasto.key() == Qt::Key_Up || tasto.key() == Qt::Key_Down)) {
-        legami.esegui([&] { form.scegli(tasto.key() == Qt::Key_Up ? -1 : 1); });
-        return true;
-    }
-    if (tasto.matches(QKeySequence::Copy) && (form.scelta(linea) || !campo.hasSelectedText())) {
-        QGuiApplication::clipboard()->setText(form.copia());
-        return true;
-    }
-    if (tasto.matches(QKeySequence::Paste) && testoDiRighe(QGuiApplication::clipboard()->text())) {
-        incollaRighe(legami, form, colonne, schermo);
-        return true;
-    }
-    return false;
-}
+/// own: selected text is copied as such, and a text of one cell is pasted into the box. What is to be told of
+/// the rows of the clipboard is told in a window of `schermo` before they are put in.
+bool tastoRighe(const QKeyEvent& tasto, const QLineEdit& campo, Legami& legami, AppuntiRighe& appunti,
+                std::span<const ColonnaGriglia> colonne, QWidget* schermo);
 
 } // namespace bor

@@ -172,8 +172,7 @@ QLineEdit* GrigliaBorftex::creaCampo(Cella cella) {
     } else {
         m_legami.testo(nuovo, leggi, [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
     }
-    nuovo->setProperty("linea", cella.linea);
-    m_legami.altro([this, nuovo, cella] { segna(nuovo, "scelta", m_form.scelta(cella.linea)); });
+    m_legami.altro([this, nuovo, cella] { segnaScelta(nuovo, m_form, cella.linea); });
     m_legami.segnala(nuovo, [this, cella] { return m_form.avviso(cella); });
     m_legami.entrato(nuovo, [this, cella] { m_form.entra(cella); });
     m_legami.lasciato(nuovo, [this, cella] { m_form.lascia(cella); });
@@ -203,7 +202,7 @@ void GrigliaBorftex::creaListaIva() {
 
 void GrigliaBorftex::caricaVociIva() {
     m_listaIva->clear();
-    m_listaIva->addItems(m_form.vociIva());
+    m_listaIva->addItems(m_form.testi().vociIva());
 }
 
 void GrigliaBorftex::aggiornaListaIva() {
@@ -243,8 +242,7 @@ bool GrigliaBorftex::eventFilter(QObject* oggetto, QEvent* evento) {
     const QString nome = oggetto->objectName();
     if (nome.startsWith(u"civ(") && m_form.listaIva() && tastoIva(tasto->key(), tasto->text()))
         return true;
-    const auto& campo = static_cast<QLineEdit&>(*oggetto);
-    if (tastoRighe(*tasto, campo, campo.property("linea").toInt(), m_legami, m_form, colonneIncolla,
+    if (tastoRighe(*tasto, static_cast<QLineEdit&>(*oggetto), m_legami, m_form.appunti(), colonneIncolla,
                    window()))
         return true;
     const auto comando = comandoDi(tasto->keyCombination());

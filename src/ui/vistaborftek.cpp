@@ -110,9 +110,8 @@ void VistaBorftek::lega(Borftek::Cella cella, QLineEdit* casella) {
     legami.testo(
         casella, [this, cella] { return m_form.testo(cella); },
         [this, cella](const QString& testo) { m_form.cambia(cella, testo); });
-    casella->setProperty("linea", cella.linea);
     casella->installEventFilter(this);
-    legami.altro([this, casella, cella] { segna(casella, "scelta", m_form.scelta(cella.linea)); });
+    legami.altro([this, casella, cella] { segnaScelta(casella, m_form, cella.linea); });
     legami.segnala(casella, [this, cella] { return m_form.avviso(cella); });
     legami.entrato(casella, [this, cella] { m_form.entra(cella); });
     invio.passo(casella, [this, cella] { legami.esegui([&] { m_form.invio(cella); }); });
@@ -194,9 +193,8 @@ QString VistaBorftek::titolo() const {
 bool VistaBorftek::eventFilter(QObject* oggetto, QEvent* evento) {
     if (evento->type() != QEvent::KeyPress)
         return Vista::eventFilter(oggetto, evento);
-    const auto& campo = static_cast<QLineEdit&>(*oggetto);
-    return tastoRighe(static_cast<const QKeyEvent&>(*evento), campo, campo.property("linea").toInt(), legami,
-                      m_form, colonneIncolla, this);
+    return tastoRighe(static_cast<const QKeyEvent&>(*evento), static_cast<QLineEdit&>(*oggetto), legami,
+                      m_form.appunti(), colonneIncolla, this);
 }
 
 void VistaBorftek::keyPressEvent(QKeyEvent* evento) {

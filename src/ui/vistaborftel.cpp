@@ -59,7 +59,8 @@ QWidget* VistaBorftel::creaScelta() {
         auto* bottone = barra->prospetto(
             nome, testo, tasto, [this, prospetto] { return m_form.prospetto() == prospetto; },
             [this, prospetto] { mostraProspetto(prospetto); });
-        legami.altro([this, bottone, prospetto] { segna(bottone, "avviso", m_form.grave(prospetto)); });
+        legami.altro(
+            [this, bottone, prospetto] { segna(bottone, "avviso", m_form.rilievi().grave(prospetto)); });
     };
     aggiungi(u"prospetto(0)"_s, u"Destinatario e documento"_s, u"Ctrl+1"_s, Prospetto::Documento);
     aggiungi(u"prospetto(1)"_s, u"Righe e riepilogo"_s, u"Ctrl+2"_s, Prospetto::Righe);

@@ -125,14 +125,14 @@ QLabel* VistaBorftel::rilievi(PostoFel posto) {
     etichetta->setWordWrap(true);
     etichetta->hide();
     legami.altro([this, etichetta, posto] {
-        const QString testo = m_form.rilievi(posto);
+        const QString testo = m_form.rilievi().testo(posto);
         // Nothing moves under the fingers of who is typing: a new finding waits until the field is left.
         if (etichetta->isHidden() && siScriveIn(posto))
             return;
         etichetta->setText(testo);
         etichetta->setVisible(!testo.isEmpty());
-        segna(etichetta, "avviso", m_form.grave(posto));
-        segna(etichetta, "consiglio", !m_form.grave(posto));
+        segna(etichetta, "avviso", m_form.rilievi().grave(posto));
+        segna(etichetta, "consiglio", !m_form.rilievi().grave(posto));
         if (QWidget* campo = m_posti[posto])
             campo->setAccessibleDescription(testo);
     });

@@ -124,7 +124,7 @@ QWidget* VistaBorftem::creaDatiCommerciali(Percorso& percorso) {
               campo(percorso, text2(15), recapiti, 15, &DatiCliente::telefono, 2)});
     riga(griglia, 5, u"E Mail"_s, campo(percorso, text2(16), u"E Mail"_s, 36, &DatiCliente::email));
     riga(griglia, 6, u"Vettore"_s,
-         lista(percorso, u"Combo4"_s, u"Vettore"_s, m_form.vettori(),
+         lista(percorso, u"Combo4"_s, u"Vettore"_s, m_form.voci().vettori,
                {[this] { return m_form.vettore(); }, [this](int i) { m_form.cambiaVettore(i); }}));
     const QString usuale = u"Vettore usuale"_s;
     riga(griglia, 7, usuale, campo(percorso, text2(17), usuale, 40, &DatiCliente::vettore, 0));
@@ -148,7 +148,7 @@ QWidget* VistaBorftem::creaContabili() {
     auto* griglia = grigliaIn(gruppo);
     Percorso& passi = percorso(RiquadroTestata::Contabili);
     riga(griglia, 0, u"Tipo pagamento"_s,
-         lista(passi, u"Combo1"_s, u"Tipo pagamento"_s, m_form.pagamenti(),
+         lista(passi, u"Combo1"_s, u"Tipo pagamento"_s, m_form.voci().pagamenti,
                legame(m_form, &DatiCliente::pagamento)));
     const QString banca = u"Banca appoggio"_s;
     constexpr int caratteriIban = 27; // one more than the customer's record holds
@@ -168,10 +168,10 @@ QWidget* VistaBorftem::creaSpedizione() {
     auto* griglia = grigliaIn(gruppo);
     Percorso& passi = percorso(RiquadroTestata::Spedizione);
     riga(griglia, 0, u"Causale trasporto"_s,
-         lista(passi, u"Combo3"_s, u"Causale trasporto"_s, m_form.causali(),
+         lista(passi, u"Combo3"_s, u"Causale trasporto"_s, m_form.voci().causali,
                legame(m_form, &Trasporto::causale)));
     riga(griglia, 1, u"Aspetto dei beni"_s,
-         lista(passi, u"Combo2"_s, u"Aspetto dei beni"_s, m_form.aspetti(),
+         lista(passi, u"Combo2"_s, u"Aspetto dei beni"_s, m_form.voci().aspetti,
                legame(m_form, &Trasporto::aspetto)));
     riga(griglia, 2, u"DDT"_s, campo(passi, u"text3(0)"_s, u"DDT"_s, 120, &Trasporto::ddt));
     riga(griglia, 3, u"Ordine"_s, campo(passi, u"text3(1)"_s, u"Ordine"_s, 40, &Trasporto::ordine));
@@ -213,8 +213,9 @@ QWidget* VistaBorftem::creaPratica() {
     auto* gruppo = riquadro(u"Frame5"_s, u"Dati inerenti la fatturazione"_s, RiquadroTestata::Pratica);
     auto* griglia = grigliaIn(gruppo);
     Percorso& passi = percorso(RiquadroTestata::Pratica);
+    const QStringList regimi = m_form.voci().regimi;
     const auto regime = [&](int numero, const QString& nome, const QString& testo, int Pratica::*dato) {
-        riga(griglia, numero, testo, lista(passi, nome, testo, m_form.regimi(), legame(m_form, dato)));
+        riga(griglia, numero, testo, lista(passi, nome, testo, regimi, legame(m_form, dato)));
     };
     regime(0, u"ivaant"_s, u"Regime iva anticipazioni"_s, &Pratica::ivaant);
     regime(1, u"ivaspe"_s, u"Regime iva spese"_s, &Pratica::ivaspe);

@@ -108,11 +108,11 @@ QWidget* VistaBorftex::creaOpzioni() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(14);
     const auto numfat = valoreInVista(u"numfat"_s, u"Documento numero"_s);
-    legami.etichetta(numfat, [this] { return m_form.numfat(); });
+    legami.etichetta(numfat, [this] { return m_form.testi().numfat(); });
     layout->addWidget(conDidascalia(u"Documento numero"_s, numfat));
     auto* link = new QLabel;
     link->setObjectName(u"link"_s);
-    legami.etichetta(link, [this] { return m_form.link(); });
+    legami.etichetta(link, [this] { return m_form.testi().link(); });
     layout->addWidget(link);
     layout->molla();
     const auto opzione = [&](QAbstractButton* bottone, const QString& nome, Opzione quale) {
@@ -159,10 +159,10 @@ QWidget* VistaBorftex::creaTotali() {
     auto* barra = new QWidget;
     auto* layout = new Flusso(barra);
     layout->setContentsMargins(0, 0, 0, 0);
-    using Totale = Borftex::Totale;
+    using Totale = TestiMerce::Totale;
     const auto voce = [&](const QString& testo, const QString& nome, Totale quale) {
         auto* etichetta = valoreInVista(nome, testo);
-        legami.etichetta(etichetta, [this, quale] { return m_form.totale(quale); });
+        legami.etichetta(etichetta, [this, quale] { return m_form.testi().totale(quale); });
         layout->addWidget(conDidascalia(testo, etichetta));
         layout->spazio(18);
     };
@@ -212,7 +212,7 @@ void VistaBorftex::lascia() {
 }
 
 QString VistaBorftex::titolo() const {
-    return m_form.titolo();
+    return m_form.testi().titolo();
 }
 
 void VistaBorftex::aggiornaLista() {

@@ -131,16 +131,17 @@ TEST_F(HeadForm, VettoreDallaRigaDellaCausale) {
     documento.testata.trasporto.causale = 1;
     form.cambiaVettore(7);
     EXPECT_EQ(documento.testata.cliente.vettore, (std::array{u"Corriere"_s, u"b"_s, u""_s}));
-    EXPECT_EQ(form.causali()[1] + form.aspetti()[1] + form.vettori()[1], u"venditascatoleCorriere");
-    EXPECT_EQ(form.vettori().size(), 40);
+    EXPECT_EQ(form.voci().causali[1] + form.voci().aspetti[1] + form.voci().vettori[1],
+              u"venditascatoleCorriere");
+    EXPECT_EQ(form.voci().vettori.size(), 40);
 }
 
 TEST_F(HeadForm, RegimiDellaParcella) {
     contesto.tabelle.aliquote[1] = {u"22"_s, u"20"_s, u"0"_s, u"4"_s};
     contesto.tabelle.aliquote[12] = {u"4"_s, u""_s, u"2"_s, u""_s};
-    EXPECT_EQ(form.regimi().size(), 12);
-    EXPECT_EQ(form.regimi().front(), u"Iva22% - R.A.20% - C.P.4%");
-    EXPECT_EQ(form.regimi().back(), u"Iva4% - C.I.2%");
+    EXPECT_EQ(form.voci().regimi.size(), 12);
+    EXPECT_EQ(form.voci().regimi.front(), u"Iva22% - R.A.20% - C.P.4%");
+    EXPECT_EQ(form.voci().regimi.back(), u"Iva4% - C.I.2%");
 }
 
 } // namespace

@@ -14,7 +14,7 @@ using Campo = Borftex::Campo;
 using Cella = Borftex::Cella;
 using Comando = Borftex::Comando;
 using Opzione = Borftex::Opzione;
-using Totale = Borftex::Totale;
+using Totale = TestiMerce::Totale;
 
 class Righe : public testing::Test {
 protected:
@@ -37,6 +37,15 @@ protected:
         Cli c = contesto.archivio.cli.leggi(1);
         c.regimeiva = static_cast<std::int16_t>(regimeiva);
         contesto.archivio.cli.scrivi(1, c);
+    }
+    /// Of the first article: in its first line and in its fifth one.
+    Prx mettiTesto(QStringView primo) {
+        Prx prx = vuoto<Prx>();
+        prx.riga[0].set(primo);
+        prx.riga[4].set(u"a norma");
+        prx.marca = Prx::marcaValida;
+        contesto.archivio.prx.scrivi(1, prx);
+        return prx;
     }
     void scrivi(Campo campo, int r, const QString& testo) {
         form.entra({campo, r});
@@ -63,8 +72,8 @@ protected:
 
 TEST_F(Righe, LeVociEsentiFinisconoConLaDescrizione) {
     contesto.tabelle.esenzioni[4].testo = u"Esente art. 10"_s.leftJustified(100) + u'3';
-    EXPECT_EQ(form.vociIva()[15], u"16 Esente art. 10"_s);
-    EXPECT_EQ(form.vociIva()[14], u"15 Esente art.10"_s);
+    EXPECT_EQ(form.testi().vociIva()[15], u"16 Esente art. 10"_s);
+    EXPECT_EQ(form.testi().vociIva()[14], u"15 Esente art.10"_s);
 }
 
 TEST_F(Righe, ArticoloRiempieLaRigaEPortaAllaQuantita) {
@@ -135,11 +144,7 @@ TEST_F(Righe, ListinoScorporoERegimeDelCliente) {
 }
 
 TEST_F(Righe, TestoAggiuntivoSottoLArticolo_NonOltreLaRiga500) {
-    Prx prx = vuoto<Prx>();
-    prx.riga[0].set(u" zincata ");
-    prx.riga[4].set(u"a norma");
-    prx.marca = Prx::marcaValida;
-    contesto.archivio.prx.scrivi(1, prx);
+    Prx prx = mettiTesto(u" zincata ");
     ddd(2) = {1, u"S2"_s, u"X"_s, u"vecchia"_s, u"kg"_s, 1, 2, 3, 4, 5, 0};
     form.attiva();
     articolo(0, u"VITE"_s);
@@ -178,7 +183,7 @@ TEST_F(Righe, VisiteProposteEDefault) {
     form.entra({Campo::Sc1, 0});
     EXPECT_EQ(form.testo({Campo::Sc1, 0}), u"10"_s);
     EXPECT_EQ(form.testo({Campo::Sc2, 0}), u""_s);
-    EXPECT_EQ(form.totale(Totale::Imponibile), u" 90,00"_s);
+    EXPECT_EQ(form.testi().totale(Totale::Imponibile), u" 90,00"_s);
     form.entra({Campo::Ds, 0});
     EXPECT_EQ(riga(0).recart, 0);
     EXPECT_EQ(form.testo({Campo::Artic, 0}), u""_s);
@@ -192,9 +197,10 @@ TEST_F(Righe, VisiteProposteEDefault) {
     form.scegliIva(14);
     EXPECT_EQ(riga(1).iva, 15);
     EXPECT_EQ(form.prendiFuoco(), (Cella{Campo::Prezzo, 1}));
-    EXPECT_EQ(form.vociIva().mid(0, 2), (QStringList{u"01 Iva 22%"_s, u"02 Iva 10% - Rit.Acconto 20%"_s}));
-    EXPECT_EQ(form.vociIva().value(14), u"15 Esente art.10"_s);
-    EXPECT_EQ(form.vociIva().size(), 24);
+    EXPECT_EQ(form.testi().vociIva().mid(0, 2),
+              (QStringList{u"01 Iva 22%"_s, u"02 Iva 10% - Rit.Acconto 20%"_s}));
+    EXPECT_EQ(form.testi().vociIva().value(14), u"15 Esente art.10"_s);
+    EXPECT_EQ(form.testi().vociIva().size(), 24);
 }
 
 TEST_F(Righe, CercaPerDescrizioneConF1) {
@@ -220,7 +226,7 @@ TEST_F(Righe, InserisceEliminaERiordinaComeLaSuite) {
     form.esegui(Comando::InserisciRiga);
     EXPECT_EQ(codici(3), (QStringList{u"C"_s, u""_s, u"B"_s}));
     EXPECT_EQ(riga(1).codice2 + riga(2).codice2, u"S2S2"_s);
-    EXPECT_EQ(form.totale(Totale::Pezzi), u" 6"_s);
+    EXPECT_EQ(form.testi().totale(Totale::Pezzi), u" 6"_s);
     form.esegui(Comando::EliminaRiga);
     EXPECT_EQ(codici(6), codiciDocumento);
     form.esegui(Comando::Riordina);
@@ -239,7 +245,8 @@ TEST_F(Righe, ConfermaPortaRigheETotaliNelDocumento_IndietroNo) {
     EXPECT_EQ(documento.ddd[0], Riga());
     EXPECT_EQ(sommaIva(documento.coppia, VoceIva::Imponibile), 0.0);
     scrivi(Campo::Ds, 1, u"  nota  "_s);
-    EXPECT_EQ(form.totale(Totale::AliquotaRitenuta) + u' ' + form.totale(Totale::Ritenuta), u"20 6"_s);
+    EXPECT_EQ(form.testi().totale(Totale::AliquotaRitenuta) + u' ' + form.testi().totale(Totale::Ritenuta),
+              u"20 6"_s);
     form.esegui(Comando::Conferma);
     EXPECT_EQ(documento.ddd[0].quantita, 3.0);
     EXPECT_EQ(documento.ddd[1].descrizione, u"nota"_s);
@@ -290,11 +297,7 @@ TEST_F(Righe, LoScorporoArrivaConLaConferma_IlLettoreRestaPerTutteLeVisite) {
 }
 
 TEST_F(Righe, InvioDopoLUltimoTestoAggiuntivo) {
-    Prx prx = vuoto<Prx>();
-    prx.riga[0].set(u"zincata");
-    prx.riga[4].set(u"a norma");
-    prx.marca = Prx::marcaValida;
-    contesto.archivio.prx.scrivi(1, prx);
+    mettiTesto(u"zincata");
     form.attiva();
     articolo(0, u"VITE"_s);
     form.invio({Campo::Prezzo, 0});

@@ -74,7 +74,7 @@ protected:
     const Riga& riga(int n) const { return form->righe().riga(n); }
     QString rilievi(const QString& testo) {
         QStringList tutti;
-        for (const RigaIncollata& r : form->provaIncolla(testo).righe)
+        for (const RigaIncollata& r : form->appunti().prova(testo).righe)
             tutti.append(u"%1:%2:%3"_s.arg(r.linea).arg(r.dentro ? u"si"_s : u"no"_s, r.rilievi.join(u'/')));
         return tutti.join(u'|');
     }
@@ -86,7 +86,7 @@ protected:
 };
 
 TEST_F(IncollaTest, LeRigheCopiateTornanoUgualiColLoroArticolo) {
-    form->incolla(u"VITE10\t\t\t3\nCodice no\tMano d'opera\th\t1,5\t10\t\t1.042,50\t02\n"_s);
+    form->appunti().incolla(u"VITE10\t\t\t3\nCodice no\tMano d'opera\th\t1,5\t10\t\t1.042,50\t02\n"_s);
     EXPECT_EQ(riga(1).recart, 2);
     EXPECT_EQ(riga(1).descrizione, u"Vite lunga");
     EXPECT_EQ(riga(1).prezzo, 5);
@@ -101,15 +101,15 @@ TEST_F(IncollaTest, LeRigheCopiateTornanoUgualiColLoroArticolo) {
                              .prezzo = 1042.5}));
     // Up from the row behind them, and put in once more in front of the first.
     form->entra({Borftex::Campo::Artic, 2});
-    form->scegli(-1);
-    form->scegli(-1);
-    EXPECT_TRUE(form->scelta(0) && form->scelta(2) && !form->scelta(3));
-    const QString copia = form->copia();
+    form->appunti().scegli(-1);
+    form->appunti().scegli(-1);
+    EXPECT_TRUE(form->appunti().scelta(1) && form->appunti().scelta(3) && !form->appunti().scelta(4));
+    const QString copia = form->appunti().copia();
     EXPECT_EQ(copia, u"VITE10\tVite lunga\tpz\t3\t7\t\t5\t13\n\tAcciaio inox\t\t\t\t\t\t\n"
                      "\tMano d'opera\th\t1,5\t10\t\t1042,5\t02\n");
-    EXPECT_FALSE(form->provaIncolla(copia).conRilievi());
-    form->incolla(copia);
-    EXPECT_FALSE(form->scelta(0));
+    EXPECT_FALSE(form->appunti().prova(copia).conRilievi());
+    form->appunti().incolla(copia);
+    EXPECT_FALSE(form->appunti().scelta(1));
     for (int n = 1; n <= 3; ++n)
         EXPECT_EQ(riga(n), riga(n + 3)) << n;
     EXPECT_EQ(riga(7), Riga());
@@ -130,7 +130,7 @@ TEST_F(IncollaTest, CiòCheNonSiCapisceEDettoRigaPerRiga) {
               "sconto: \"5,5\" non va, resta senza/sconto: \"120\" non va, resta senza|"
               "4:si:|5:si:descrizione: più di 60 caratteri, il resto non entra");
     EXPECT_EQ(riga(1), Riga()) << "nothing is put in yet";
-    form->incolla(testo);
+    form->appunti().incolla(testo);
     EXPECT_EQ(riga(1), (Riga{.descrizione = u"Altro"_s, .um = u"pe"_s, .iva = 3, .prezzo = 1250}));
     EXPECT_EQ(riga(2).recart, 1);
     EXPECT_EQ(riga(2).iva, CodiceIva(4));
@@ -149,7 +149,7 @@ TEST_F(IncollaTest, LeRigheInUsoNonVannoPerdute) {
     const QString testo = u"\tuno\nVITE10\t\n\ttre\n\tquattro\n"_s;
     EXPECT_EQ(rilievi(testo), u"1:si:|2:no:non entra: le righe del documento sono finite|3:si:|"
                               "4:no:non entra: le righe del documento sono finite");
-    form->incolla(testo);
+    form->appunti().incolla(testo);
     EXPECT_EQ(riga(1).descrizione + riga(2).descrizione + riga(3).descrizione + riga(500).descrizione,
               u"unotre0497");
     EXPECT_TRUE(contesto->operatore.messaggi.isEmpty());
@@ -163,8 +163,8 @@ TEST_F(IncollaTest, QualunqueTestoLasciaUnDocumentoIntero) {
         for (int i = 0; i < 120; ++i)
             testo += alfabeto[caso.bounded(alfabeto.size())];
         form->attiva();
-        const Incollate prova = form->provaIncolla(testo);
-        form->incolla(testo);
+        const Incollate prova = form->appunti().prova(testo);
+        form->appunti().incolla(testo);
         int inUso = 0;
         for (const Riga& r : form->righe().tutte()) {
             ASSERT_LE(r.descrizione.size(), 60);
@@ -181,24 +181,24 @@ TEST_F(IncollaTest, RigheDiParcella) {
     Borftek parcella(contesto->contesto, documento);
     parcella.attiva();
     const QString testo = u"31/02/2015\tUdienza\t16,00\t\t1.200,00\n\tCopie\tx\n"_s;
-    const Incollate prova = parcella.provaIncolla(testo);
+    const Incollate prova = parcella.appunti().prova(testo);
     EXPECT_EQ(prova.righe[0].rilievi, QStringList{u"la data 31/02/2015 non esiste: resta com'è scritta"_s});
     EXPECT_EQ(prova.righe[1].rilievi, QStringList{u"anticipazioni: \"x\" non è un numero, resta senza"_s});
-    parcella.incolla(testo);
+    parcella.appunti().incolla(testo);
     EXPECT_EQ(parcella.righe()[0], (Rigap{u"31/02/2015"_s, u"Udienza"_s, 0, 16, 1200}));
     parcella.entra({Borftek::Campo::Data, 0});
-    parcella.scegli(1);
-    EXPECT_TRUE(parcella.scelta(1) && !parcella.scelta(2));
-    EXPECT_EQ(parcella.copia(), u"31/02/2015\tUdienza\t16\t\t1200\n\tCopie\t\t\t\n");
+    parcella.appunti().scegli(1);
+    EXPECT_TRUE(parcella.appunti().scelta(2) && !parcella.appunti().scelta(3));
+    EXPECT_EQ(parcella.appunti().copia(), u"31/02/2015\tUdienza\t16\t\t1200\n\tCopie\t\t\t\n");
 
     parcella.scorri(189);
     parcella.entra({Borftek::Campo::Data, 11});
     const QString lungo = u"\t\tx\n\tultima\n\taltra\n"_s;
-    parcella.incolla(lungo);
-    parcella.incolla(u"\tultima\n\taltra\n"_s);
+    parcella.appunti().incolla(lungo);
+    parcella.appunti().incolla(u"\tultima\n\taltra\n"_s);
     EXPECT_EQ(parcella.righe().back().descrizione, u"ultima");
     EXPECT_EQ(std::ssize(parcella.righe()), righeParcella);
-    EXPECT_EQ(parcella.provaIncolla(lungo).inserite, 0);
+    EXPECT_EQ(parcella.appunti().prova(lungo).inserite, 0);
 }
 
 } // namespace

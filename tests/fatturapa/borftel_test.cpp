@@ -95,13 +95,13 @@ TEST(Borftel, DopoUnoScartoIlFileHaUnNomeNuovoEIlVecchioNonSiRida) {
 TEST(Borftel, UnRilievoStaAccantoAlSuoCampoEFermaIlFile) {
     SchermataFel s;
     s.form.cambia(u"AB"_s, &DatiFel::cliente, &ClienteFel::codice);
-    EXPECT_TRUE(s.form.rilievi(PostoFel::CodiceDestinatario).contains(u"Codice destinatario"_s));
-    EXPECT_TRUE(s.form.grave(PostoFel::CodiceDestinatario));
+    EXPECT_TRUE(s.form.rilievi().testo(PostoFel::CodiceDestinatario).contains(u"Codice destinatario"_s));
+    EXPECT_TRUE(s.form.rilievi().grave(PostoFel::CodiceDestinatario));
     s.form.cambia(QString(), &DatiFel::cliente, &ClienteFel::codice);
-    EXPECT_EQ(s.form.rilievi(PostoFel::CodiceDestinatario), u"");
+    EXPECT_EQ(s.form.rilievi().testo(PostoFel::CodiceDestinatario), u"");
     s.form.cambia(u"40/13/15"_s, &DatiFel::documento, &DocumentoFel::collegatadata);
     s.form.cambia(u"7"_s, &DatiFel::documento, &DocumentoFel::collegatanumero);
-    EXPECT_TRUE(s.form.rilievi(PostoFel::Collegata).contains(u"40/13/15"_s));
+    EXPECT_TRUE(s.form.rilievi().testo(PostoFel::Collegata).contains(u"40/13/15"_s));
     s.form.prendiFuoco();
     s.form.genera();
     EXPECT_EQ(s.form.prendiFuoco(), PostoFel::Collegata);
@@ -135,10 +135,10 @@ TEST(Borftel, QuelCheMancaVieneDetto) {
     SchermataFel s;
     QDir(s.azienda.percorsi().radiceCorrente()).rmdir(u"xml"_s);
     s.apri(1);
-    EXPECT_TRUE(s.form.rilievi(PostoFel::File).contains(u"cartella dei file non c'è"_s));
+    EXPECT_TRUE(s.form.rilievi().testo(PostoFel::File).contains(u"cartella dei file non c'è"_s));
     s.azienda.scrivi(u"borlano.fpa"_s, {});
     s.apri(1);
-    EXPECT_TRUE(s.form.rilievi(PostoFel::File).contains(u"quadri azienda"_s));
+    EXPECT_TRUE(s.form.rilievi().testo(PostoFel::File).contains(u"quadri azienda"_s));
     s.form.genera();
     EXPECT_EQ(s.form.percorso(), u"");
     ASSERT_TRUE(QDir().mkdir(s.azienda.percorso(u"borlano.fel"_s)));
