@@ -49,8 +49,12 @@ bool partitaIvaValida(QStringView codice) {
     return somma % 10 == 0;
 }
 
+bool diPersona(QStringView codiceFiscale) {
+    return codiceFiscale.size() == 16;
+}
+
 bool codiceFiscaleValido(QStringView codice) {
-    return codice.size() == 16 ? codicePersonaValido(codice) : partitaIvaValida(codice);
+    return diPersona(codice) ? codicePersonaValido(codice) : partitaIvaValida(codice);
 }
 
 bool ibanValido(QStringView iban) {

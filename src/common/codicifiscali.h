@@ -8,6 +8,9 @@ namespace bor {
 /// Eleven digits, the last of which agrees with the others.
 bool partitaIvaValida(QStringView codice);
 
+/// The tax code has the length of a person's.
+bool diPersona(QStringView codiceFiscale);
+
 /// Sixteen characters of a person or eleven digits of a company, the last of which agrees with the others.
 bool codiceFiscaleValido(QStringView codice);
 

@@ -1,6 +1,7 @@
 #include "fatturapa/componi.h"
 
 #include "archive/tabelle.h"
+#include "common/codicifiscali.h"
 #include "common/date.h"
 #include "common/numeri.h"
 #include "common/posti.h"
@@ -222,7 +223,7 @@ void componiRitenute(Composizione& c, const std::vector<QuotaRitenuta>& quote) {
     };
     QString tipo = scelta(propri.documento.tiporitenuta, propri.azienda.tiporitenuta);
     if (tipo.isEmpty())
-        tipo = c.fonti.azienda.codfiscale.trimmed().size() == 16 ? u"RT01"_s : u"RT02"_s;
+        tipo = diPersona(c.fonti.azienda.codfiscale.trimmed()) ? u"RT01"_s : u"RT02"_s;
     QString causale = scelta(propri.documento.causaleritenuta, propri.azienda.causaleritenuta);
     if (causale.isEmpty() && c.fonti.pa)
         causale = c.fonti.pa->causalepagamento.trimmed();

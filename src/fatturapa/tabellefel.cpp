@@ -1,7 +1,10 @@
 #include "fatturapa/tabellefel.h"
 
 #include "common/numeri.h"
+#include "common/posti.h"
 #include "common/testo.h"
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -28,18 +31,11 @@ QString naturaSuite(const Tabelle& tabelle, int riga) {
 }
 
 QString modalitaSuite(const Tabelle& tabelle, int posizione) {
-    switch (tabelle.tipopagamenti[posizione + 1].modalita()) {
-    case 0:
-        return u"MP12"_s;
-    case 1:
-        return u"MP05"_s;
-    case 2:
-        return u"MP01"_s;
-    case 3:
-        return u"MP19"_s; // direct debits of the old kind are no more
-    default:
-        return u"MP02"_s;
-    }
+    // Bank receipt, transfer, cash, direct debit, of which the old kind is no more.
+    constexpr std::array<QStringView, 4> modalita = {u"MP12", u"MP05", u"MP01", u"MP19"};
+    constexpr QStringView assegno = u"MP02";
+    const int tipo = tabelle.tipopagamenti[posizione + 1].modalita();
+    return (tipo >= 0 && tipo < quantiIn(modalita) ? elemento(modalita, tipo) : assegno).toString();
 }
 
 VettoreSuite vettoreDiNome(const Tabelle& tabelle, const QString& nome) {

@@ -15,6 +15,9 @@ namespace {
 const QString servizio = u"org.freedesktop.portal.Desktop"_s;
 const QString oggetto = u"/org/freedesktop/portal/desktop"_s;
 const QString interfaccia = u"org.freedesktop.portal.Settings"_s;
+// Its answers.
+constexpr uint preferisceScuro = 1;
+constexpr uint preferisceChiaro = 2;
 
 } // namespace
 
@@ -23,9 +26,9 @@ std::optional<Tono> tonoRisposto(QVariant risposta) {
         risposta = risposta.value<QDBusVariant>().variant();
     bool numero = false;
     switch (risposta.toUInt(&numero)) {
-    case 1:
+    case preferisceScuro:
         return Tono::Scuro;
-    case 2:
+    case preferisceChiaro:
         return Tono::Chiaro;
     default:
         return std::nullopt;
