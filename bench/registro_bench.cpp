@@ -27,30 +27,34 @@ void Pavimento_LetturaDeiTreFile(benchmark::State& stato) {
     }
 }
 
-void RiempimentoDellElenco(benchmark::State& stato) {
-    ContestoDiProva prova(grandeAzienda());
+/// The register of a company, filled.
+struct RegistroPieno {
+    explicit RegistroPieno(const AziendaDiProva& azienda = grandeAzienda()) : prova(azienda) {
+        form.carica();
+    }
+    ContestoDiProva prova;
     Documento documento;
-    Borfte form(prova.contesto, documento);
-    form.carica();
+    Borfte form{prova.contesto, documento};
+};
+
+void cambiaFiltro(benchmark::State& stato, FiltroFatture filtro) {
+    RegistroPieno registro;
     for (auto _ : stato)
-        form.opzioni().cambiaFiltro(FiltroFatture::Tutte);
+        registro.form.opzioni().cambiaFiltro(filtro);
+}
+
+void RiempimentoDellElenco(benchmark::State& stato) {
+    cambiaFiltro(stato, FiltroFatture::Tutte);
 }
 
 void FiltroSoloPa(benchmark::State& stato) {
-    ContestoDiProva prova(grandeAzienda());
-    Documento documento;
-    Borfte form(prova.contesto, documento);
-    form.carica();
-    for (auto _ : stato)
-        form.opzioni().cambiaFiltro(FiltroFatture::SoloPa);
+    cambiaFiltro(stato, FiltroFatture::SoloPa);
 }
 
 /// One key in the search box of the register on screen, up to the list painted anew.
 void TastoNellaRicerca(benchmark::State& stato) {
-    ContestoDiProva prova(grandeAzienda());
-    Documento documento;
-    Borfte form(prova.contesto, documento);
-    form.carica();
+    RegistroPieno registro;
+    Borfte& form = registro.form;
     VistaBorfte vista(form);
     vista.resize(1280, 720);
     vista.show();
@@ -74,10 +78,8 @@ void TastoNellaRicerca(benchmark::State& stato) {
 
 /// The texts of a column, sorted by the standard library alone.
 void Pavimento_Ordinamento(benchmark::State& stato) {
-    ContestoDiProva prova(grandeAzienda());
-    Documento documento;
-    Borfte form(prova.contesto, documento);
-    form.carica();
+    RegistroPieno registro;
+    Borfte& form = registro.form;
     QStringList chiavi;
     for (int r = 0; r < documentiGrande; ++r)
         chiavi.append(form.testo(r, static_cast<Colonna>(stato.range(0))));
@@ -89,10 +91,8 @@ void Pavimento_Ordinamento(benchmark::State& stato) {
 }
 
 void Ordinamento(benchmark::State& stato) {
-    ContestoDiProva prova(grandeAzienda());
-    Documento documento;
-    Borfte form(prova.contesto, documento);
-    form.carica();
+    RegistroPieno registro;
+    Borfte& form = registro.form;
     const auto colonna =
         stato.range(0) == 9 ? Colonna::DataRegistrazione : static_cast<Colonna>(stato.range(0));
     for (auto _ : stato) {
@@ -134,10 +134,8 @@ void Riordino(benchmark::State& stato) {
 /// What the program does from its first instruction to the list painted in its window, in a process of its
 /// own.
 int avvia(const AziendaDiProva& azienda) {
-    ContestoDiProva prova(azienda);
-    Documento documento;
-    Borfte form(prova.contesto, documento);
-    form.carica();
+    RegistroPieno registro(azienda);
+    Borfte& form = registro.form;
     VistaBorfte vista(form);
     vista.resize(1280, 720);
     vista.show();

@@ -2,12 +2,11 @@
 
 #include "common/date.h"
 #include "common/posti.h"
+#include "ui/elencotesti.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -29,16 +28,8 @@ QString esitoDi(const VocePosta& voce) {
 }
 
 QTableWidget* elencoDi(const std::vector<VocePosta>& voci) {
-    auto* elenco = new QTableWidget(quantiIn(voci), 3);
-    elenco->setObjectName(u"elencoPosta"_s);
-    elenco->setAccessibleName(u"Messaggi spediti"_s);
-    elenco->setHorizontalHeaderLabels({u"Quando"_s, u"Indirizzo"_s, u"Esito"_s});
-    elenco->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
-    elenco->setTabKeyNavigation(false);
-    elenco->verticalHeader()->hide();
-    elenco->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    elenco->horizontalHeader()->setStretchLastSection(true);
+    auto* elenco = elencoTesti(u"elencoPosta"_s, u"Messaggi spediti"_s,
+                               {u"Quando"_s, u"Indirizzo"_s, u"Esito"_s}, quantiIn(voci));
     for (int r = 0; r < quantiIn(voci); ++r) {
         const VocePosta& voce = elemento(voci, r);
         const QString quando = testoData(voce.quando.date()) + voce.quando.toString(u" HH:mm"_s);

@@ -1,9 +1,8 @@
 #include "ui/finestratasti.h"
 
 #include "common/posti.h"
+#include "ui/elencotesti.h"
 
-#include <QHeaderView>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -15,16 +14,8 @@ FinestraTasti::FinestraTasti(const QString& schermo, const QList<TastoSchermo>& 
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"tasti"_s);
     setWindowTitle(u"Tasti: "_s + schermo);
-    auto* elenco = new QTableWidget(quantiIn(tasti), 2);
-    elenco->setObjectName(u"elencoTasti"_s);
-    elenco->setAccessibleName(u"Tasti dello schermo"_s);
-    elenco->setHorizontalHeaderLabels({u"Tasto"_s, u"Che cosa fa"_s});
-    elenco->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
-    elenco->setTabKeyNavigation(false);
-    elenco->verticalHeader()->hide();
-    elenco->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    elenco->horizontalHeader()->setStretchLastSection(true);
+    auto* elenco = elencoTesti(u"elencoTasti"_s, u"Tasti dello schermo"_s, {u"Tasto"_s, u"Che cosa fa"_s},
+                               quantiIn(tasti));
     for (int r = 0; r < tasti.size(); ++r) {
         elenco->setItem(r, 0, new QTableWidgetItem(tasti[r].tasto));
         elenco->setItem(r, 1, new QTableWidgetItem(tasti[r].azione));

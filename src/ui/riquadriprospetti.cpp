@@ -16,12 +16,6 @@ namespace bor {
 
 namespace {
 
-QGroupBox* gruppoDi(const QString& nome, const QString& titolo) {
-    auto* gruppo = new QGroupBox(titolo);
-    gruppo->setObjectName(nome);
-    return gruppo;
-}
-
 /// A month and a year beside each other.
 QWidget* periodo(const BancoTea& banco, int indice, const QString& quale, const Legame<QString>& mese,
                  const Legame<QString>& anno, std::vector<QWidget*>& percorso) {

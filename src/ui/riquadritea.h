@@ -23,6 +23,9 @@ struct RiquadroTea {
     QWidget* ultimo;
 };
 
+/// An empty frame.
+QGroupBox* gruppoDi(const QString& nome, const QString& titolo);
+
 RiquadroTea creaEstremi(const BancoTea& banco);
 RiquadroTea creaScadenze(const BancoTea& banco);
 RiquadroTea creaRicavi(const BancoTea& banco);

@@ -13,9 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
+QGroupBox* gruppoDi(const QString& nome, const QString& titolo) {
+    auto* gruppo = new QGroupBox(titolo);
+    gruppo->setObjectName(nome);
+    return gruppo;
+}
+
 RiquadroTea creaEstremi(const BancoTea& banco) {
-    auto* gruppo = new QGroupBox(u"Estremi del documento"_s);
-    gruppo->setObjectName(u"Frame1"_s);
+    auto* gruppo = gruppoDi(u"Frame1"_s, u"Estremi del documento"_s);
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(7);
     Borftea& form = banco.form;
@@ -59,8 +64,7 @@ RiquadroTea creaEstremi(const BancoTea& banco) {
 }
 
 RiquadroTea creaRicavi(const BancoTea& banco) {
-    auto* gruppo = new QGroupBox(u"Estremi contabili (bilancino di contabilità semplificata)"_s);
-    gruppo->setObjectName(u"Frame3"_s);
+    auto* gruppo = gruppoDi(u"Frame3"_s, u"Estremi contabili (bilancino di contabilità semplificata)"_s);
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(7);
     Borftea& form = banco.form;

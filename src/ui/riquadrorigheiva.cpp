@@ -47,8 +47,7 @@ QLabel* etichetta(const BancoTea& banco, const QString& nome, const QString& mod
 } // namespace
 
 RiquadroTea creaRigheIva(const BancoTea& banco) {
-    auto* gruppo = new QGroupBox(u"Dettaglio imponibili"_s);
-    gruppo->setObjectName(u"Frame4"_s);
+    auto* gruppo = gruppoDi(u"Frame4"_s, u"Dettaglio imponibili"_s);
     auto* griglia = new QGridLayout(gruppo);
     griglia->setVerticalSpacing(9);
     ImportiIva& importi = banco.form.importiIva();

@@ -71,8 +71,7 @@ QWidget* creaProvvigione(const BancoTea& banco, std::vector<QWidget*>& percorso)
 } // namespace
 
 RiquadroTea creaScadenze(const BancoTea& banco) {
-    auto* gruppo = new QGroupBox(u"Scadenze, modalità di pagamento e provvigioni"_s);
-    gruppo->setObjectName(u"Frame2"_s);
+    auto* gruppo = gruppoDi(u"Frame2"_s, u"Scadenze, modalità di pagamento e provvigioni"_s);
     auto* colonna = new QVBoxLayout(gruppo);
     colonna->setSpacing(8);
     Borftea& form = banco.form;

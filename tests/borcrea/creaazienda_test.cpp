@@ -1,5 +1,4 @@
 #include "borcrea/creaazienda.h"
-#include "common/codicifiscali.h"
 
 #include "archive/archivio.h"
 #include "archive/impostazioni.h"
@@ -88,17 +87,6 @@ protected:
 };
 
 } // namespace
-
-TEST(Controlli, CodiciGiustiESbagliati) {
-    EXPECT_TRUE(partitaIvaValida(u"12345678903"));
-    EXPECT_FALSE(partitaIvaValida(u"12345678904"));
-    EXPECT_FALSE(partitaIvaValida(u"1234567890"));
-    EXPECT_TRUE(codiceFiscaleValido(u"RSSMRA80A01H501U"));
-    EXPECT_FALSE(codiceFiscaleValido(u"RSSMRA80A01H501V"));
-    EXPECT_FALSE(codiceFiscaleValido(u"RSSMRA80A01-501U"));
-    EXPECT_TRUE(ean13Valido(u"4006381333931"));
-    EXPECT_FALSE(ean13Valido(u"4006381333932"));
-}
 
 TEST_F(CreaAzienda, ScriveClientiIndiciEContatoriAlLoroPosto) {
     ASSERT_EQ(crea(), "");

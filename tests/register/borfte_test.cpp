@@ -1,7 +1,4 @@
-#include "register/borfte.h"
-#include "support/azienda.h"
-
-#include <gtest/gtest.h>
+#include "register/registrodiprova.h"
 
 namespace bor {
 namespace {
@@ -20,23 +17,7 @@ QStringList colonna(const Borfte& form, Colonna quale) {
     return testi;
 }
 
-class RegistroTest : public testing::Test {
-protected:
-    void apri() {
-        m_prova = std::make_unique<ContestoDiProva>(azienda);
-        m_form = std::make_unique<Borfte>(m_prova->contesto, documento);
-        m_form->carica();
-    }
-    Borfte& form() { return *m_form; }
-    ContestoDiProva& prova() { return *m_prova; }
-
-    AziendaDiProva azienda;
-    Documento documento;
-
-private:
-    std::unique_ptr<ContestoDiProva> m_prova;
-    std::unique_ptr<Borfte> m_form;
-};
+class RegistroTest : public RegistroDiProva {};
 
 TEST_F(RegistroTest, MostraIDocumentiComeStannoSuFile) {
     const int rossi = azienda.cliente(QStringLiteral("Rossi Forniture Srl"));

@@ -1,12 +1,9 @@
 // The list as an operator wants it: its documents, its columns, its sums, and what leaves the program of it.
-#include "register/borfte.h"
-#include "support/azienda.h"
+#include "register/registrodiprova.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QSettings>
-
-#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -15,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-class VistaElencoTest : public testing::Test {
+class VistaElencoTest : public RegistroDiProva {
 protected:
     VistaElencoTest() {
         const int rossi = azienda.cliente(u"Rossi Forniture Srl"_s);
@@ -45,12 +42,9 @@ protected:
     }
 
     void apri() {
-        m_prova = std::make_unique<ContestoDiProva>(azienda);
-        m_prova->tabelle.tipopagamenti[2].descrizione = u"Rimessa diretta"_s;
-        m_form = std::make_unique<Borfte>(m_prova->contesto, documento);
-        m_form->carica();
+        RegistroDiProva::apri();
+        prova().tabelle.tipopagamenti[2].descrizione = u"Rimessa diretta"_s;
     }
-    Borfte& form() { return *m_form; }
 
     /// The numbers of the documents that a choice leaves in the list.
     QString numeri(const DocumentiScelti& scelti) {
@@ -66,13 +60,6 @@ protected:
             testi.append(form().testo(riga, colonna));
         return testi.join(u'|');
     }
-
-    AziendaDiProva azienda;
-    Documento documento;
-
-private:
-    std::unique_ptr<ContestoDiProva> m_prova;
-    std::unique_ptr<Borfte> m_form;
 };
 
 TEST_F(VistaElencoTest, RestanoIDocumentiDelPeriodoEDelGenere) {

@@ -1,20 +1,16 @@
-#include "register/borfte.h"
-#include "support/azienda.h"
-#include "ui/gesti.h"
-#include "ui/vistaborfte.h"
+#include "ui/registroinvista.h"
 
 #include <QClipboard>
 #include <QDialog>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QTableView>
 #include <QTemporaryDir>
 
 namespace bor {
 namespace {
 
-class VistaRegistroTest : public testing::Test {
+class VistaRegistroTest : public RegistroInVista {
 protected:
     VistaRegistroTest() {
         const int rossi = azienda.cliente(QStringLiteral("Rossi Forniture Srl"));
@@ -27,24 +23,12 @@ protected:
                 c.f2e.fpa = 3.0;
             azienda.documento(c);
         }
-        prova = std::make_unique<ContestoDiProva>(azienda);
-        form = std::make_unique<Borfte>(prova->contesto, documento);
-        form->carica();
-        vista = std::make_unique<VistaBorfte>(*form);
-        mostra(*vista);
-        griglia = controllo<QTableView>(*vista, QStringLiteral("elenco"));
+        apri();
     }
 
     QString cella(int riga, int colonna) const {
         return griglia->model()->index(riga, colonna).data().toString();
     }
-
-    AziendaDiProva azienda;
-    std::unique_ptr<ContestoDiProva> prova;
-    Documento documento;
-    std::unique_ptr<Borfte> form;
-    std::unique_ptr<VistaBorfte> vista;
-    QTableView* griglia = nullptr;
 };
 
 TEST_F(VistaRegistroTest, DallaTastieraSiSceglieSiOrdinaESiApre) {

@@ -1,7 +1,6 @@
 #include "document/borftem.h"
 #include "register/borsel.h"
-#include "support/azienda.h"
-#include "ui/gesti.h"
+#include "ui/schermodiprova.h"
 #include "ui/vistaborftem.h"
 #include "ui/vistaborsel.h"
 
@@ -14,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-class VistaTestata : public testing::Test {
+class VistaTestata : public SchermoDiProva<Borftem, VistaBorftem> {
 protected:
     VistaTestata() {
         rossi = azienda.cliente(completo());
@@ -22,13 +21,12 @@ protected:
         tolto.eliminato = 1;
         azienda.cliente(tolto);
         azienda.cliente(u"Bianchi Édith & Figli"_s);
-        prova = std::make_unique<ContestoDiProva>(azienda);
+        apriForm();
         prova->tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, u"4"_s};
         prova->tabelle.vettori[1] = {u"Vendita"_s,      u"Scatole"_s, u"Corriere Espresso"_s,
                                      u"Via Emilia 3"_s, u"*"_s,       {}};
         prova->tabelle.tipopagamenti[2].descrizione = u"Rimessa diretta 30 giorni fine mese"_s;
-        form = std::make_unique<Borftem>(prova->contesto, documento);
-        vista = std::make_unique<VistaBorftem>(*form);
+        apriVista();
     }
     static Cli completo() {
         Cli cli = clienteDi(u"Rossi Forniture Industriali Srl"_s);
@@ -66,12 +64,7 @@ protected:
         return passi;
     }
 
-    AziendaDiProva azienda;
     int rossi = 0;
-    std::unique_ptr<ContestoDiProva> prova;
-    Documento documento;
-    std::unique_ptr<Borftem> form;
-    std::unique_ptr<VistaBorftem> vista;
 };
 
 TEST_F(VistaTestata, NuovaFattura_ClienteTrovatoDallaTastiera) {

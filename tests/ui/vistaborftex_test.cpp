@@ -2,8 +2,7 @@
 #include "document/filerighe.h"
 #include "document/righeinsospeso.h"
 #include "document/righeiva.h"
-#include "support/azienda.h"
-#include "ui/gesti.h"
+#include "ui/schermodiprova.h"
 #include "ui/vistaborftex.h"
 
 #include <QClipboard>
@@ -18,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-class VistaRigheTest : public testing::Test {
+class VistaRigheTest : public SchermoDiProva<Borftex, VistaBorftex> {
 protected:
     VistaRigheTest() {
         Cli c = clienteDi(u"Rossi"_s);
@@ -27,14 +26,13 @@ protected:
         azienda.articolo(articoloDi(u"VITE"_s, u"Vite a legno"_s, 1.25, 1));
         azienda.articolo(articoloDi(u"DADO"_s, u"Dado esagonale"_s, 0.8, 2));
         azienda.articolo(articoloDi(u"PERNO"_s, u"Perno temprato"_s, 12.4, 1));
-        prova = std::make_unique<ContestoDiProva>(azienda);
+        apriForm();
         documento.recordcliente = 1;
         prova->tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, {}};
         prova->tabelle.aliquote[2] = {u"10"_s, {}, {}, {}};
         prova->tabelle.esenzioni[3].testo = u"Esente art.10"_s;
         documento.estremi.numero = u"12"_s;
-        form = std::make_unique<Borftex>(prova->contesto, documento);
-        vista = std::make_unique<VistaBorftex>(*form);
+        apriVista();
     }
 
     /// From the code box of a row to that of the next one, by Enter alone.
@@ -51,12 +49,6 @@ protected:
         scrivi(*vista, testo);
         tasto(*vista, Qt::Key_Return);
     }
-
-    AziendaDiProva azienda;
-    std::unique_ptr<ContestoDiProva> prova;
-    Documento documento;
-    std::unique_ptr<Borftex> form;
-    std::unique_ptr<VistaBorftex> vista;
 };
 
 TEST_F(VistaRigheTest, RigheCopiateEIncollateConITasti) {

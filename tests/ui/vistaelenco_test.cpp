@@ -1,8 +1,5 @@
 // The list of the register as its operator wants it, chosen and exported with keys and mouse.
-#include "register/borfte.h"
-#include "support/azienda.h"
-#include "ui/gesti.h"
-#include "ui/vistaborfte.h"
+#include "ui/registroinvista.h"
 
 #include <QComboBox>
 #include <QDialog>
@@ -15,7 +12,6 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -24,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-class VistaElencoTest : public testing::Test {
+class VistaElencoTest : public RegistroInVista {
 protected:
     VistaElencoTest() {
         const int rossi = azienda.cliente(u"Rossi Forniture Srl"_s);
@@ -35,16 +31,6 @@ protected:
             azienda.documento(c);
         }
         apri();
-    }
-
-    void apri() {
-        vista.reset();
-        prova = std::make_unique<ContestoDiProva>(azienda);
-        form = std::make_unique<Borfte>(prova->contesto, documento);
-        form->carica();
-        vista = std::make_unique<VistaBorfte>(*form);
-        mostra(*vista);
-        griglia = controllo<QTableView>(*vista, u"elenco"_s);
     }
 
     /// The headings in view, from left to right.
@@ -72,13 +58,6 @@ protected:
         elenco->setCurrentItem(voce);
         voce->setCheckState(mostrata ? Qt::Checked : Qt::Unchecked);
     }
-
-    AziendaDiProva azienda;
-    std::unique_ptr<ContestoDiProva> prova;
-    Documento documento;
-    std::unique_ptr<Borfte> form;
-    std::unique_ptr<VistaBorfte> vista;
-    QTableView* griglia = nullptr;
 };
 
 const QString comeSempre = u"Registr. Data Fattura Data Cliente Importo PA PDF"_s;

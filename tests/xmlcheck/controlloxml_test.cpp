@@ -1,5 +1,4 @@
 // What the check of electronic invoices says of a good file, of files with one fault each, and of garbage.
-#include "common/codicifiscali.h"
 #include "xmlcheck/controlloxml.h"
 #include "xmlcheck/doppioni.h"
 #include "xmlcheck/letturaxml.h"
@@ -240,14 +239,4 @@ TEST(ControlloXml, UnAvvisoSiDiceAvviso) {
     EXPECT_TRUE(testoRilievo(rilievi[0]).startsWith(u"Avviso. Riga"_s));
     EXPECT_TRUE(testoRilievo(rilievi[0]).contains(u"Possibile scarto 00302."_s));
     EXPECT_TRUE(testoRilievo(rilievi[1]).contains(u"  Scarto 00425."_s));
-}
-
-TEST(CodiciFiscali, LeCifreDiControlloTornano) {
-    EXPECT_TRUE(partitaIvaValida(u"01234567897"));
-    EXPECT_FALSE(partitaIvaValida(u"01234567898"));
-    EXPECT_FALSE(partitaIvaValida(u"0123456789"));
-    EXPECT_TRUE(codiceFiscaleValido(u"RSSMRA80A01H501U"));
-    EXPECT_FALSE(codiceFiscaleValido(u"RSSMRA80A01H501è"));
-    EXPECT_TRUE(ibanValido(u"IT60X0542811101000000123456"));
-    EXPECT_FALSE(ibanValido(u"IT06X0542811101000000123456"));
 }
