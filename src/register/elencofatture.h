@@ -9,29 +9,13 @@
 #include "document/identita.h"
 #include "register/colonneelenco.h"
 #include "register/importidocumento.h"
+#include "register/sommeelenco.h"
 
 #include <chrono>
 #include <functional>
 #include <vector>
 
 namespace bor {
-
-/// Rows one below the other, counted from 0; both ends belong to it.
-struct TrattoRighe {
-    int prima = 0;
-    int ultima = 0;
-};
-
-/// Of some rows: how many documents, and what they come to, credit notes subtracted, deleted ones left out.
-struct SommeElenco {
-    int documenti = 0; ///< deleted ones included
-    int eliminati = 0;
-    double imponibile = 0;
-    double imposta = 0;
-    double esente = 0;
-    double ritenuta = 0;
-    double totale = 0;
-};
 
 /// What a list lacks of the documents that were asked for.
 struct LetturaElenco {
