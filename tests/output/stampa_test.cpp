@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMap>
 
 #include <gtest/gtest.h>
 
@@ -16,8 +17,12 @@ using namespace Qt::StringLiterals;
 namespace bor {
 namespace {
 
-/// A layout file in which only the given items have a place; fonts are Arial 9, colour 0.
-QByteArray layout(const QMap<int, QByteArray>& posizioni, const QByteArray& modello = "000000") {
+/// A layout file in which only these items have a place, "33 020040 85 100000"; fonts are Arial 9, colour 0.
+QByteArray layout(const QByteArray& voci, const QByteArray& modello = "000000") {
+    QMap<int, QByteArray> posizioni;
+    const QList<QByteArray> parti = voci.split(' ');
+    for (qsizetype i = 0; i < parti.size(); i += 2)
+        posizioni[parti[i].toInt()] = parti[i + 1];
     QByteArray file;
     for (int i = 1; i <= 100; ++i) {
         const QByteArray posizione = i == 99 ? modello : posizioni.value(i, "000000");
@@ -84,15 +89,9 @@ protected:
 };
 
 TEST_F(StampaTest, IlRapportoDiUnaFatturaRigaPerRiga) {
-    azienda.scrivi(u"borlano.lyf"_s, layout({{18, "120030"},
-                                             {33, "020040"},
-                                             {70, "200250"},
-                                             {82, "020020"},
-                                             {85, "100000"},
-                                             {86, "180000"},
-                                             {88, "030000"},
-                                             {93, "150000"}},
-                                            "000001"));
+    azienda.scrivi(
+        u"borlano.lyf"_s,
+        layout("18 120030 33 020040 70 200250 82 020020 85 100000 86 180000 88 030000 93 150000", "000001"));
     azienda.scrivi(u"borlano.lkf"_s, "3\r\nlogo.png\r\n\r\n4,10,10,50,30,0,0,0,0\r\n"
                                      "\r\n\r\n2,0.5,5,250,100,255,1,0,0\r\n"
                                      " Fattura numero\r\nArial\r\n3,20,35,0,0,0,1,1,0\r\n");
@@ -121,8 +120,7 @@ TEST_F(StampaTest, IlRapportoDiUnaFatturaRigaPerRiga) {
 }
 
 TEST_F(StampaTest, ITotaliStannoSoloSullUltimaPaginaEIlCorpoContinua) {
-    azienda.scrivi(u"borlano.lyf"_s,
-                   layout({{33, "020040"}, {70, "200250"}, {85, "100000"}, {86, "120000"}, {88, "030000"}}));
+    azienda.scrivi(u"borlano.lyf"_s, layout("33 020040 70 200250 85 100000 86 120000 88 030000"));
     for (std::size_t i = 0; i < 11; ++i)
         documento.ddd[i].descrizione = u"linea %1"_s.arg(i + 1);
     ASSERT_TRUE(stampa());
@@ -135,15 +133,9 @@ TEST_F(StampaTest, ITotaliStannoSoloSullUltimaPaginaEIlCorpoContinua) {
 }
 
 TEST_F(StampaTest, RigheIvaScontiECopiaPa) {
-    azienda.scrivi(u"borlano.lyf"_s, layout({{60, "010200"},
-                                             {61, "020200"},
-                                             {65, "100200"},
-                                             {66, "120200"},
-                                             {81, "010010"},
-                                             {85, "100000"},
-                                             {86, "180000"},
-                                             {94, "050000"},
-                                             {95, "060000"}}));
+    azienda.scrivi(
+        u"borlano.lyf"_s,
+        layout("60 010200 61 020200 65 100200 66 120200 81 010010 85 100000 86 180000 94 050000 95 060000"));
     documento.ddd[1] = {.descrizione = u"Bollo"_s, .iva = 15, .quantita = Riga::soloPrezzo, .prezzo = 2};
     documento.coppia.f2e.fpa = 4.0;
     ASSERT_TRUE(stampa());
@@ -158,15 +150,9 @@ TEST_F(StampaTest, LaParcellaHaLeSueVociELeSueColonne) {
     prova.tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, u"4"_s};
     documento.coppia.fte.parcella = 1;
     documento.dddp[0] = {u"01/03/2015"_s, u"Consulenza"_s, 0, 0, 1000};
-    azienda.scrivi(u"borlano.lyp"_s, layout({{66, "100200"},
-                                             {71, "100210"},
-                                             {72, "100220"},
-                                             {77, "010010"},
-                                             {80, "100000"},
-                                             {81, "180000"},
-                                             {82, "010000"},
-                                             {83, "030000"},
-                                             {86, "200000"}}));
+    azienda.scrivi(
+        u"borlano.lyp"_s,
+        layout("66 100200 71 100210 72 100220 77 010010 80 100000 81 180000 82 010000 83 030000 86 200000"));
     ASSERT_TRUE(stampa());
     EXPECT_EQ(prova.operatore.domande.back().titolo, u"Stampa parcella"_s);
     EXPECT_EQ(testi(), QStringList({u"40,00"_s, u"208,00"_s, u"1.060,80"_s, u"PARCELLA"_s, u"01/03/2015"_s,
@@ -174,7 +160,7 @@ TEST_F(StampaTest, LaParcellaHaLeSueVociELeSueColonne) {
 }
 
 TEST_F(StampaTest, SenzaStampanteIlRapportoECompletoESenzaRispostaNonCeNulla) {
-    azienda.scrivi(u"borlano.lyf"_s, layout({{33, "020040"}, {85, "100000"}, {86, "180000"}}));
+    azienda.scrivi(u"borlano.lyf"_s, layout("33 020040 85 100000 86 180000"));
     stampante.presente = false;
     ASSERT_TRUE(stampa());
     EXPECT_EQ(testi(), QStringList{u"12"_s});
@@ -193,7 +179,7 @@ TEST_F(StampaTest, SenzaStampanteIlRapportoECompletoESenzaRispostaNonCeNulla) {
 }
 
 TEST_F(StampaTest, LayoutEModelliRovinatiDannoPagineVuote) {
-    azienda.scrivi(u"borlano.lyf"_s, layout({{33, "020040"}}).left(2000));
+    azienda.scrivi(u"borlano.lyf"_s, layout("33 020040").left(2000));
     EXPECT_TRUE(caricaLayout(prova.archivio, false).voci[33].x() == 0);
     azienda.scrivi(u"borlano.lkf"_s, "32000\r\nciao\r\nArial\r\n3,1,1,1,1,0,9,0,0\r\nmezzo");
     EXPECT_EQ(caricamodello(prova.archivio, CodiceModello::Fattura).size(), 1U);
@@ -204,9 +190,7 @@ TEST_F(StampaTest, LayoutEModelliRovinatiDannoPagineVuote) {
 }
 
 TEST_F(StampaTest, VociVuoteBordoAZeroEModelliMonchiStannoNelRapporto) {
-    azienda.scrivi(
-        u"borlano.lyf"_s,
-        layout({{17, "010010"}, {85, "000000"}, {86, "004000"}, {87, "040000"}, {88, "030000"}}, "000001"));
+    azienda.scrivi(u"borlano.lyf"_s, layout("17 010010 85 000000 86 004000 87 040000 88 030000", "000001"));
     azienda.scrivi(u"borlano.lkf"_s, "2\r\nDitta\r\nArial\r\n3,20,35,0,0,255\r\nmezzo");
     documento.ddd[0].codice = u"12345678901234567890"_s;
     documento.ddd[0].descrizione = QString(70, u'x');
@@ -222,7 +206,7 @@ TEST_F(StampaTest, VociVuoteBordoAZeroEModelliMonchiStannoNelRapporto) {
 
 TEST_F(StampaTest, CioCheNonEUscitoSiDiceConIlRimedio) {
     const auto detto = [this] { return prova.operatore.messaggi.value(0).testo; };
-    azienda.scrivi(u"borlano.lyf"_s, layout({{33, "020040"}, {85, "100000"}, {86, "180000"}}));
+    azienda.scrivi(u"borlano.lyf"_s, layout("33 020040 85 100000 86 180000"));
     stampante.presente = false;
     EXPECT_TRUE(stampa());
     EXPECT_TRUE(detto().startsWith(u"Nessuna stampante"_s));
