@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QThread>
 
+#include <chrono>
 #include <csignal>
 #include <random>
 
@@ -75,7 +77,9 @@ TEST(DueProgrammi, CioCheSiLeggeEDiUnMomentoSoloEDelDocumentoScelto) {
     int letti = 0;
     int detti = 0;
     int attese = 0;
-    for (int giro = 0; giro < 2000; ++giro) {
+    // A machine with other work wants more rounds: there the other program has changed nearly all by then.
+    const QDeadlineTimer fine(std::chrono::minutes(1));
+    for (int giro = 0; giro < 2000 || (letti <= 100 && !fine.hasExpired()); ++giro) {
         const int record = 1 + giro % documentiAllInizio;
         const Identita scelto = identitaDi(record, prova.archivio.fte.leggi(record));
         QThread::usleep(static_cast<unsigned long>(giro % 3) * 300);
