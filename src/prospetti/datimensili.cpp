@@ -158,7 +158,7 @@ Tabella DatiMensili::tabella() const {
                     .filtro = filtro,
                     .colonne = {{u"Mese"_s, GenereColonna::Testo, 18},
                                 {u"Registro IVA"_s, GenereColonna::Testo, 12},
-                                {u"Documenti"_s, GenereColonna::Numero, 9},
+                                {u"Documenti"_s, GenereColonna::Numero, 11},
                                 {u"Imponibile"_s, GenereColonna::Importo, 14},
                                 {u"Imposta"_s, GenereColonna::Importo, 14},
                                 {u"Esente"_s, GenereColonna::Importo, 14},
