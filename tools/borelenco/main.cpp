@@ -86,9 +86,13 @@ private:
     QString m_difetto;
 };
 
-int racconta(const QString& testo, Uscita uscita) {
+void racconta(const QString& testo) {
     QTextStream(stderr) << testo << '\n';
-    return uscita;
+}
+
+int rifiuta(const QString& motivo) {
+    racconta(motivo);
+    return NonFatto;
 }
 
 void descriviOpzioni(QCommandLineParser& riga) {
@@ -122,14 +126,14 @@ int main(int argc, char** argv) {
     const bor::elenca::Richiesta richiesta{riga.value(u"unita"_s), *azienda, opzioni.vista(),
                                            opzioni.formato()};
     if (!opzioni.difetto().isEmpty())
-        return racconta(opzioni.difetto(), NonFatto);
+        return rifiuta(opzioni.difetto());
     QFile uscita;
     if (!uscita.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return racconta(u"L'elenco non si è potuto scrivere."_s, NonFatto);
+        return rifiuta(u"L'elenco non si è potuto scrivere."_s);
     const bor::elenca::Esito esito = bor::elenca::elenca(richiesta, uscita);
     for (const QString& avviso : esito.avvisi)
-        racconta(avviso, Incompleto);
+        racconta(avviso);
     if (!esito.errore.isEmpty())
-        return racconta(esito.errore, NonFatto);
+        return rifiuta(esito.errore);
     return esito.avvisi.isEmpty() ? Intero : Incompleto;
 }
