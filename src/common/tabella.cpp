@@ -1,17 +1,13 @@
 #include "common/tabella.h"
 
-#include "common/numeri.h"
+#include "common/getto.h"
 #include "common/posti.h"
 
-#include <QIODevice>
+#include <QBuffer>
 #include <QRegularExpression>
 #include <QSaveFile>
-#include <QStringEncoder>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -22,81 +18,10 @@ CelleRiga::~CelleRiga() = default;
 
 namespace {
 
-/// What a table becomes, byte by byte. A list of 32,000 rows has a quarter of a million cells: none of them
-/// becomes a text of its own on the way.
-class Getto {
-public:
-    explicit Getto(QIODevice& uscita) : m_uscita(uscita) { m_bytes.reserve(2 * pieno); }
-
-    void aggiungi(char c) { m_bytes.append(c); }
-    void aggiungi(QByteArrayView bytes) { m_bytes.append(bytes); }
-    void testo(QStringView testo) {
-        const qsizetype prima = m_bytes.size();
-        m_bytes.resize(prima + m_utf8.requiredSpace(testo.size()));
-        m_bytes.resize(m_utf8.appendToBuffer(m_bytes.data() + prima, testo) - m_bytes.constData());
-    }
-    void intero(qint64 numero) {
-        std::array<char, 24> cifre{};
-        const auto fine = std::to_chars(cifre.data(), cifre.data() + cifre.size(), numero);
-        aggiungi(QByteArrayView(cifre.data(), fine.ptr));
-    }
-    /// The number with exactly so many decimals, as `testoFisso` rounds it.
-    void fisso(double x, int decimali, char virgola) {
-        const double centesimi = x * 100;
-        const double vicino = std::nearbyint(centesimi);
-        // Far from the middle between two cents, and with digits to spare, both ways of rounding agree.
-        if (decimali == 2 && std::fabs(centesimi) < 1e12 && std::fabs(centesimi - vicino) < 0.25) {
-            const auto n = static_cast<qint64>(std::fabs(vicino));
-            if (vicino < 0)
-                aggiungi('-');
-            intero(n / 100);
-            aggiungi(virgola);
-            aggiungi(cifra(n % 100 / 10));
-            aggiungi(cifra(n % 10));
-        } else {
-            testo(testoFisso(x, decimali).replace(u'.', QLatin1Char(virgola)));
-        }
-    }
-    void numero(double x, char virgola) {
-        if (std::fabs(x) < 1e15 && x == std::trunc(x))
-            intero(static_cast<qint64>(x));
-        else
-            testo(testoDecimale(x).replace(u'.', QLatin1Char(virgola)));
-    }
-    void dueCifre(int n) {
-        aggiungi(cifra(n / 10 % 10));
-        aggiungi(cifra(n % 10));
-    }
-    void quattroCifre(int n) {
-        dueCifre(n / 100);
-        dueCifre(n);
-    }
-
-    /// Between two rows: hands on what has gathered.
-    void respira() {
-        if (m_bytes.size() >= pieno)
-            svuota();
-    }
-    /// False when not all could be written.
-    bool svuota() {
-        m_riuscito = m_riuscito && m_uscita.write(m_bytes) == m_bytes.size();
-        m_bytes.resize(0);
-        return m_riuscito;
-    }
-    bool riuscito() const { return m_riuscito; }
-
-private:
-    static constexpr qsizetype pieno = 1 << 18;
-    static char cifra(qint64 n) { return static_cast<char>('0' + n); }
-
-    QIODevice& m_uscita;
-    QByteArray m_bytes;
-    QStringEncoder m_utf8{QStringEncoder::Utf8, QStringConverter::Flag::Stateless};
-    bool m_riuscito = true;
-};
-
 /// A spreadsheet takes the text for a formula: by its first character, whatever blanks stand before it.
 bool sembraFormula(QStringView testo) {
+    if (testo.front().isLetterOrNumber())
+        return false;
     const auto conta = [](QChar c) { return c != u' ' && c != QChar::Nbsp; };
     const auto primo = std::find_if(testo.begin(), testo.end(), conta);
     if (primo == testo.end() || (*primo >= u' ' && !QStringView(u"=+-@").contains(*primo)))
@@ -113,9 +38,9 @@ public:
         if (!apri() || testo.isEmpty())
             return;
         const bool formula = sembraFormula(testo);
-        const bool virgolette = std::any_of(testo.begin(), testo.end(), [](QChar c) {
-            return c == u';' || c == u'"' || c == u'\n' || c == u'\r' || c == u'\t';
-        });
+        bool virgolette = false;
+        for (const QChar c : testo)
+            virgolette |= c == u';' || c == u'"' || c < u' ';
         if (virgolette)
             m_getto.aggiungi('"');
         if (formula)
@@ -138,11 +63,7 @@ public:
     void data(QDate data) override {
         if (!apri() || !data.isValid())
             return;
-        m_getto.dueCifre(data.day());
-        m_getto.aggiungi('/');
-        m_getto.dueCifre(data.month());
-        m_getto.aggiungi('/');
-        m_getto.quattroCifre(data.year());
+        m_getto.giornoMeseAnno(data);
     }
     void vuota() override { apri(); }
 
@@ -170,16 +91,39 @@ private:
     int m_colonna = 0;
 };
 
+/// A character that cannot stand in a text of JSON as it is.
+void protetto(Getto& getto, QChar c) {
+    if (c < u' ') {
+        getto.aggiungi(QByteArrayView("\\u"));
+        getto.aggiungi(QByteArray::number(c.unicode(), 16).rightJustified(4, '0'));
+    } else {
+        getto.aggiungi('\\');
+        getto.testo(QStringView(&c, 1));
+    }
+}
+
+void stringa(Getto& getto, QStringView testo) {
+    getto.aggiungi('"');
+    const auto daProteggere = [](QChar c) { return c < u' ' || c == u'"' || c == u'\\'; };
+    for (auto c = testo.begin(); c != testo.end();) {
+        const auto fine = std::find_if(c, testo.end(), daProteggere);
+        getto.testo({c, fine});
+        for (c = fine; c != testo.end() && daProteggere(*c); ++c)
+            protetto(getto, *c);
+    }
+    getto.aggiungi('"');
+}
+
 class CelleJson : public CelleRiga {
 public:
     CelleJson(Getto& getto, const Tabella& tabella) : m_getto(getto), m_decimali(tabella.decimali) {
         for (const ColonnaTabella& colonna : tabella.colonne)
-            m_chiavi.push_back(colonna.chiave.isEmpty() ? colonna.didascalia : colonna.chiave);
+            m_chiavi.push_back(chiave(colonna.chiave.isEmpty() ? colonna.didascalia : colonna.chiave));
     }
 
     void testo(QStringView testo) override {
         if (apri())
-            stringa(testo);
+            stringa(m_getto, testo);
     }
     void numero(double numero) override {
         if (apri())
@@ -194,11 +138,7 @@ public:
             vuota();
         } else if (apri()) {
             m_getto.aggiungi('"');
-            m_getto.quattroCifre(data.year());
-            m_getto.aggiungi('-');
-            m_getto.dueCifre(data.month());
-            m_getto.aggiungi('-');
-            m_getto.dueCifre(data.day());
+            m_getto.annoMeseGiorno(data);
             m_getto.aggiungi('"');
         }
     }
@@ -217,41 +157,30 @@ public:
         m_getto.aggiungi('}');
         m_getto.respira();
     }
-    void stringa(QStringView testo) {
-        m_getto.aggiungi('"');
-        const auto daScrivere = [](QChar c) { return c < u' ' || c == u'"' || c == u'\\'; };
-        for (auto c = testo.begin(); c != testo.end();) {
-            const auto fine = std::find_if(c, testo.end(), daScrivere);
-            m_getto.testo({c, fine});
-            for (c = fine; c != testo.end() && daScrivere(*c); ++c)
-                protetto(*c);
-        }
-        m_getto.aggiungi('"');
-    }
 
 private:
-    void protetto(QChar c) {
-        if (c < u' ') {
-            m_getto.aggiungi(QByteArrayView("\\u"));
-            m_getto.aggiungi(QByteArray::number(c.unicode(), 16).rightJustified(4, '0'));
-        } else {
-            m_getto.aggiungi('\\');
-            m_getto.testo(QStringView(&c, 1));
-        }
+    /// As it stands before each value.
+    static QByteArray chiave(const QString& nome) {
+        QBuffer bytes;
+        bytes.open(QIODevice::WriteOnly);
+        Getto getto(bytes);
+        stringa(getto, nome);
+        getto.aggiungi(':');
+        getto.svuota();
+        return bytes.data();
     }
     bool apri() {
         if (m_colonna >= quantiIn(m_chiavi))
             return false;
         if (m_colonna > 0)
             m_getto.aggiungi(',');
-        stringa(elemento(m_chiavi, m_colonna++));
-        m_getto.aggiungi(':');
+        m_getto.aggiungi(elemento(m_chiavi, m_colonna++));
         return true;
     }
 
     Getto& m_getto;
     int m_decimali;
-    std::vector<QString> m_chiavi;
+    std::vector<QByteArray> m_chiavi;
     int m_colonna = 0;
 };
 
@@ -283,9 +212,9 @@ bool scriviJson(const Tabella& tabella, QIODevice& uscita) {
     Getto getto(uscita);
     CelleJson celle(getto, tabella);
     getto.aggiungi(QByteArrayView("{\"titolo\":"));
-    celle.stringa(tabella.titolo);
+    stringa(getto, tabella.titolo);
     getto.aggiungi(QByteArrayView(",\"filtro\":"));
-    celle.stringa(tabella.filtro);
+    stringa(getto, tabella.filtro);
     getto.aggiungi(QByteArrayView(",\"righe\":["));
     QByteArrayView fra = "\n";
     for (int r = 0; r < tabella.righe && getto.riuscito(); ++r) {

@@ -3,6 +3,7 @@
 #include "common/date.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +29,21 @@ void giorno(CelleRiga& celle, const Text<8>& campo) {
     celle.testo(dataDaAnnoMeseGiorno(campo.text()));
 }
 
+/// A field on file as a person reads it; where its characters are plain, no text of its own is made of it.
+template <std::size_t N>
+void leggibile(CelleRiga& celle, const Text<N>& campo) {
+    if (!std::ranges::all_of(campo.bytes, [](char c) { return c >= ' ' && c <= '~'; }))
+        return celle.testo(campo.trimmed());
+    std::array<char16_t, N> lettere{};
+    std::ranges::copy(campo.bytes, lettere.begin());
+    const auto nonBianca = [](char16_t c) { return c != u' '; };
+    const auto prima = std::ranges::find_if(lettere, nonBianca);
+    auto fine = lettere.end();
+    while (fine != prima && !nonBianca(fine[-1]))
+        --fine;
+    celle.testo(QStringView(prima, fine));
+}
+
 } // namespace
 
 void ElencoFatture::cella(int riga, Colonna colonna, CelleRiga& celle) const {
@@ -46,9 +62,9 @@ void ElencoFatture::cella(int riga, Colonna colonna, CelleRiga& celle) const {
     case Colonna::Cliente:
         return celle.testo(nomeCliente(r));
     case Colonna::Pa:
-        return celle.testo(r.pa ? u"PA" : u"");
+        return celle.testo(r.pa ? QStringView(u"PA") : QStringView());
     case Colonna::Pdf:
-        return celle.testo(r.pdf >= 0 ? u"PDF" : u"");
+        return celle.testo(r.pdf >= 0 ? QStringView(u"PDF") : QStringView());
     case Colonna::Importo:
         return celle.importo(r.importi.totale);
     case Colonna::Imponibile:
@@ -62,9 +78,11 @@ void ElencoFatture::cella(int riga, Colonna colonna, CelleRiga& celle) const {
     case Colonna::NomePdf:
         return celle.testo(puliscitesto(nomePdf(r)));
     case Colonna::Numero:
+        return leggibile(celle, r.numero);
     case Colonna::Chiave:
+        return leggibile(celle, r.datareg);
     case Colonna::Pagamento:
-        return celle.testo(testo(r, colonna, {}));
+        return celle.testo(nomePagamento(r));
     }
 }
 

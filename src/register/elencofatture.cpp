@@ -25,7 +25,7 @@ bool nominato(const Text<60>& pdf) {
 
 /// The number of its payment type; 0 where it names none.
 std::int16_t tipoPagamento(const Fte& fte) {
-    const int numero = QByteArray(fte.pagamento.raw().data(), fte.pagamento.raw().size()).trimmed().toInt();
+    const int numero = fte.pagamento.raw().trimmed().toInt();
     return breve(decltype(Tabelle::tipopagamenti)::contiene(numero) ? numero : 0);
 }
 
@@ -128,13 +128,12 @@ void ElencoFatture::leggiNomi(const Archivio& archivio) {
     m_nomi = nomiClienti(archivio, ultimo);
 }
 
-QString ElencoFatture::nomeCliente(const Riga& riga) const {
-    if (riga.annullata)
-        return eliminata;
-    return riga.cliente > 0 ? elemento(m_nomi, riga.cliente) : QString();
+const QString& ElencoFatture::nomeCliente(const Riga& riga) const {
+    // Nobody's name, the first one, is empty.
+    return riga.annullata ? eliminata : elemento(m_nomi, std::max<int>(riga.cliente, 0));
 }
 
-QString ElencoFatture::nomePagamento(const Riga& riga) const {
+const QString& ElencoFatture::nomePagamento(const Riga& riga) const {
     return m_tabelle.tipopagamenti[riga.pagamento].descrizione;
 }
 

@@ -105,8 +105,8 @@ private:
     void scorri(const Archivio& archivio, int primo, int ultimo, const Passa& passa, Scansione& scansione);
     void aggiungi(int record, const Fte& fte, const F2e& f2e);
     void leggiNomi(const Archivio& archivio);
-    QString nomeCliente(const Riga& riga) const;
-    QString nomePagamento(const Riga& riga) const;
+    const QString& nomeCliente(const Riga& riga) const;
+    const QString& nomePagamento(const Riga& riga) const;
     QString nomePdf(const Riga& riga) const;
 
     const Tabelle& m_tabelle;

@@ -65,6 +65,21 @@ TEST(Tabella, IlCsvSiApreNeiFogliDiCalcoloItaliani) {
                                             "\"riga\nspezzata\\\";;-3;0,00\r\n");
 }
 
+TEST(Tabella, OgniGiornoHaLeSueCifre) {
+    const QDate primo(1980, 1, 1);
+    constexpr int giorni = 40'000; // more than are kept, in leaps that come back to the same place
+    const auto giorno = [&](int riga) { return primo.addDays(qint64{riga} * 1024 % giorni); };
+    const Tabella tabella{{}, {}, {{u"G"_s, GenereColonna::Data}}, giorni, [&](int riga, CelleRiga& celle) {
+                              celle.data(giorno(riga));
+                          }};
+    const QList<QByteArray> righe = csv(tabella).split('\n');
+    ASSERT_EQ(righe.size(), giorni + 2);
+    for (int riga = 0; riga < giorni; ++riga)
+        ASSERT_EQ(righe[riga + 1], giorno(riga).toString(u"dd/MM/yyyy").toLatin1() + '\r');
+    EXPECT_EQ(json(tabella)[u"righe"].toArray()[1].toObject()[u"G"].toString(),
+              giorno(1).toString(Qt::ISODate));
+}
+
 TEST(Tabella, UnTestoNonDiventaFormula) {
     EXPECT_EQ(
         colonnaCsv({u"=1+1"_s, u"+39 06"_s, u"-cmd|' /C calc'!A0"_s, u"@SUM(A1)"_s, u"  =1"_s, u"\t=1"_s,
