@@ -79,6 +79,7 @@ LetturaElenco ElencoFatture::leggi(const Archivio& archivio, int primo, int ulti
 void ElencoFatture::scorri(const Archivio& archivio, int primo, int ultimo, const Passa& passa,
                            Scansione& scansione) {
     m_righe.clear();
+    m_righe.reserve(postoDaZero(std::clamp(ultimo - primo + 1, 0, massimoRighe)));
     m_pdf.clear();
     LetturaElenco& esito = scansione.esito;
     const auto fine = BloccoDiLettura::Orario::now() + scansione.attesa;

@@ -2,11 +2,11 @@
 
 #include "common/installazione.h"
 #include "common/italiano.h"
+#include "ui/icona.h"
 #include "ui/testiinteri.h"
 #include "ui/tonodesktop.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLocale>
 #include <QStyleFactory>
 
@@ -26,10 +26,8 @@ void parlaItaliano() {
 void presenta() {
     QCoreApplication::setApplicationName(identificatore.toString());
     QGuiApplication::setDesktopFileName(identificatore.toString());
-    QIcon icona;
-    for (const QString& lato : {u"48"_s, u"128"_s})
-        icona.addFile(u":/icone/%1-%2.png"_s.arg(identificatore, lato));
-    QGuiApplication::setWindowIcon(icona);
+    // A drawing, since for the first pixel picture Qt loads all that it knows of picture files.
+    QGuiApplication::setWindowIcon(icona(identificatore.toString(), ColoriIcona::DelDisegno));
 }
 
 /// A run without a desktop always looks the same.

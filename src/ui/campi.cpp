@@ -48,6 +48,8 @@ QSize CampoTesto::minimumSizeHint() const {
 
 void CampoTesto::focusInEvent(QFocusEvent* evento) {
     m_appenaEntrato = m_selezionaAlClic && evento->reason() == Qt::MouseFocusReason;
+    if (m_svuotabile)
+        setClearButtonEnabled(true);
     QLineEdit::focusInEvent(evento);
 }
 

@@ -22,6 +22,8 @@ public:
     QSize minimumSizeHint() const override;
     /// A click that brings the focus selects the whole content, as the Tab key does.
     void selezionaAlClic() { m_selezionaAlClic = true; }
+    /// A button that empties the box; made when the box is first entered, since its picture is slow to load.
+    void offriSvuota() { m_svuotabile = true; }
 
 protected:
     void focusInEvent(QFocusEvent* evento) override;
@@ -33,6 +35,7 @@ protected:
 
 private:
     bool m_selezionaAlClic = false;
+    bool m_svuotabile = false;
     bool m_appenaEntrato = false; ///< by a click whose button is still down
 };
 

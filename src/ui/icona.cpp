@@ -26,23 +26,15 @@ constexpr std::array<std::pair<const char*, const char*>, 5> scurite = {{{"#3B48
                                                                          {"#B23A2F", "#F28B80"},
                                                                          {"#1F8A4C", "#69CB90"}}};
 
-/// Drawn anew at each size and for the colours that are in use then.
+/// Drawn anew at each size and for the colours that are in use then; read when it is first drawn.
 class Disegno : public QIconEngine {
 public:
-    explicit Disegno(const QString& nome) : m_nome(nome) {
-        QFile file(u":/icone/%1.svg"_s.arg(nome));
-        QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        m_chiaro = std::make_unique<QSvgRenderer>(svg);
-        for (const auto& [chiaro, scuro] : scurite)
-            svg.replace(chiaro, scuro);
-        m_scuro = std::make_unique<QSvgRenderer>(svg);
-    }
+    Disegno(const QString& nome, ColoriIcona colori) : m_nome(nome), m_colori(colori) {}
 
     void paint(QPainter* pittore, const QRect& posto, QIcon::Mode modo, QIcon::State) override {
         constexpr double velato = 0.35;
-        const bool scuro = tonoDi(QGuiApplication::palette()) == Tono::Scuro;
         pittore->setOpacity(modo == QIcon::Disabled ? velato : 1);
-        (scuro ? m_scuro : m_chiaro)->render(pittore, posto);
+        inUso().render(pittore, posto);
     }
     QPixmap pixmap(const QSize& misura, QIcon::Mode modo, QIcon::State stato) override {
         QPixmap punti(misura);
@@ -51,18 +43,38 @@ public:
         paint(&pittore, QRect(QPoint(), misura), modo, stato);
         return punti;
     }
-    QIconEngine* clone() const override { return new Disegno(m_nome); }
+    QIconEngine* clone() const override { return new Disegno(m_nome, m_colori); }
 
 private:
+    QSvgRenderer& inUso() {
+        const bool scuro =
+            m_colori == ColoriIcona::DelDesktop && tonoDi(QGuiApplication::palette()) == Tono::Scuro;
+        std::unique_ptr<QSvgRenderer>& disegno = scuro ? m_scuro : m_chiaro;
+        if (!disegno)
+            disegno = std::make_unique<QSvgRenderer>(leggi(scuro));
+        return *disegno;
+    }
+
+    QByteArray leggi(bool scuro) const {
+        QFile file(u":/icone/%1.svg"_s.arg(m_nome));
+        QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        if (scuro) {
+            for (const auto& [daChiaro, daScuro] : scurite)
+                svg.replace(daChiaro, daScuro);
+        }
+        return svg;
+    }
+
     QString m_nome;
+    ColoriIcona m_colori;
     std::unique_ptr<QSvgRenderer> m_chiaro;
     std::unique_ptr<QSvgRenderer> m_scuro;
 };
 
 } // namespace
 
-QIcon icona(const QString& nome) {
-    return QIcon(new Disegno(nome));
+QIcon icona(const QString& nome, ColoriIcona colori) {
+    return QIcon(new Disegno(nome, colori));
 }
 
 } // namespace bor

@@ -5,7 +5,9 @@
 
 namespace bor {
 
-/// `nome` names a file of `src/ui/icone` without its ending.
-QIcon icona(const QString& nome);
+enum class ColoriIcona { DelDesktop, DelDisegno };
+
+/// `nome` names a file of `src/ui/icone`, or the program's own picture, without its ending.
+QIcon icona(const QString& nome, ColoriIcona colori = ColoriIcona::DelDesktop);
 
 } // namespace bor

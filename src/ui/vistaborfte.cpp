@@ -130,7 +130,7 @@ QGroupBox* VistaBorfte::creaFiltro() {
     m_cerca = new CampoTesto(u"cerca"_s, cerca);
     m_cerca->setPlaceholderText(u"numero, numero/anno, cliente, importo o data"_s);
     m_cerca->setToolTip(u"Restano in elenco i documenti che rispondono; Esc li mostra tutti"_s);
-    m_cerca->setClearButtonEnabled(true);
+    m_cerca->offriSvuota();
     legami.testo(
         m_cerca, [this] { return m_form.opzioni().scelte().cercato; },
         [this](const QString& testo) { m_form.opzioni().cerca(testo); });

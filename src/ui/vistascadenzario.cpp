@@ -79,7 +79,7 @@ QWidget* VistaScadenzario::creaScelte() {
                                 {[this] { return m_form.scelta().cliente; },
                                  [this](const QString& testo) { m_form.cambiaCliente(testo); }});
     cliente->setPlaceholderText(u"parte del nome"_s);
-    cliente->setClearButtonEnabled(true);
+    cliente->offriSvuota();
     metti(u"Cliente"_s, cliente);
     metti(u"Pagamento"_s,
           lista(u"pagamento"_s, u"Pagamento"_s, [this] { return m_form.pagamenti(); },
