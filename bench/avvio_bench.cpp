@@ -1,5 +1,5 @@
 // From the menu to the settled list of 32,000 documents on an X server, beside an empty window started the
-// same way. Run it under a virtual one: xvfb-run -a -s '-screen 0 1366x768x24' bench_avvio
+// same way. docs/performance.md tells how it is run under a virtual one.
 #include <QCoreApplication>
 #include <QProcess>
 #include <QStringList>
