@@ -1,5 +1,6 @@
 #include "app/modulo.h"
 #include "app/schermi.h"
+#include "archive/impostazioni.h"
 #include "common/avvertenze.h"
 #include "common/avvio.h"
 #include "ui/adattatori.h"
@@ -33,6 +34,8 @@ int main(int argc, char* argv[]) {
         Modulo::avvia(riga, Percorsi::predefiniti(), {operatore, orologio, sistema, finestra, stampante});
     if (!modulo)
         return 0;
+    // The desktop adds it to the title of each window: an office may have several companies open.
+    QGuiApplication::setApplicationDisplayName(nomeAzienda(modulo->contesto().archivio));
     aggiungiSchermi(finestra, *modulo);
     finestra.show();
     finestra.mostra(Schermo::Borfte);

@@ -33,8 +33,8 @@ template <class VistaDelloSchermo, class Form>
 void aggiungi(Finestra& finestra, Modulo& modulo, Schermo schermo, Form& form,
               Intestazione intestazione = Intestazione::DelDocumento) {
     const auto completa = [&modulo, schermo, intestazione](Vista& vista) {
-        vista.offriGuida(tastoGuida(schermo), [&modulo, schermo] {
-            apriGuida(modulo.contesto().sistema, modulo.contesto().operatore, capitolo(schermo));
+        vista.offriGuida(tastoGuida(schermo), capitolo(schermo), [&modulo](const QString& quale) {
+            apriGuida(modulo.contesto().sistema, modulo.contesto().operatore, quale);
         });
         if constexpr (requires(VistaDelloSchermo & sua) { sua.usa(modulo.storico()); })
             static_cast<VistaDelloSchermo&>(vista).usa(modulo.storico());

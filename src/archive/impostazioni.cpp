@@ -3,6 +3,7 @@
 #include "archive/archivio.h"
 #include "archive/filetesto.h"
 #include "common/numeri.h"
+#include "common/testo.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -92,6 +93,10 @@ QStringList leggiIntestazione(const Archivio& archivio) {
         linee.append(linea);
     }
     return linee;
+}
+
+QString nomeAzienda(const Archivio& archivio) {
+    return puliscitesto(leggiIntestazione(archivio).value(0));
 }
 
 } // namespace bor

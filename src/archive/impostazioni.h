@@ -30,4 +30,7 @@ bool salvagnr(Archivio& archivio, const Gnr& gnr);
 /// All lines of `borlano.int`, at most twenty: the heading of printed documents.
 QStringList leggiIntestazione(const Archivio& archivio);
 
+/// The first of them; empty for a company without a heading.
+QString nomeAzienda(const Archivio& archivio);
+
 } // namespace bor

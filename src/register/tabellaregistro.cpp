@@ -71,7 +71,7 @@ Tabella tabellaRegistro(const ElencoFatture& elenco, const std::vector<ColonnaSc
 
 QString titoloRegistro(const Archivio& archivio) {
     const QString titolo = u"Registro delle fatture emesse"_s;
-    const QString azienda = puliscitesto(leggiIntestazione(archivio).value(0));
+    const QString azienda = nomeAzienda(archivio);
     return azienda.isEmpty() ? titolo : titolo + u" - "_s + azienda;
 }
 

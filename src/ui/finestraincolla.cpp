@@ -3,6 +3,7 @@
 #include "common/posti.h"
 #include "document/testorighe.h"
 #include "ui/legami.h"
+#include "ui/vista.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -79,6 +80,7 @@ FinestraIncolla::FinestraIncolla(Incollate incollate, std::span<const ColonnaGri
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"incolla"_s);
     setWindowTitle(u"Righe da incollare"_s);
+    offriGuida(this, u"righe"_s);
     auto* modello =
         new ModelloGriglia(colonne,
                            {.righe = [this] { return quantiIn(m_incollate.righe); },

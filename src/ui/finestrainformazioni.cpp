@@ -1,6 +1,7 @@
 #include "ui/finestrainformazioni.h"
 
 #include "archive/disco.h"
+#include "ui/vista.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -34,6 +35,7 @@ FinestraInformazioni::FinestraInformazioni(const Diagnosi& diagnosi, const QStri
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"finestraInformazioni"_s);
     setWindowTitle(u"Informazioni"_s);
+    offriGuida(this, u"registro"_s);
     auto* layout = new QVBoxLayout(this);
     auto* righe = new QFormLayout;
     for (const auto& [didascalia, valore] : voci(diagnosi))

@@ -1,5 +1,7 @@
 #include "ui/finestralotto.h"
 
+#include "ui/vista.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
@@ -36,6 +38,7 @@ FinestraLotto::FinestraLotto(std::unique_ptr<Lotto> lotto, Finito finito, QWidge
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"finestraLotto"_s);
     setWindowTitle(m_lotto->titolo());
+    offriGuida(this, u"scelti"_s);
     m_pagine->addWidget(creaDomanda());
     m_pagine->addWidget(creaAvanzamento());
     auto* layout = new QVBoxLayout(this);

@@ -3,6 +3,7 @@
 #include "common/date.h"
 #include "common/posti.h"
 #include "ui/elencotesti.h"
+#include "ui/vista.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -50,6 +51,7 @@ FinestraPosta::FinestraPosta(const QString& documento, const std::vector<VocePos
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"finestraPosta"_s);
     setWindowTitle(u"Posta elettronica del documento"_s);
+    offriGuida(this, u"posta"_s);
     auto* layout = new QVBoxLayout(this);
     auto* cima = new QLabel(documento);
     cima->setTextFormat(Qt::PlainText);

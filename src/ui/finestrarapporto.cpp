@@ -4,6 +4,7 @@
 #include "common/tabella.h"
 #include "ui/griglia.h"
 #include "ui/stampatabella.h"
+#include "ui/vista.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -44,6 +45,7 @@ FinestraRapporto::FinestraRapporto(RapportoLotto rapporto, Apri apri, QWidget* p
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"finestraRapporto"_s);
     setWindowTitle(m_rapporto.titolo);
+    offriGuida(this, u"scelti"_s);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* conto = new QLabel(u"Esito: "_s + m_rapporto.conto());
     conto->setObjectName(u"conto"_s);

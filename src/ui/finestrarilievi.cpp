@@ -1,5 +1,7 @@
 #include "ui/finestrarilievi.h"
 
+#include "ui/vista.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
@@ -28,6 +30,7 @@ FinestraRilievi::FinestraRilievi(QWidget* parent)
     : QDialog(parent), m_esito(new QLabel), m_lista(new QListWidget) {
     setObjectName(u"rilievi"_s);
     setWindowTitle(u"Controllo della fattura elettronica"_s);
+    offriGuida(this, u"fattura-pa"_s);
     m_esito->setObjectName(u"esito"_s);
     m_lista->setObjectName(u"listaRilievi"_s);
     m_lista->setAccessibleName(u"Rilievi"_s);

@@ -84,6 +84,7 @@ FinestraStorico::FinestraStorico(Storico& storico, const DomandaStorico& domanda
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"storico"_s);
     setWindowTitle(u"Storico del cliente"_s);
+    offriGuida(this, u"righe"_s);
     m_storico.apri(domanda);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(creaDocumenti(), 1);

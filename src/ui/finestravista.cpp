@@ -4,6 +4,7 @@
 #include "common/posti.h"
 #include "ui/campi.h"
 #include "ui/campodata.h"
+#include "ui/vista.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -47,6 +48,7 @@ FinestraVista::FinestraVista(const VistaRegistro& vista, const Bordata& bordata,
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"finestraVista"_s);
     setWindowTitle(u"Vista del registro"_s);
+    offriGuida(this, u"registro"_s);
     auto* layout = new QVBoxLayout(this);
     auto* parti = new QHBoxLayout;
     parti->addWidget(creaDocumenti(bordata), 1);

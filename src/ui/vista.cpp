@@ -4,6 +4,7 @@
 #include "ui/lettere.h"
 
 #include <QBoxLayout>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QShortcut>
@@ -59,11 +60,17 @@ void Vista::intesta(const std::function<QString()>& testo) {
     static_cast<QBoxLayout*>(layout())->insertLayout(0, cima);
 }
 
-void Vista::offriGuida(const QKeySequence& tasto, const std::function<void()>& apri) {
+void Vista::offriGuida(const QKeySequence& tasto, const QString& capitolo, ApriCapitolo apri) {
+    m_apriGuida = std::move(apri);
     auto* bottone = new BottoneComando(u"guida"_s, u"Guida"_s, u"guida"_s, tasto);
-    connect(bottone, &QToolButton::clicked, this, apri);
+    connect(bottone, &QToolButton::clicked, this, [this, capitolo] { apriGuida(capitolo); });
     const QWidget* barra = layout()->itemAt(layout()->count() - 1)->widget();
     barra->layout()->addWidget(bottone);
+}
+
+void Vista::apriGuida(const QString& capitolo) const {
+    if (m_apriGuida)
+        m_apriGuida(capitolo);
 }
 
 QList<TastoSchermo> Vista::tasti() const {
@@ -93,6 +100,18 @@ void Vista::keyPressEvent(QKeyEvent* evento) {
         QWidget::keyPressEvent(evento);
     else if (!evento->isAutoRepeat())
         lascia();
+}
+
+void offriGuida(QDialog* finestra, const QString& capitolo) {
+    auto* tasto = new QShortcut(Qt::Key_F1, finestra);
+    tasto->setAutoRepeat(false);
+    QObject::connect(tasto, &QShortcut::activated, finestra, [finestra, capitolo] {
+        const QWidget* sotto = finestra->parentWidget();
+        while (sotto && !dynamic_cast<const Vista*>(sotto))
+            sotto = sotto->parentWidget();
+        if (const auto* vista = dynamic_cast<const Vista*>(sotto))
+            vista->apriGuida(capitolo);
+    });
 }
 
 } // namespace bor

@@ -370,7 +370,9 @@ void VistaBorfte::aggiornaElenco() {
     const int vista = m_elenco->verticalScrollBar()->value();
     const int corrente = m_form.rigaCorrente();
     m_modello->rinnova();
-    mostraIntero(m_mostrati, m_form.totali(m_form.elenco().somma()));
+    const QString scelti = m_form.opzioni().vista().documenti.descrizione();
+    mostraIntero(m_mostrati, (scelti.isEmpty() ? QString() : u"Vista: %1   "_s.arg(scelti)) +
+                                 m_form.totali(m_form.elenco().somma()));
     const QModelIndex cella = m_modello->index(corrente, m_colonne->cursore());
     m_scelta->rimetti(cella, m_form.scelta().ritrova());
     m_elenco->verticalScrollBar()->setValue(prima.value_or(vista));

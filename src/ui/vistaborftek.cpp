@@ -167,7 +167,7 @@ QWidget* VistaBorftek::creaComandi() {
 
 void VistaBorftek::apriStorico() {
     if (m_storico)
-        (new FinestraStorico(*m_storico, m_form.storico(), {}, window()))->open();
+        (new FinestraStorico(*m_storico, m_form.storico(), {}, this))->open();
 }
 
 void VistaBorftek::attiva() {

@@ -46,7 +46,7 @@ VistaBorftem::VistaBorftem(Borftem& form, QWidget* parent) : Vista(parent), m_fo
 
 void VistaBorftem::apriStorico() {
     if (m_storico && m_form.recordCorrente() > 0)
-        (new FinestraStorico(*m_storico, m_form.storico(), {}, window()))->open();
+        (new FinestraStorico(*m_storico, m_form.storico(), {}, this))->open();
 }
 
 QWidget* VistaBorftem::creaRicerca() {

@@ -199,7 +199,7 @@ void VistaBorftex::apriStorico() {
     const auto prendi = [this](const VenditaStorica& vendita) {
         legami.esegui([&] { m_form.prendi(vendita); });
     };
-    (new FinestraStorico(*m_storico, m_form.storico(), prendi, window()))->open();
+    (new FinestraStorico(*m_storico, m_form.storico(), prendi, this))->open();
 }
 
 void VistaBorftex::attiva() {

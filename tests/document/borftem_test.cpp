@@ -123,7 +123,7 @@ TEST_F(HeadForm, ConUnSoloClienteIlCursoreNonFaNulla) {
 }
 
 TEST_F(HeadForm, VettoreDallaRigaDellaCausale) {
-    contesto.tabelle.vettori[2] = {u"vendita"_s, u"scatole"_s, u" Corriere "_s, u"*"_s, u""_s, u""_s};
+    contesto.tabelle.vettori[2] = {u"vendita"_s, u"scatole"_s, {u" Corriere "_s, u"*"_s, u""_s}, u""_s};
     documento.testata.cliente.vettore = {u"a"_s, u"b"_s, u"c"_s};
     const auto prima = documento.testata.cliente.vettore;
     form.cambiaVettore(1);

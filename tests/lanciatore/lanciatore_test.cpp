@@ -237,11 +237,15 @@ TEST(SceltaAzienda, LaCopiaVaAvantiDietroLaFinestraESiPuoInterrompere) {
     const QTemporaryDir programmi;
     qputenv("XDG_DATA_HOME", QFile::encodeName(programmi.filePath(u"dati"_s)));
     // Waits for the file "via", then notes the copy as the tool does; a signal ends it with nothing done.
-    programma(programmi.filePath(u"borcopia"_s),
+    // Where an installation has it, seen from the launcher.
+    const QString interni = programmi.filePath(u"libexec/borfte"_s);
+    QDir().mkpath(interni);
+    QDir().mkpath(programmi.filePath(u"bin"_s));
+    programma(programmi.filePath(u"bin/borcopia"_s),
               "trap 'exit 2' TERM\necho avanzamento 40\nwhile [ ! -e \"$6/via\" ]; do sleep 0.02; done\n"
               "printf 'azienda=12\\nquando=2026-11-23T17:00:00Z\\nerrori=1\\n' > "
               "\"$2/Suprok/suprok/boraz0.012/borlano.cop\"\necho /copie/x.tar.zst\n");
-    SceltaAzienda finestra(unita.radice(), programmi.path(), [](const Percorsi&, int) { return true; });
+    SceltaAzienda finestra(unita.radice(), interni, [](const Percorsi&, int) { return true; });
     finestra.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
     auto* elenco = finestra.findChild<QTreeWidget*>(u"elenco"_s);

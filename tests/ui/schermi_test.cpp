@@ -9,6 +9,7 @@
 
 #include <QAbstractSlider>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -255,6 +256,14 @@ TEST_F(Schermi, F1ApreIlCapitoloDelloSchermo) {
     sistema.esitoApri = EsitoApri::SenzaProgramma;
     tasto(mostra(Schermo::Borfte), Qt::Key_F1);
     EXPECT_EQ(operatore.messaggi.size(), 1);
+
+    Vista& registro = mostra(Schermo::Borfte);
+    tasto(registro, Qt::Key_L, Qt::ControlModifier);
+    auto* sopra = registro.findChild<QDialog*>(u"finestraVista"_s);
+    ASSERT_TRUE(sopra && QTest::qWaitForWindowActive(sopra));
+    sistema.aperti.clear();
+    tasto(*sopra, Qt::Key_F1);
+    EXPECT_EQ(sistema.aperti, QStringList{pagine + u"registro.html"_s});
 }
 
 TEST_F(Schermi, F12MostraITastiDelloSchermo) {

@@ -23,8 +23,8 @@ protected:
         azienda.cliente(u"Bianchi Édith & Figli"_s);
         apriForm();
         prova->tabelle.aliquote[1] = {u"22"_s, u"20"_s, {}, u"4"_s};
-        prova->tabelle.vettori[1] = {u"Vendita"_s,      u"Scatole"_s, u"Corriere Espresso"_s,
-                                     u"Via Emilia 3"_s, u"*"_s,       {}};
+        prova->tabelle.vettori[1] = {
+            u"Vendita"_s, u"Scatole"_s, {u"Corriere Espresso"_s, u"Via Emilia 3"_s, u"*"_s}, {}};
         prova->tabelle.tipopagamenti[2].descrizione = u"Rimessa diretta 30 giorni fine mese"_s;
         apriVista();
     }

@@ -102,6 +102,8 @@ TEST_F(VistaElencoTest, CtrlLSceglieIDocumentiELeColonneEComePrimaLiRimette) {
 
     apri();
     EXPECT_EQ(form->elenco().quante(), 3) << "as it was left";
+    EXPECT_TRUE(testoDi(*vista, u"mostrati"_s).startsWith(u"Vista: 2º trimestre 2015   3 documenti"_s))
+        << qPrintable(testoDi(*vista, u"mostrati"_s));
     EXPECT_EQ(intestazioni(), u"Registr. Data Imponibile Fattura Data Cliente Importo PA");
     EXPECT_EQ(larga(Colonna::Imponibile), venti);
 

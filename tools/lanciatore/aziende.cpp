@@ -75,7 +75,7 @@ Comando comandoDimostrazione(const QString& cartellaProgrammi, const QString& un
 
 Comando comandoCopia(const QString& cartellaProgrammi, const QString& unita, int codiceazienda,
                      const QString& cartella) {
-    return {cartellaProgrammi + u"/borcopia"_s,
+    return {bor::programma(cartellaProgrammi, u"borcopia"),
             {u"--unita"_s, unita, u"--azienda"_s, QString::number(codiceazienda), u"--in"_s, cartella,
              u"--avanzamento"_s}};
 }
