@@ -6,8 +6,6 @@
 #include "document/codiceiva.h"
 #include "document/righeinsospeso.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -65,11 +63,10 @@ void Borftel::componi() {
 }
 
 void Borftel::controllaCartella() {
-    const QString& cartella = m_generatore->cartella();
-    if (!QFileInfo(cartella).isDir())
+    if (!m_generatore->cartellaPronta())
         m_prova.rilievi.push_back(
             {.elemento = {},
-             .valore = cartella,
+             .valore = m_generatore->cartella(),
              .motivo = u"La cartella dei file non c'è."_s,
              .rimedio =
                  u"Crearla, o indicarne un'altra nei quadri azienda del \"Kit Fatture elettroniche PA\"."_s});

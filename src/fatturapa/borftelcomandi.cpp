@@ -1,6 +1,8 @@
 // The command bar of the screen of today's electronic invoice.
 #include "fatturapa/borftel.h"
 
+#include "xmlcheck/elementiinparole.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -57,7 +59,7 @@ void Borftel::racconta(const EsitoFel& esito) {
     const Rilievo* primo = primoErrore(esito.rilievi);
     if (!primo)
         return;
-    const QString motivo = u"%1\n%2"_s.arg(primo->motivo, primo->rimedio);
+    const QString motivo = u"%1\n%2"_s.arg(motivoInParole(*primo), primo->rimedio);
     if (esito.stato == EsitoFel::Stato::Scritta)
         m_contesto.operatore.messaggio(
             u"Il file %1 è stato scritto, ma il sistema di interscambio lo rifiuterebbe (%2).\n\n%3"_s.arg(
@@ -104,8 +106,8 @@ std::optional<QByteArray> Borftel::daLeggere() {
     if (!primo)
         return std::nullopt;
     m_contesto.operatore.messaggio(
-        u"Non c'è ancora una fattura da leggere.\n\n%1\n%2"_s.arg(primo->motivo, primo->rimedio), titoloForm,
-        Icona::Esclamazione);
+        u"Non c'è ancora una fattura da leggere.\n\n%1\n%2"_s.arg(motivoInParole(*primo), primo->rimedio),
+        titoloForm, Icona::Esclamazione);
     m_fuoco = postoDi(*primo);
     return std::nullopt;
 }

@@ -5,6 +5,7 @@
 #include "fatturapa/scrivifattura.h"
 #include "xmlcheck/controlloxml.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -123,6 +124,13 @@ ProvaFel GeneratoreFel::prova(const Documento& documento, const DatiFel& propri)
     return prova;
 }
 
+bool GeneratoreFel::cartellaPronta() const {
+    const QFileInfo cartella(m_cartella);
+    const QFileInfo sopra(cartella.path());
+    return cartella.isDir() ||
+           (!m_cartella.isEmpty() && !cartella.exists() && sopra.isDir() && sopra.isWritable());
+}
+
 QString GeneratoreFel::nomeFile(const QString& progressivo) const {
     QString chi;
     for (const QChar c : testoAscii(m_azienda->idpaese.text() + m_azienda->idcodice.text()))
@@ -203,6 +211,8 @@ EsitoFel GeneratoreFel::emetti(const Documento& documento, InUscitaFel uscita) c
     }
     if (composta.fattura.trasmissione.progressivo.isEmpty())
         composta.fattura.trasmissione.progressivo = progressivo;
+    // A company that came back from a copy has no folder of the files yet.
+    QDir().mkdir(m_cartella);
     const QByteArray xml = scrivi(documento, datiPropri(documento), composta);
     esito.percorso = percorsoDi(progressivo);
     esito.rilievi = std::move(composta.rilievi);

@@ -75,6 +75,8 @@ public:
 
     /// Folder of this machine; empty when the company names none of the program.
     const QString& cartella() const { return m_cartella; }
+    /// The folder is there, or is all that is missing of its path: the first file makes it.
+    bool cartellaPronta() const;
     /// Of the document's file on this machine; empty as long as it has no name.
     QString percorso(const Documento& documento) const;
     FileDocumento suDisco(const Documento& documento) const;

@@ -1,5 +1,6 @@
 #include "fatturapa/postifel.h"
 
+#include "xmlcheck/elementiinparole.h"
 #include "xmlcheck/tracciato.h"
 
 #include <QRegularExpression>
@@ -94,7 +95,7 @@ QString rilievoInBreve(const Rilievo& rilievo) {
         parti << u"Avviso."_s;
     if (!rilievo.codice.isEmpty())
         parti << scartoDi(rilievo);
-    parti << rilievo.motivo;
+    parti << motivoInParole(rilievo);
     if (!rilievo.valore.isEmpty())
         parti << u"(\"%1\")"_s.arg(rilievo.valore.left(60));
     parti << rilievo.rimedio;

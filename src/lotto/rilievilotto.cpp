@@ -1,5 +1,7 @@
 #include "lotto/rilievilotto.h"
 
+#include "xmlcheck/elementiinparole.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -11,7 +13,7 @@ QString primoRilievo(const std::vector<Rilievo>& rilievi) {
         return {};
     const auto errore = std::ranges::find(rilievi, Gravita::Errore, &Rilievo::gravita);
     const Rilievo& primo = errore == rilievi.end() ? rilievi.front() : *errore;
-    return (primo.motivo + u' ' + primo.rimedio).simplified();
+    return (motivoInParole(primo) + u' ' + primo.rimedio).simplified();
 }
 
 QString riassunto(const std::vector<Rilievo>& rilievi) {

@@ -131,9 +131,21 @@ TEST(Borftel, ChiEsceConDatiNonRegistratiVieneAvvisatoETornaDaDoveEraVenuto) {
     EXPECT_EQ(s.prova.navigatore.mostrati.last(), Schermo::Borftea);
 }
 
-TEST(Borftel, QuelCheMancaVieneDetto) {
+TEST(Borftel, LaCartellaCheUnRipristinoNonHaNasceConIlPrimoFile) {
     SchermataFel s;
     QDir(s.azienda.percorsi().radiceCorrente()).rmdir(u"xml"_s);
+    s.apri(1);
+    EXPECT_FALSE(s.form.rilievi().grave(PostoFel::File));
+    s.form.genera();
+    EXPECT_TRUE(s.prova.operatore.messaggi.isEmpty());
+    EXPECT_FALSE(s.contenuto().isEmpty());
+}
+
+TEST(Borftel, QuelCheMancaVieneDetto) {
+    SchermataFel s;
+    QDir radice(s.azienda.percorsi().radiceCorrente());
+    radice.rmdir(u"xml"_s);
+    ASSERT_TRUE(QFile(radice.filePath(u"xml"_s)).open(QIODevice::WriteOnly));
     s.apri(1);
     EXPECT_TRUE(s.form.rilievi().testo(PostoFel::File).contains(u"cartella dei file non c'è"_s));
     s.azienda.scrivi(u"borlano.fpa"_s, {});
