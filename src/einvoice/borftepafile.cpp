@@ -114,7 +114,9 @@ std::optional<std::vector<Rilievo>> Borftepa::controlla() {
     if (m_generata->percorso.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         m_contesto.operatore.messaggio(
             u"Il file %1 non si trova nella cartella %2: controllare che la cartella esista e che il numero del documento possa far parte del nome di un file"_s
-                .arg(m_generata->nome, cartellaXml(m_fpaazienda)),
+                .arg(m_generata->nome, m_generata->percorso.isEmpty()
+                                           ? cartellaXml(m_fpaazienda)
+                                           : QFileInfo(m_generata->percorso).path()),
             titoloForm, Icona::Esclamazione);
         return std::nullopt;
     }

@@ -37,7 +37,7 @@ bool pdfLibero(const Documento& documento, const Contesto& contesto, const QStri
     const Fte fte = contesto.archivio.fte.leggi(altro);
     return contesto.operatore.chiedi(
         u"Il file \"%1\" è già il PDF del documento n. %2 del %3. Sostituirlo?"_s.arg(
-            pdf, fte.numero.trimmed(), dataDaAnnoMeseGiorno(fte.datadoc.text())),
+            contesto.archivio.reale(pdf), fte.numero.trimmed(), dataDaAnnoMeseGiorno(fte.datadoc.text())),
         titoloAttenzione, Icona::Esclamazione, Predefinita::No);
 }
 
@@ -104,10 +104,6 @@ void generapdf(Documento& documento, const Contesto& contesto) {
                  .testo = testi.testo(documento.parcella())}))
         return;
     documento.estremi.pdf = pdf;
-    if (destinatario != senzaPosta)
-        contesto.operatore.messaggio(u"Il documento è stato affidato all'invio per posta elettronica a: "_s +
-                                         destinatario,
-                                     titoloAttenzione, Icona::Informazione);
 }
 
 void anteprima(const Documento& documento, const Contesto& contesto) {

@@ -71,7 +71,7 @@ TEST(ImpostazioniPosta, DiceCheCosaMancaOCheCosaNonÈSicuro) {
         {base + "sicurezza=boh", u"boh"},
         {base + "porta=70000", u"porta"},
         {base + "utente=io", u"chmod 600"},
-        {base + "utente=io\npassword_file=c:\\assente.pwd", u"c:\\assente.pwd"},
+        {base + "utente=io\npassword_file=c:\\assente.pwd", u"/c/assente.pwd"},
         {base + "utente=io\npassword_file=\\..\\..\\etc\\passwd", u"non si può leggere"},
     };
     for (const auto& caso : casi) {

@@ -157,7 +157,8 @@ TEST(Posta, UnIndirizzoCattivoNonRaggiungeIlServerEIlPdfResta) {
         QString errore;
         EXPECT_FALSE(esegui(*ComandoPdf::leggi({u"l,c:\\bordoc.rto,\\p\\ftr1.pdf,"_s + indirizzo}),
                             unita.percorsi(), errore));
-        EXPECT_TRUE(errore.startsWith(u"Il PDF \\p\\ftr1.pdf è pronto ma non è stato spedito"_s))
+        EXPECT_TRUE(errore.startsWith(
+            u"Il PDF %1 è pronto ma non è stato spedito"_s.arg(unita.reale(u"\\p\\ftr1.pdf"_s))))
             << qPrintable(errore);
         EXPECT_TRUE(unita.leggi(u"\\p\\ftr1.pdf"_s).startsWith("%PDF-"));
     }

@@ -24,6 +24,10 @@ std::optional<QByteArray> leggiFile(const Percorsi& percorsi, const QString& dos
     return file.read(massimo);
 }
 
+QString sulDisco(const Percorsi& percorsi, const QString& dos) {
+    return percorsi.reale(dos).value_or(dos);
+}
+
 QString primoNonVuoto(std::initializer_list<QString> testi) {
     for (const QString& testo : testi)
         if (!testo.isEmpty())
@@ -56,15 +60,15 @@ QByteArray scriviPdf(const QString& pdf, const PagineStampate& stampa, const Lay
     const QByteArray byte = componiPdf(stampa, layout, titolo, disegnatore);
     if (!byte.isEmpty() && scriviIntero(*file, byte))
         return byte;
-    errore = u"Non si può scrivere il PDF %1: controllare la cartella e lo spazio su disco."_s.arg(pdf);
+    errore = u"Non si può scrivere il PDF %1: controllare la cartella e lo spazio su disco."_s.arg(*file);
     return {};
 }
 
 std::optional<DocumentoPdf> apri(const ComandoPdf& comando, const Percorsi& percorsi, QString& errore) {
     const auto byte = leggiFile(percorsi, comando.rapporto, massimoRapporto);
     if (!byte) {
-        errore =
-            u"Non si può leggere il file di stampa %1: stampare prima il documento."_s.arg(comando.rapporto);
+        errore = u"Non si può leggere il file di stampa %1: stampare prima il documento."_s.arg(
+            sulDisco(percorsi, comando.rapporto));
         return std::nullopt;
     }
     auto stampa = PagineStampate::leggi(*byte, errore);
@@ -89,7 +93,7 @@ bool esegui(const ComandoPdf& comando, const Percorsi& percorsi, QString& errore
                                 .pdf = {{comando.pdf, pdf}}};
     if (comando.indirizzo == senzaPosta || spedisciPdf(spedizione, layout, percorsi, errore))
         return true;
-    errore = u"Il PDF %1 è pronto ma non è stato spedito: "_s.arg(comando.pdf) + errore;
+    errore = u"Il PDF %1 è pronto ma non è stato spedito: "_s.arg(sulDisco(percorsi, comando.pdf)) + errore;
     return false;
 }
 

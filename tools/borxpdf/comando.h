@@ -33,6 +33,9 @@ Disegnatore disegnatoreDi(const QString& layout, const Percorsi& percorsi);
 /// The bytes of a file (a DOS path); nothing when it is missing, cannot be read or is larger than `massimo`.
 std::optional<QByteArray> leggiFile(const Percorsi& percorsi, const QString& dos, qint64 massimo);
 
+/// How messages name a file: where it lies on this machine, the DOS path of one that can lie nowhere.
+QString sulDisco(const Percorsi& percorsi, const QString& dos);
+
 /// The first text that is not empty.
 QString primoNonVuoto(std::initializer_list<QString> testi);
 

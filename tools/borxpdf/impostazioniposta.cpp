@@ -54,18 +54,18 @@ bool leggiPassword(const QString& dos, const Percorsi& percorsi, QByteArray& pas
     const auto nome = percorsi.reale(dos);
     QFile file(nome.value_or(QString()));
     if (!nome || !file.open(QIODevice::ReadOnly)) {
-        errore = u"non si può leggere il file della password %1."_s.arg(dos);
+        errore = u"non si può leggere il file della password %1."_s.arg(nome.value_or(dos));
         return false;
     }
     constexpr auto altrui = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     if (file.permissions() & altrui) {
         errore = u"il file della password %1 può essere letto da altri: renderlo leggibile solo a sé "
-                 u"(chmod 600)."_s.arg(dos);
+                 u"(chmod 600)."_s.arg(*nome);
         return false;
     }
     password = file.readLine(kMassimaPassword).trimmed();
     if (password.isEmpty()) {
-        errore = u"il file della password %1 è vuoto."_s.arg(dos);
+        errore = u"il file della password %1 è vuoto."_s.arg(*nome);
         return false;
     }
     return true;

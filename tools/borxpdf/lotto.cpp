@@ -51,7 +51,7 @@ public:
         for (const QString& nome : comando.allegati) {
             const auto pdf = leggiFile(m_percorsi, nome, kMassimoPdf);
             if (!pdf)
-                return u"il PDF %1 non si può leggere."_s.arg(nome);
+                return u"il PDF %1 non si può leggere."_s.arg(sulDisco(m_percorsi, nome));
             spedizione.pdf.push_back({nome, *pdf});
         }
         return spedisciPdf(spedizione, layout, m_percorsi, errore) ? QString() : errore;

@@ -28,11 +28,23 @@ void scegliSchermo() {
     qputenv("QT_QPA_PLATFORM", schermo ? "xcb;wayland;offscreen" : "offscreen");
 }
 
+bool conSchermo() {
+    const QString schermo = QGuiApplication::platformName();
+    return schermo != "offscreen"_L1 && schermo != "minimal"_L1;
+}
+
 void avvisa(const QString& errore) {
     std::fprintf(stderr, "borxpdf: %s\n", errore.toUtf8().constData());
-    const QString schermo = QGuiApplication::platformName();
-    if (schermo != "offscreen"_L1 && schermo != "minimal"_L1)
+    if (conSchermo())
         QMessageBox::critical(nullptr, u"Attenzione"_s, errore);
+}
+
+/// Who asked for a mail went on working meanwhile.
+void raccontaPosta(const bor::ComandoPdf& comando) {
+    if (comando.indirizzo != bor::senzaPosta && conSchermo())
+        QMessageBox::information(nullptr, u"Attenzione"_s,
+                                 u"Il documento è stato spedito per posta elettronica a: "_s +
+                                     comando.indirizzo);
 }
 
 /// Only by itself: words of a command may begin with dashes.
@@ -81,6 +93,7 @@ int main(int argc, char* argv[]) {
             return QApplication::exec();
         }
     } else if (bor::pdf::esegui(*comando, percorsi, errore)) {
+        raccontaPosta(*comando);
         return 0;
     }
     avvisa(errore);

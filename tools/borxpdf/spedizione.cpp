@@ -29,12 +29,12 @@ std::optional<ImpostazioniPosta> leggiImpostazioni(const Percorsi& percorsi, QSt
     const QString nomeIni = radiceSuite.toString() + u"borxpdf.ini"_s;
     const auto ini = leggiFile(percorsi, nomeIni, kMassimoTesto);
     if (!ini) {
-        errore = u"manca il file delle impostazioni %1."_s.arg(nomeIni);
+        errore = u"manca il file delle impostazioni %1."_s.arg(sulDisco(percorsi, nomeIni));
         return std::nullopt;
     }
     auto posta = ImpostazioniPosta::leggi(FileIni(*ini), percorsi, errore);
     if (!posta)
-        errore = u"nel file %1 "_s.arg(nomeIni) + errore;
+        errore = u"nel file %1 "_s.arg(sulDisco(percorsi, nomeIni)) + errore;
     return posta;
 }
 
