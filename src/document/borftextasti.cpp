@@ -152,21 +152,47 @@ void Borftex::scegliArticolo(int posizione) {
 void Borftex::cercaDescrizione() {
     if (!m_articoli.visibile() || (!m_ricerca && m_campofuoco != Campo::Ds))
         return;
-    const Archivio& archivio = m_contesto.archivio;
-    if (!m_ricerca)
-        m_ricerca = Ricerca{m_righe.riga(rigaFuoco()).descrizione, 0, m_righe.tutte()};
-    int trovato = cercadescrizione(archivio, m_ricerca->testo, m_ricerca->trovato);
-    if (trovato == 0 && m_ricerca->trovato > 0)
-        trovato = cercadescrizione(archivio, m_ricerca->testo); // behind the last one comes the first
-    if (trovato == 0) {
-        m_ricerca.reset();
-        return articoloNonEsistente(Campo::Ds);
+    if (!m_ricerca) {
+        const QString testo = m_righe.riga(rigaFuoco()).descrizione;
+        const int primo = cercadescrizione(m_contesto.archivio, testo);
+        if (primo == 0)
+            return articoloNonEsistente(Campo::Ds);
+        m_ricerca = Ricerca{testo, primo, m_righe.tutte()};
+        // The first one that fits may be a deleted article, which the list does not have.
+        if (!inElenco(primo)) {
+            m_listx = u"L'articolo trovato è eliminato: F1 cerca il seguente"_s;
+            return;
+        }
+    } else if (const int altro = altroTrovato(); altro > 0) {
+        m_ricerca->trovato = altro;
+    } else {
+        m_listx = u"Nessun altro articolo comincia con questa descrizione"_s;
+        return;
     }
-    m_ricerca->trovato = trovato;
     // The additional text of the article found before goes with it.
     m_righe.rimetti(m_ricerca->prima);
-    if (const int recart = m_articoli.cerca(archivio.art.leggi(trovato).codice.text()); recart > 0)
-        mettiArticolo(recart, RigheMerce::Da::Lista);
+    mettiArticolo(m_articoli.cerca(codiceDi(m_ricerca->trovato)), RigheMerce::Da::Lista);
+}
+
+QString Borftex::codiceDi(int recart) const {
+    return m_contesto.archivio.art.leggi(recart).codice.text();
+}
+
+bool Borftex::inElenco(int recart) const {
+    return m_articoli.lista().cerca(codiceDi(recart)) >= 0;
+}
+
+int Borftex::altroTrovato() const {
+    const auto prossimo = [this](int dopo) {
+        do
+            dopo = cercadescrizione(m_contesto.archivio, m_ricerca->testo, dopo);
+        while (dopo > 0 && !inElenco(dopo));
+        return dopo;
+    };
+    int altro = prossimo(m_ricerca->trovato);
+    if (altro == 0)
+        altro = prossimo(0); // behind the last one comes the first
+    return altro == m_ricerca->trovato ? 0 : altro;
 }
 
 void Borftex::mettiArticolo(int recart, RigheMerce::Da da) {

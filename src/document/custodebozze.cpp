@@ -37,11 +37,13 @@ QString descrizione(const Bozza& bozza, const Valuta& valuta) {
     const Documento& d = bozza.documento;
     const QString numero = d.estremi.numero.trimmed();
     const SedeTesti& cliente = d.testata.cliente.sede;
-    return u"%1 %2, %3, totale %4"_s.arg(
-        genere(d), numero.isEmpty() ? u"ancora senza numero"_s : u"n. "_s + numero,
-        cliente.ragione1.isEmpty() ? u"senza cliente"_s
-                                   : (cliente.ragione1 + u' ' + cliente.ragione2).trimmed(),
-        valuta.importotesto(totali(d).totaledoc));
+    QStringList parti{genere(d) + (numero.isEmpty() ? u" ancora senza numero"_s : u" n. "_s + numero),
+                      cliente.ragione1.isEmpty() ? u"senza cliente"_s
+                                                 : (cliente.ragione1 + u' ' + cliente.ragione2).trimmed()};
+    // Lines that nobody confirmed are in no total yet.
+    if (const QString totale = valuta.importotesto(totali(d).totaledoc); !totale.isEmpty())
+        parti << u"totale "_s + totale;
+    return parti.join(u", "_s);
 }
 
 } // namespace

@@ -11,7 +11,10 @@
 #include <QList>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -23,8 +26,8 @@ constexpr int caratteriData = 10;
 
 } // namespace
 
-FinestraData::FinestraData(const Bordata& bordata, QWidget* parent)
-    : QDialog(parent), m_bordata(bordata), m_calendario(new QCalendarWidget) {
+FinestraData::FinestraData(const Bordata& bordata, QWidget* parent, const QWidget* campo)
+    : QDialog(parent), m_bordata(bordata), m_campo(campo), m_calendario(new QCalendarWidget) {
     setObjectName(u"bordata"_s);
     setWindowTitle(u"Imposta data"_s);
     m_calendario->setObjectName(u"nuovadata"_s);
@@ -60,7 +63,16 @@ bool FinestraData::eventFilter(QObject* oggetto, QEvent* evento) {
 void FinestraData::showEvent(QShowEvent* evento) {
     QDialog::showEvent(evento);
     const QRect posto = screen()->availableGeometry();
-    move(posto.center() - rect().center());
+    if (!m_campo)
+        return move(posto.center() - rect().center());
+    // The window's own frame is not known before it is on screen.
+    const QSize misura = size() + QSize(8, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    const QRect campo(m_campo->mapToGlobal(QPoint()), m_campo->size());
+    const int sotto = campo.bottom() + 1;
+    const bool entra = sotto + misura.height() <= posto.bottom() + 1;
+    const int x =
+        std::clamp(campo.left(), posto.left(), std::max(posto.left(), posto.right() + 1 - misura.width()));
+    move(x, std::max(posto.top(), entra ? sotto : campo.top() - misura.height()));
 }
 
 void FinestraData::scegli() {
@@ -112,7 +124,7 @@ bool CampoData::eventFilter(QObject* oggetto, QEvent* evento) {
 
 void CampoData::apriCalendario() {
     m_bordata.prepara(m_campo->text());
-    FinestraData(m_bordata, this).exec();
+    FinestraData(m_bordata, this, this).exec();
     m_campo->setFocus();
     if (!m_bordata.scelta().isEmpty())
         metti(m_bordata.scelta());

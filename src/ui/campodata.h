@@ -10,11 +10,12 @@ class QCalendarWidget;
 
 namespace bor {
 
-/// The date dialog, in the middle of the screen. A click on a day chooses it and closes the dialog; the arrow
-/// keys walk through the days, and Enter chooses.
+/// The date dialog. A click on a day chooses it and closes the dialog; the arrow keys walk through the days,
+/// and Enter chooses.
 class FinestraData : public QDialog {
 public:
-    explicit FinestraData(const Bordata& bordata, QWidget* parent);
+    /// In the middle of the screen, or, where a field is given, below it; above it where the screen ends.
+    explicit FinestraData(const Bordata& bordata, QWidget* parent, const QWidget* campo = nullptr);
 
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
@@ -24,6 +25,7 @@ private:
     void scegli();
 
     Bordata m_bordata;
+    const QWidget* m_campo;
     QCalendarWidget* m_calendario;
     bool m_cammina = false; ///< a key is moving the selection
 };

@@ -240,6 +240,12 @@ QWidget* VistaBorftepa::creaComandi() {
     auto* controllo =
         barra->comando(u"controlla"_s, u"Controlla"_s, u"controlla"_s, u"F8"_s, [this] { controlla(); });
     legami.abilitato(controllo, [this] { return m_form.generato(); });
+    legami.altro([this, controllo, solito = controllo->toolTip()] {
+        controllo->setToolTip(m_form.generato()
+                                  ? solito
+                                  : u"Controlla il file che \"Genera fattura\" (F10) scrive: da quando "
+                                    u"lo schermo è aperto non è ancora stato generato"_s);
+    });
     return barra;
 }
 

@@ -7,6 +7,7 @@
 #include "ui/campi.h"
 #include "ui/griglia.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -29,6 +30,13 @@ constexpr std::array<ColonnaGriglia, colonneCliente> colonne = {{
     {u"Città", 3000},
     {u"Partita iva", ColonnaGriglia::elastica, Qt::AlignLeft, 1200},
 }};
+
+/// A key that changes a text.
+bool scrive(const QKeyEvent& tasto) {
+    const bool comando = (tasto.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    return !comando &&
+           (tasto.key() == Qt::Key_Backspace || (!tasto.text().isEmpty() && tasto.text().at(0).isPrint()));
+}
 
 } // namespace
 
@@ -80,6 +88,7 @@ QWidget* VistaBorsel::creaElenco() {
     preparaElenco(m_elenco, colonne, [this] { return m_form.quanti(); });
     connect(m_elenco, &QTableView::doubleClicked, this, [this] { scegli(); });
     invio.passo(m_elenco, [this] { scegli(); });
+    m_elenco->installEventFilter(this);
 
     std::vector<BarraIntestazioni::Comando> comandi;
     comandi.reserve(colonneCliente);
@@ -120,6 +129,16 @@ void VistaBorsel::keyPressEvent(QKeyEvent* evento) {
         vaiA(m_elenco);
     else
         Vista::keyPressEvent(evento);
+}
+
+bool VistaBorsel::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (oggetto != m_elenco || evento->type() != QEvent::KeyPress ||
+        !scrive(*static_cast<QKeyEvent*>(evento)))
+        return Vista::eventFilter(oggetto, evento);
+    m_selnome->setFocus(Qt::OtherFocusReason);
+    m_selnome->end(false);
+    QCoreApplication::sendEvent(m_selnome, evento);
+    return true;
 }
 
 void VistaBorsel::aggiornaElenco() {

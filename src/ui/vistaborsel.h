@@ -21,6 +21,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    /// What is typed in the list goes on in the search box.
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
     QWidget* creaRicerca();

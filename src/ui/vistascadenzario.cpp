@@ -51,6 +51,7 @@ VistaScadenzario::VistaScadenzario(Scadenzario& form)
     const auto apri = [this] { legami.esegui([this] { m_form.apri(elenco()->currentIndex().row()); }); };
     connect(elenco(), &QTableView::doubleClicked, this, apri);
     invio.passo(elenco(), apri);
+    altriTasti = {{u"Invio"_s, u"Nell'elenco: apre il documento della rata"_s}};
 }
 
 QWidget* VistaScadenzario::creaScelte() {

@@ -215,6 +215,31 @@ TEST_F(Righe, CercaPerDescrizioneConF1) {
     EXPECT_EQ(riga(1).recart, 0) << "only while the list is open";
 }
 
+TEST_F(Righe, F1SenzaAltriArticoliLasciaLaRigaEDiceloSotto) {
+    Art tolto = articoloDi(u"VITE2"_s, u"Vite a legno lunga"_s, 7, 1);
+    tolto.eliminato = 1;
+    azienda.articolo(tolto);
+    azienda.articolo(articoloDi(u"VITE3"_s, u"Vite a ferro"_s, 9, 1));
+    form.attiva();
+    const auto cerca = [&](const QString& testo, int volte) {
+        scrivi(Campo::Ds, 0, testo);
+        for (int volta = 0; volta < volte; ++volta)
+            form.esegui(Comando::CercaDescrizione);
+    };
+    cerca(u"vite a legno"_s, 2);
+    EXPECT_EQ(riga(0).codice, u"VITE"_s) << "the other one that fits is deleted";
+    EXPECT_EQ(riga(0).prezzo, 100.0);
+    EXPECT_TRUE(form.listx().startsWith(u"Nessun altro articolo"_s));
+    cerca(u"vite"_s, 2);
+    EXPECT_EQ(riga(0).codice, u"VITE3"_s) << "past the deleted one";
+    form.esegui(Comando::CercaDescrizione);
+    EXPECT_EQ(riga(0).codice, u"VITE"_s);
+    cerca(u"vite a legno l"_s, 1);
+    EXPECT_EQ(riga(0).descrizione, u"vite a legno l"_s);
+    EXPECT_TRUE(form.listx().startsWith(u"L'articolo trovato è eliminato"_s));
+    EXPECT_TRUE(contesto.operatore.messaggi.isEmpty());
+}
+
 TEST_F(Righe, InserisceEliminaERiordinaComeLaSuite) {
     const QStringList codiciDocumento{u"C"_s, u"B"_s, u"C"_s, u""_s, u"a"_s, u"A"_s};
     for (int i = 0; i < 6; ++i)

@@ -309,6 +309,7 @@ TEST_F(CustodeTest, NellaTestataRestanoIlClienteEICampi) {
         corsa.custode.conserva();
     }
     Corsa dopo(azienda);
+    EXPECT_FALSE(dopo.domanda().contains(u"totale"_s)) << "nothing has an amount yet";
     EXPECT_EQ(dopo.vetrina.mostrati.last(), Schermo::Borftem);
     EXPECT_EQ(dopo.borftem.dato(&DatiCliente::sede, &SedeTesti::indirizzo), u"via Nuova");
     EXPECT_EQ(dopo.borftem.recordCorrente(), 1);

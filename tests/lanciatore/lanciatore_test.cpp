@@ -273,6 +273,9 @@ TEST(SceltaAzienda, LaCopiaVaAvantiDietroLaFinestraESiPuoInterrompere) {
         QDateTime(QDate(2026, 11, 23), QTime(17, 0), Qt::UTC).toLocalTime().toString(u"dd/MM/yyyy HH:mm") +
             u" (errori: 1)"_s);
     EXPECT_EQ(Promemoria(Percorsi::predefiniti(unita.radice()), 12).cartellaCopie(), programmi.path());
+    EXPECT_TRUE(esito->isVisible());
+    finestra.cambiaUnita(programmi.path());
+    EXPECT_FALSE(esito->isVisible()) << "of the other drive";
 }
 
 } // namespace bor::lancia

@@ -90,6 +90,29 @@ TEST_F(Campi, UnNumeroInArchivioRestaInteroEUnClicLoScegliePerIntero) {
     EXPECT_EQ(importo->text(), u"6"_s);
 }
 
+TEST_F(Campi, IlCalendarioStaSottoIlSuoCampoOSopraDoveLoSchermoFinisce) {
+    const QRect schermo = finestra.screen()->availableGeometry();
+    const auto aperto = [&](QPoint dove) {
+        finestra.move(dove);
+        QRect posto;
+        QTimer::singleShot(0, &finestra, [&posto] {
+            QWidget* dialogo = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialogo);
+            posto = dialogo->frameGeometry();
+            QTest::keyClick(dialogo, Qt::Key_Escape);
+        });
+        QTest::keyClick(data->campo(), Qt::Key_F4);
+        EXPECT_TRUE(schermo.contains(posto)) << posto.right() << ' ' << posto.bottom();
+        return posto;
+    };
+    const auto campo = [&] { return QRect(data->mapToGlobal(QPoint()), data->size()); };
+    const QRect sotto = aperto({60, 40});
+    EXPECT_EQ(sotto.topLeft(), campo().bottomLeft() + QPoint(0, 1));
+    const QRect sopra = aperto({60, schermo.bottom() - 120});
+    EXPECT_LT(sopra.bottom(), campo().top());
+    aperto({schermo.right() - 60, 40});
+}
+
 TEST_F(Campi, IlCalendarioSiApreSuOggiEPrendeUnGiornoConUnGesto) {
     const auto scegli = [&](const std::function<void(QCalendarWidget*)>& gesto) {
         QTimer::singleShot(0, &finestra, [&gesto] {

@@ -156,6 +156,15 @@ TEST_F(VistaTestata, ListaDeiClienti) {
     const auto* griglia = controllo<QTableView>(lista, u"elenco"_s);
     EXPECT_EQ(griglia->model()->rowCount(), 25);
     EXPECT_EQ(griglia->model()->index(1, 3).data().toString(), u"Torino");
+    scrivi(lista, u"dit"_s);
+    EXPECT_EQ(fuoco(lista), u"selnome") << "typed in the list, it goes to the search";
+    EXPECT_EQ(testoDi(lista, u"selnome"_s), u"dit");
+    EXPECT_EQ(griglia->model()->index(1, 0).data().toString(), u"");
+    tasto(lista, Qt::Key_Down);
+    for (int volta = 0; volta < 3; ++volta)
+        tasto(lista, Qt::Key_Backspace);
+    EXPECT_EQ(testoDi(lista, u"selnome"_s), u"");
+    tasto(lista, Qt::Key_Down);
     tasto(lista, Qt::Key_4, Qt::ControlModifier);
     EXPECT_EQ(griglia->model()->index(0, 0).data().toString(), u"Bianchi Édith & Figli");
     controllo(lista, u"selnome"_s)->setFocus();

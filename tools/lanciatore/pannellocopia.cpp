@@ -57,6 +57,11 @@ void PannelloCopia::avvia(const QString& unita, int codiceazienda, const QString
     m_borcopia.start(comando.programma, comando.argomenti, QIODevice::ReadOnly);
 }
 
+void PannelloCopia::dimentica() {
+    if (!inCorso())
+        hide();
+}
+
 void PannelloCopia::leggi() {
     while (m_borcopia.canReadLine()) {
         const QString linea = QString::fromUtf8(m_borcopia.readLine()).trimmed();

@@ -22,6 +22,8 @@ public:
     bool inCorso() const { return m_borcopia.state() != QProcess::NotRunning; }
     /// Starts the copy of a company of this drive into a folder of this machine.
     void avvia(const QString& unita, int codiceazienda, const QString& cartella);
+    /// Takes away how the last copy ended; one that is being made stays in view.
+    void dimentica();
 
 private:
     void leggi();

@@ -187,6 +187,7 @@ void SceltaAzienda::cambiaUnita(const QString& unita) {
     const QString nome = QDir::toNativeSeparators(m_percorsi.radiceCorrente());
     m_unita->setText(u"Unità: "_s + nome);
     m_unita->setToolTip(nome);
+    m_copia->dimentica();
     aggiorna();
 }
 
