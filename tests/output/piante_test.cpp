@@ -1,4 +1,5 @@
-// The plans of the printed pages against each other and against the table of docs/moduli.md.
+// The plans of the printed pages against each other and against the tables of docs/moduli.md and of the
+// guide.
 #include "output/pianta.h"
 #include "support/azienda.h"
 
@@ -40,8 +41,8 @@ void PrintTo(const Stampato& stampato, std::ostream* uscita) {
 }
 
 /// The numbers "18-22" or "17" in a column of the tables, in ascending order.
-std::vector<Tratto> trattiDocumentati(qsizetype colonna) {
-    QFile file(QStringLiteral(BOR_SOURCE_DIR "/docs/moduli.md"));
+std::vector<Tratto> trattiDocumentati(const QString& documento, qsizetype colonna) {
+    QFile file(QStringLiteral(BOR_SOURCE_DIR "/docs/") + documento);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     static const QRegularExpression numeri(u"^(\\d+)(?:-(\\d+))?$"_s);
     std::vector<Tratto> tratti;
@@ -85,13 +86,14 @@ TEST_P(PiantaTest, IlCorpoStaDietroLeVoci) {
     EXPECT_LT(riga, 99) << "this row draws the template";
 }
 
-TEST_P(PiantaTest, ModuliMdElencaGliStessiNumeri) {
+TEST_P(PiantaTest, ModuliMdELaGuidaElencanoGliStessiNumeri) {
     std::vector<Tratto> tratti;
     for (const GruppoVoci& gruppo : pianta.voci)
         tratti.push_back({gruppo.prima, gruppo.prima + gruppo.quante - 1});
     tratti.push_back({pianta.rigaSopra, pianta.rigaSotto});
     tratti.push_back({pianta.colonne.front().riga, pianta.colonne.back().riga});
-    EXPECT_EQ(tratti, trattiDocumentati(stampato.colonna));
+    for (const QString& documento : {u"moduli.md"_s, u"guida/stampa.md"_s})
+        EXPECT_EQ(tratti, trattiDocumentati(documento, stampato.colonna)) << qPrintable(documento);
 }
 
 TEST_P(PiantaTest, SoloIConteggiAspettanoLUltimaPagina) {
