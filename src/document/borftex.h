@@ -102,11 +102,6 @@ private:
     void cambiaArticolo(int linea, const QString& testo);
     void invioArticolo(int linea);
     void cercaDescrizione();
-    QString codiceDi(int recart) const;
-    /// The article list has the article of this record.
-    bool inElenco(int recart) const;
-    /// The next article of the list that fits the search, of which the last found is one; 0 for no other.
-    int altroTrovato() const;
     void mettiArticolo(int recart, RigheMerce::Da da);
     void articoloNonEsistente(Campo campo);
     /// Leaving will ask, and F1 begins anew.

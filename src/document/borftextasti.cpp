@@ -9,6 +9,30 @@ namespace bor {
 
 namespace {
 
+QString codiceDi(const Archivio& archivio, int recart) {
+    return archivio.art.leggi(recart).codice.text();
+}
+
+/// The list has the article of this record, as it has all but the deleted ones.
+bool inElenco(const Archivio& archivio, const ElencoArticoli& articoli, int recart) {
+    return articoli.lista().cerca(codiceDi(archivio, recart)) >= 0;
+}
+
+/// The next article of the list whose description fits; 0 for no other than the last one found.
+int altroTrovato(const Archivio& archivio, const ElencoArticoli& articoli, const QString& testo,
+                 int trovato) {
+    const auto prossimo = [&](int dopo) {
+        do
+            dopo = cercadescrizione(archivio, testo, dopo);
+        while (dopo > 0 && !inElenco(archivio, articoli, dopo));
+        return dopo;
+    };
+    int altro = prossimo(trovato);
+    if (altro == 0)
+        altro = prossimo(0); // behind the last one comes the first
+    return altro == trovato ? 0 : altro;
+}
+
 /// The row of the last additional text of the row's article that still stands below it; the row itself for
 /// none.
 int ultimaDelTesto(const RigheMerce& righe, int n, const Archivio& archivio) {
@@ -152,18 +176,20 @@ void Borftex::scegliArticolo(int posizione) {
 void Borftex::cercaDescrizione() {
     if (!m_articoli.visibile() || (!m_ricerca && m_campofuoco != Campo::Ds))
         return;
+    const Archivio& archivio = m_contesto.archivio;
     if (!m_ricerca) {
         const QString testo = m_righe.riga(rigaFuoco()).descrizione;
-        const int primo = cercadescrizione(m_contesto.archivio, testo);
+        const int primo = cercadescrizione(archivio, testo);
         if (primo == 0)
             return articoloNonEsistente(Campo::Ds);
         m_ricerca = Ricerca{testo, primo, m_righe.tutte()};
         // The first one that fits may be a deleted article, which the list does not have.
-        if (!inElenco(primo)) {
+        if (!inElenco(archivio, m_articoli, primo)) {
             m_listx = u"L'articolo trovato è eliminato: F1 cerca il seguente"_s;
             return;
         }
-    } else if (const int altro = altroTrovato(); altro > 0) {
+    } else if (const int altro = altroTrovato(archivio, m_articoli, m_ricerca->testo, m_ricerca->trovato);
+               altro > 0) {
         m_ricerca->trovato = altro;
     } else {
         m_listx = u"Nessun altro articolo comincia con questa descrizione"_s;
@@ -171,28 +197,7 @@ void Borftex::cercaDescrizione() {
     }
     // The additional text of the article found before goes with it.
     m_righe.rimetti(m_ricerca->prima);
-    mettiArticolo(m_articoli.cerca(codiceDi(m_ricerca->trovato)), RigheMerce::Da::Lista);
-}
-
-QString Borftex::codiceDi(int recart) const {
-    return m_contesto.archivio.art.leggi(recart).codice.text();
-}
-
-bool Borftex::inElenco(int recart) const {
-    return m_articoli.lista().cerca(codiceDi(recart)) >= 0;
-}
-
-int Borftex::altroTrovato() const {
-    const auto prossimo = [this](int dopo) {
-        do
-            dopo = cercadescrizione(m_contesto.archivio, m_ricerca->testo, dopo);
-        while (dopo > 0 && !inElenco(dopo));
-        return dopo;
-    };
-    int altro = prossimo(m_ricerca->trovato);
-    if (altro == 0)
-        altro = prossimo(0); // behind the last one comes the first
-    return altro == m_ricerca->trovato ? 0 : altro;
+    mettiArticolo(m_articoli.cerca(codiceDi(archivio, m_ricerca->trovato)), RigheMerce::Da::Lista);
 }
 
 void Borftex::mettiArticolo(int recart, RigheMerce::Da da) {
