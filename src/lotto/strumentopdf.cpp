@@ -23,7 +23,13 @@ public:
             m_processo.kill();
     }
 
-    void scrivi(const QByteArray& bytes) override { m_processo.write(bytes); }
+    /// At once, as far as the tool takes it: it would wait until the next document is prepared, which comes
+    /// before the events do.
+    void scrivi(const QByteArray& bytes) override {
+        m_processo.write(bytes);
+        if (m_processo.state() == QProcess::Running)
+            m_processo.waitForBytesWritten(0);
+    }
     std::optional<QByteArray> linea() override {
         return m_processo.canReadLine() ? std::optional(m_processo.readLine()) : std::nullopt;
     }
