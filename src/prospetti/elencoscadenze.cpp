@@ -1,9 +1,9 @@
 #include "prospetti/elencoscadenze.h"
 
+#include "archive/giornidifile.h"
 #include "archive/nomiclienti.h"
 #include "common/posti.h"
 #include "document/righeiva.h"
-#include "prospetti/giornidifile.h"
 
 #include <algorithm>
 #include <array>

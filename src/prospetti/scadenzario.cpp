@@ -1,7 +1,7 @@
 #include "prospetti/scadenzario.h"
 
+#include "archive/giornidifile.h"
 #include "common/posti.h"
-#include "prospetti/giornidifile.h"
 #include "prospetti/totaletesto.h"
 
 #include <algorithm>

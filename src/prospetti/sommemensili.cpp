@@ -1,7 +1,7 @@
 #include "prospetti/sommemensili.h"
 
-#include "document/righeiva.h"
-#include "prospetti/giornidifile.h"
+#include "archive/giornidifile.h"
+#include "document/importidocumento.h"
 
 namespace bor {
 
@@ -15,16 +15,12 @@ SommeDocumenti& SommeDocumenti::operator+=(const SommeDocumenti& altre) {
 }
 
 void SommeMensili::aggiungi(const Fte& fte, const F2e& f2e) {
-    SommeDocumenti d{1, sommaIva(fte, f2e, VoceIva::Imponibile), sommaIva(fte, f2e, VoceIva::Imposta),
-                     sommaIva(fte, f2e, VoceIva::Esente), 0};
-    for (const double ritenuta : f2e.raimp)
-        d.ritenuta += ritenuta;
+    const ImportiDocumento importi = importiDi(fte, f2e);
+    const SommeDocumenti d{1, importi.imponibile, importi.imposta, importi.esente, importi.ritenuta};
     const QDate data = daAnnoMeseGiorno(fte.datareg);
     const bool vuoto = d.imponibile == 0.0 && d.imposta == 0.0 && d.esente == 0.0 && d.ritenuta == 0.0;
     if (vuoto && !data.isValid())
         return;
-    if (fte.tipo == 1)
-        d = {1, -d.imponibile, -d.imposta, -d.esente, -d.ritenuta};
     const int registro = fte.registro >= 0 && fte.registro < registri ? int{fte.registro} : 0;
     m_somme[data.isValid() ? chiave(data.year(), data.month(), registro)
                            : chiave(nessuno, nessuno, registro)] += d;

@@ -1,5 +1,6 @@
 #include "register/elencofatture.h"
 
+#include "archive/giornidifile.h"
 #include "common/date.h"
 
 #include <algorithm>
@@ -14,18 +15,8 @@ namespace {
 
 /// A day on file, `yyyymmdd`; what is none goes out as it is shown.
 void giorno(CelleRiga& celle, const Text<8>& campo) {
-    const auto& c = campo.bytes;
-    if (std::ranges::all_of(c, [](char x) { return x >= '0' && x <= '9'; })) {
-        const auto numero = [&c](std::size_t da, std::size_t quante) {
-            int n = 0;
-            for (std::size_t i = da; i < da + quante; ++i)
-                n = 10 * n + (c[i] - '0');
-            return n;
-        };
-        const QDate data(numero(0, 4), numero(4, 2), numero(6, 2));
-        if (data.isValid())
-            return celle.data(data);
-    }
+    if (const QDate data = daAnnoMeseGiorno(campo); data.isValid())
+        return celle.data(data);
     celle.testo(dataDaAnnoMeseGiorno(campo.text()));
 }
 

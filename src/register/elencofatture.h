@@ -7,8 +7,8 @@
 #include "common/posti.h"
 #include "common/valuta.h"
 #include "document/identita.h"
+#include "document/importidocumento.h"
 #include "register/colonneelenco.h"
-#include "register/importidocumento.h"
 #include "register/sommeelenco.h"
 
 #include <chrono>

@@ -55,14 +55,14 @@ std::vector<ColonnaScelta> colonneDa(const QStringList& testi) {
 Vaglio::Vaglio(const DocumentiScelti& documenti)
     : m_data(documenti.data), m_genere(documenti.genere), m_eliminati(documenti.eliminati) {
     const Giorni giorni = giorniDi(documenti.periodo);
-    m_sempre = giorni.tutti();
     m_dal = cifreDi(giorni.dal);
     m_al = cifreDi(giorni.al);
 }
 
 bool Vaglio::passa(const Fte& fte, const F2e& f2e) const {
     return (m_eliminati || fte.annullata != 1) && delGenere(m_genere, fte, f2e) &&
-           (m_sempre || nelPeriodo(m_data == DataPeriodo::Documento ? fte.datadoc : fte.datareg));
+           ((m_dal.isEmpty() && m_al.isEmpty()) ||
+            nelPeriodo(m_data == DataPeriodo::Documento ? fte.datadoc : fte.datareg));
 }
 
 /// What is no day lies in no period.

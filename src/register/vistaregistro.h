@@ -51,7 +51,6 @@ private:
     DataPeriodo m_data;
     GenereDocumento m_genere;
     bool m_eliminati;
-    bool m_sempre;    ///< no period is chosen
     QByteArray m_dal; ///< `yyyymmdd`; empty for an open end
     QByteArray m_al;
 };

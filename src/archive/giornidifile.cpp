@@ -1,4 +1,4 @@
-#include "prospetti/giornidifile.h"
+#include "archive/giornidifile.h"
 
 namespace bor {
 

@@ -1,4 +1,4 @@
-#include "register/importidocumento.h"
+#include "document/importidocumento.h"
 
 #include "document/righeiva.h"
 
