@@ -3,6 +3,7 @@
 #include "archive/diario.h"
 #include "archive/promemoria.h"
 #include "archive/raffica.h"
+#include "borcopia/appunti.h"
 #include "borcopia/copiatore.h"
 #include "borcopia/elencocopie.h"
 #include "borcopia/nastro.h"
@@ -19,8 +20,10 @@
 #include <QThread>
 
 #include <csignal>
+#include <fcntl.h>
 #include <functional>
 #include <sys/resource.h>
+#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -247,6 +250,39 @@ TEST_F(CopiaTest, NessunNomePortaFuoriDallaCartella) {
     }
 }
 
+/// A drive that lets every file be executed, and a tool of the suite that is looked for where it lies.
+TEST_F(CopiaTest, NullaEntraNellUnitaCheNonSiaDellaCopia) {
+    for (const QString& nome : {u"suprok/suprok/borxpdf"_s, u"suprok/suprok/borxpdf.ini"_s,
+                                u"suprok/suprok/boraz0.008/borlano.tot"_s, u"suprok/suprok/x/borlano.eur"_s,
+                                u"utente/righe/x/5.righe"_s, u"utente/righe/5.bozza"_s}) {
+        QFile file(copie.filePath(u"ostile"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        NastroScritto nastro(file.handle());
+        const QByteArray appunti = Appunti{7, {}, {}, {}, {}, QDateTime::currentDateTime()}.testo();
+        ASSERT_TRUE(nastro.inizia({nomeAppunti.toString(), appunti.size(), 0}) && nastro.scrivi(appunti) &&
+                    nastro.inizia({nome, 3, 0}) && nastro.scrivi("abc") && nastro.chiudi());
+        const QTemporaryDir nuova;
+        EXPECT_TRUE(
+            torna(file.fileName(), nuova.path()).errore.endsWith(u"non è di una copia: "_s + nome + u'.'));
+        EXPECT_EQ(contenuto(nuova.path()), Contenuto());
+    }
+    const QTemporaryDir nuova;
+    QDir(nuova.path()).mkdir(u".ripristino-parziale"_s);
+    EXPECT_TRUE(torna(crea().percorso, nuova.path()).errore.contains(u"la cartella nascosta"_s));
+}
+
+TEST_F(CopiaTest, NessunFileMancaInSilenzioENessunaCopiaContieneCopie) {
+    const QString dentro = azienda.percorso(u"sotto/copie/nuove"_s);
+    EXPECT_TRUE(creaCopia(azienda.percorsi(), 7, dentro, avanti).errore.contains(u"altra cartella"_s));
+    EXPECT_FALSE(QFile::exists(dentro));
+    const QByteArray latino = QFile::encodeName(azienda.percorso(u"sotto/citt"_s)) + "\xe0.txt";
+    const int descrittore = ::open(latino.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_GE(descrittore, 0);
+    ::close(descrittore);
+    EXPECT_TRUE(crea().errore.contains(u"rinominate il file"_s));
+    EXPECT_TRUE(nellaCartella().isEmpty());
+}
+
 TEST_F(CopiaTest, SiEliminanoSoloLeProprieCopiePiuVecchie) {
     for (int n = 0; n < 4; ++n)
         ASSERT_EQ(crea().errore, QString());
@@ -257,11 +293,18 @@ TEST_F(CopiaTest, SiEliminanoSoloLeProprieCopiePiuVecchie) {
     scrivi(falsa, "no copy");
     const QList<CopiaInElenco> tutte = elencaCopie(copie.path(), 7);
     ASSERT_EQ(tutte.size(), 6);
-    EXPECT_EQ(sfoltisci(copie.path(), 7, azienda.percorsi().radiceCorrente(), 2).size(), 2);
+    const QString unita = azienda.percorsi().radiceCorrente();
+    const QString nuova = QFileInfo(tutte[1].percorso).fileName();
+    EXPECT_EQ(sfoltisci(copie.path(), 7, unita, 2, nuova).size(), 2);
     const QList<CopiaInElenco> rimaste = elencaCopie(copie.path(), 7);
     EXPECT_EQ(rimaste.size(), 4);
     EXPECT_EQ(rimaste.first().percorso, tutte.first().percorso);
     EXPECT_TRUE(QFile::exists(altrui) && QFile::exists(falsa));
+
+    const QString inAnticipo = copie.filePath(u"boraz0.007_2099-01-01_000000.tar.zst"_s);
+    ASSERT_TRUE(QFile::copy(tutte[1].percorso, inAnticipo)) << "as of a clock that was ahead";
+    EXPECT_EQ(sfoltisci(copie.path(), 7, unita, 1, nuova).size(), 2);
+    EXPECT_TRUE(QFile::exists(tutte[1].percorso) && !QFile::exists(inAnticipo));
 }
 
 TEST_F(CopiaTest, IlProgrammaDiceComEAndataERicordaLUltima) {
@@ -290,9 +333,10 @@ TEST_F(CopiaTest, IlProgrammaDiceComEAndataERicordaLUltima) {
     EXPECT_EQ(elencaCopie(copie.path(), 7).size(), 2) << "the last one without errors stays";
     EXPECT_EQ(borcopia({u"--verifica"_s, copiate.first().percorso}), 0);
     EXPECT_EQ(borcopia({u"--ripristina"_s, copiate.first().percorso, u"--in"_s, copie.path()}), 2);
-    for (const QStringList& sbagliati :
-         {QStringList{u"--unita"_s, unita}, comune + QStringList{u"--conserva"_s, u"0"_s},
-          QStringList{u"--unita"_s, copie.path(), u"--in"_s, copie.path()}})
+    for (const QStringList& sbagliati : {QStringList{u"--unita"_s, unita}, comune + QStringList{u"altro"_s},
+                                         QStringList{u"--elenca"_s, u"--in"_s, copie.filePath(u"nessuna"_s)},
+                                         comune + QStringList{u"--conserva"_s, u"0"_s},
+                                         QStringList{u"--unita"_s, copie.path(), u"--in"_s, copie.path()}})
         EXPECT_EQ(borcopia(sbagliati), 2);
 }
 

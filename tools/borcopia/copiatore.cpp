@@ -72,8 +72,10 @@ private:
     bool fallisci(const QString& motivo);
     bool avanza(qint64 fatti, qint64 tutti);
     bool controllaAzienda();
+    bool controllaCartella(const QString& cartella);
     bool scriviNastro(int descrittore);
     bool senzaBlocco();
+    bool nomeCopiabile(const FileFonte& file);
     bool copia(const FileFonte& file);
     bool cogliMomento();
     bool sottoBlocco(bool pronto, std::optional<Registrato>& prima);
@@ -110,6 +112,19 @@ bool Copiatore::avanza(qint64 fatti, qint64 tutti) {
     return m_avanzamento(percento) || fallisci(u"La copia è stata interrotta."_s);
 }
 
+/// A company folder with its own copies in it would grow with each of them.
+bool Copiatore::controllaCartella(const QString& cartella) {
+    QString posto = QDir::cleanPath(QDir(cartella).absolutePath());
+    while (!QFileInfo::exists(posto))
+        posto = QFileInfo(posto).path();
+    const QString azienda =
+        QFileInfo(m_percorsi.reale(cartellaAzienda(m_codice)).value_or(QString())).canonicalFilePath();
+    const QString dove = QFileInfo(posto).canonicalFilePath() + u'/';
+    return !dove.startsWith(azienda + u'/') ||
+           fallisci(u"Le copie non stanno nella cartella dell'azienda, che la copia seguente conterrebbe: "
+                    "scegliete un'altra cartella."_s);
+}
+
 bool Copiatore::controllaAzienda() {
     const QString tot = m_archivio.reale(m_archivio.borlano(u"tot"));
     if (!QFileInfo::exists(tot))
@@ -118,7 +133,7 @@ bool Copiatore::controllaAzienda() {
 }
 
 EsitoCopia Copiatore::esegui(const QString& cartella) {
-    if (!controllaAzienda())
+    if (!controllaAzienda() || !controllaCartella(cartella))
         return m_esito;
     CopiaNuova nuova(cartella, m_codice);
     if (nuova.descrittore() < 0)
@@ -162,10 +177,18 @@ bool Copiatore::senzaBlocco() {
     return true;
 }
 
+/// A name that is no UTF-8 would not even be found again, as if the file were gone.
+bool Copiatore::nomeCopiabile(const FileFonte& fonte) {
+    const bool strano = fonte.nome.contains(u'\n') || fonte.nome.contains(u'\\') ||
+                        fonte.nome.contains(QChar(QChar::ReplacementCharacter));
+    return !strano || fallisci(u"Il nome di %1 ha caratteri che non possono stare in una copia: "
+                               "rinominate il file."_s.arg(fonte.percorso));
+}
+
 /// A file that is gone by now is none of the company any more.
 bool Copiatore::copia(const FileFonte& fonte) {
-    if (fonte.nome.contains(u'\n') || fonte.nome.contains(u'\\'))
-        return fallisci(u"Il nome di %1 non può stare in una copia."_s.arg(fonte.percorso));
+    if (!nomeCopiabile(fonte))
+        return false;
     FileLetto file(fonte.percorso);
     const auto chi = file.chi();
     if (!file.aperto() || !chi)
@@ -292,6 +315,8 @@ bool Copiatore::leggiCambiati(QDeadlineTimer scadenza) {
 
 /// False when the file is gone; nothing after a failure.
 std::optional<bool> Copiatore::leggiInMemoria(const FileFonte& fonte) {
+    if (!nomeCopiabile(fonte))
+        return std::nullopt;
     FileLetto file(fonte.percorso);
     if (!file.aperto() && file.errore() == ENOENT)
         return false;

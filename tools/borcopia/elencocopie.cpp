@@ -65,10 +65,13 @@ QList<CopiaInElenco> elencaCopie(const QString& cartella, int codice) {
     return copie;
 }
 
-QStringList sfoltisci(const QString& cartella, int codice, const QString& unita, int quante) {
+QStringList sfoltisci(const QString& cartella, int codice, const QString& unita, int quante,
+                      const QString& nuova) {
     QStringList tolte;
-    int sue = 0;
+    int sue = 1;
     for (const CopiaInElenco& copia : elencaCopie(cartella, codice)) {
+        if (QFileInfo(copia.percorso).fileName() == nuova)
+            continue;
         const auto appunti = leggiAppunti(copia.percorso);
         if (!appunti || appunti->azienda != codice || appunti->unita != unitaCanonica(unita))
             continue;

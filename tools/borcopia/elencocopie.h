@@ -21,9 +21,11 @@ struct CopiaInElenco {
 /// The whole copies in a folder by their names, the newest first; of all companies, or of one.
 QList<CopiaInElenco> elencaCopie(const QString& cartella, int codice = -1);
 
-/// Deletes the oldest copies of this company of this drive beyond `quante`, which is at least 1; the names of
-/// those deleted. What is no copy, is of another drive, or cannot be read stays.
-QStringList sfoltisci(const QString& cartella, int codice, const QString& unita, int quante);
+/// Deletes the oldest copies of this company of this drive beyond `quante`, which is at least 1 and counts
+/// `nuova`, the name of the one just made; the names of those deleted. What is no copy, is of another drive,
+/// or cannot be read stays, and so does the new one, whatever the clock said when the others were made.
+QStringList sfoltisci(const QString& cartella, int codice, const QString& unita, int quante,
+                      const QString& nuova);
 
 /// A drive as the notes of a copy name it: the same folder by whatever way it was reached.
 QString unitaCanonica(const QString& unita);

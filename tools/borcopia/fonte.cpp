@@ -50,6 +50,16 @@ bool dellaSuite(const QString& nome) {
            figure.contains(QFileInfo(nome).suffix().toLower());
 }
 
+bool diRigheDaRegistrare(const QString& nome) {
+    return nome.endsWith(u".righe"_s);
+}
+
+/// What follows a part's name; nothing for a name of another part, or one in a folder below it.
+std::optional<QString> nellaParte(const QString& nome, QStringView parte) {
+    const QString resto = nome.mid(parte.size());
+    return nome.startsWith(parte) && !resto.contains(u'/') ? std::optional(resto) : std::nullopt;
+}
+
 class Raccolta {
 public:
     explicit Raccolta(QDeadlineTimer scadenza) : m_scadenza(scadenza) {}
@@ -98,6 +108,19 @@ QString parteAzienda(int codice) {
     return cartellaAzienda(codice).mid(1).replace(u'\\', u'/') + u'/';
 }
 
+bool nomeDiCopia(const QString& nome, int codice) {
+    const QStringList parti = nome.split(u'/');
+    const bool piano = !nome.contains(QChar(0)) && !nome.contains(u'\n') && !nome.contains(u'\\') &&
+                       std::ranges::none_of(parti, [](const QString& parte) {
+                           return parte.isEmpty() || parte == u"." || parte == u"..";
+                       });
+    const auto suite = nellaParte(nome, parteSuite);
+    const auto righe = nellaParte(nome, parteRighe);
+    return piano && codice >= 0 &&
+           (nome.startsWith(parteAzienda(codice)) || (suite && dellaSuite(*suite)) ||
+            (righe && diRigheDaRegistrare(*righe)));
+}
+
 std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int codice,
                                                   QDeadlineTimer scadenza) {
     Raccolta raccolta(scadenza);
@@ -105,8 +128,7 @@ std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int 
                       [](const QString& nome) { return !tralasciato(nome); });
     raccolta.aggiungi(percorsi.reale(radiceSuite.chopped(1)).value_or(QString()), parteSuite.toString(),
                       false, dellaSuite);
-    raccolta.aggiungi(percorsi.cartellaBozze(codice), parteRighe.toString(), false,
-                      [](const QString& nome) { return nome.endsWith(u".righe"_s); });
+    raccolta.aggiungi(percorsi.cartellaBozze(codice), parteRighe.toString(), false, diRigheDaRegistrare);
     return raccolta.intera ? std::optional(std::move(raccolta.file)) : std::nullopt;
 }
 

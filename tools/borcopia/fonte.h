@@ -45,6 +45,10 @@ std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int 
 inline constexpr QStringView parteSuite = u"suprok/suprok/";
 inline constexpr QStringView parteRighe = u"utente/righe/";
 
+/// Whether `elencaFonte` gives files of this company such names: what an archive from anywhere holds beside
+/// them, a program or the settings of the mail, is none of a copy.
+bool nomeDiCopia(const QString& nome, int codice);
+
 /// "suprok/suprok/boraz0.007/".
 QString parteAzienda(int codice);
 

@@ -89,6 +89,8 @@ private:
 
 /// What is wrong with the options; empty when nothing is.
 QString Comando::controlla() {
+    if (const QStringList altri = m_parser.positionalArguments(); !altri.isEmpty())
+        return u"%1: non è un'opzione."_s.arg(altri.first());
     bool numero = false;
     m_codice = m_parser.value(u"azienda"_s).toInt(&numero);
     if (!numero || m_codice < 0 || m_codice > 999)
@@ -148,7 +150,8 @@ void Comando::concludi(const bor::copia::EsitoCopia& copia, const bor::copia::Es
         .segnaVerifica({appunti.quando, verifica.errori(), verifica.avvisi()});
     if (m_conserva == 0 || verifica.errori() > 0)
         return;
-    for (const QString& nome : bor::copia::sfoltisci(m_cartella, m_codice, m_unita, m_conserva))
+    const QString nuova = QFileInfo(copia.percorso).fileName();
+    for (const QString& nome : bor::copia::sfoltisci(m_cartella, m_codice, m_unita, m_conserva, nuova))
         racconta(u"Eliminata la copia più vecchia %1"_s.arg(nome));
 }
 
@@ -174,6 +177,8 @@ int Comando::ripristina(const QString& copia) {
 }
 
 int Comando::elenca() {
+    if (!QFileInfo(m_cartella).isDir())
+        return rifiuta(u"La cartella %1 non c'è."_s.arg(m_cartella));
     const int codice = m_parser.isSet(u"azienda"_s) ? m_codice : -1;
     for (const bor::copia::CopiaInElenco& copia : bor::copia::elencaCopie(m_cartella, codice)) {
         const auto appunti = bor::copia::leggiAppunti(copia.percorso);

@@ -32,17 +32,6 @@ constexpr std::size_t pezzo = std::size_t{1} << 18;
 constexpr qint64 massimoTesto = qint64{64} << 20;
 constexpr QStringView cartellaInCorso = u".ripristino-parziale";
 
-/// A copy may come from anywhere: none of its names leads out of the folder.
-bool nomeAmmesso(const QString& nome) {
-    if (!nome.startsWith(parteSuite) && !nome.startsWith(parteRighe))
-        return false;
-    const QStringList parti = nome.split(u'/');
-    return !nome.contains(QChar(0)) && !nome.contains(u'\n') && !nome.contains(u'\\') &&
-           std::ranges::none_of(parti, [](const QString& parte) {
-               return parte.isEmpty() || parte == u"." || parte == u"..";
-           });
-}
-
 struct FileEstratto {
     QByteArray impronta;
     qint64 lunghezza = 0;
@@ -63,6 +52,7 @@ public:
 
 private:
     bool fallisci(const QString& motivo);
+    bool avanza();
     bool estraiVoce(const Voce& voce);
     bool leggiFile(const Voce& voce);
     int creaFile(const QString& nome);
@@ -89,6 +79,10 @@ bool Estrazione::fallisci(const QString& motivo) {
     return false;
 }
 
+bool Estrazione::avanza() {
+    return m_avanzamento(m_nastro.percento()) || fallisci(u"La lettura della copia è stata interrotta."_s);
+}
+
 EsitoLetturaCopia Estrazione::esegui() {
     if (!m_nastro.apri(m_copia)) {
         fallisci(u"%1: %2."_s.arg(m_copia, m_nastro.errore()));
@@ -96,9 +90,7 @@ EsitoLetturaCopia Estrazione::esegui() {
     }
     Voce voce;
     while (m_esito.errore.isEmpty() && m_nastro.prossima(voce)) {
-        if (!m_avanzamento(m_nastro.percento()))
-            fallisci(u"La lettura della copia è stata interrotta."_s);
-        else
+        if (avanza())
             estraiVoce(voce);
     }
     if (!m_nastro.errore().isEmpty())
@@ -121,7 +113,8 @@ bool Estrazione::estraiVoce(const Voce& voce) {
         m_impronte = leggiTesto(voce);
         return m_impronte.has_value();
     }
-    if (!nomeAmmesso(voce.nome))
+    // Its notes, which come first, say of which company it is.
+    if (!nomeDiCopia(voce.nome, m_esito.appunti.azienda))
         return fallisci(u"%1 contiene un file che non è di una copia: %2."_s.arg(m_copia, voce.nome));
     return leggiFile(voce);
 }
@@ -165,7 +158,7 @@ bool Estrazione::leggiFile(const Voce& voce) {
     Disco disco;
     qint64 lunghezza = 0;
     qint64 letti = 0;
-    while ((letti = m_nastro.leggi(m_pezzo)) > 0) {
+    while (avanza() && (letti = m_nastro.leggi(m_pezzo)) > 0) {
         const QByteArrayView bytes(m_pezzo.data(), static_cast<qsizetype>(letti));
         impronta.addData(bytes);
         if (voluto && !disco.scrivi(descrittore, lunghezza, bytes, voce.nome)) {
@@ -223,6 +216,18 @@ void ripristinaRighe(const QString& da, const Percorsi& percorsi, int codice) {
     }
 }
 
+/// Why nothing can be restored into a folder; empty when nothing is in it, or it is missing.
+QString nonVuota(const QDir& cartella) {
+    const QStringList dentro =
+        cartella.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    if (dentro.isEmpty())
+        return {};
+    if (dentro == QStringList{cartellaInCorso.toString()})
+        return u"In %1 un ripristino è in corso, o è stato interrotto: se nessuno lo sta facendo, eliminate "
+               "la cartella nascosta %2."_s.arg(cartella.path(), dentro.first());
+    return u"%1 non è vuota: una copia si ripristina solo in una cartella vuota."_s.arg(cartella.path());
+}
+
 /// Waits until the whole file system is on the disk: thousands of files at once.
 void scaricaTutto(const QString& cartella) {
     const int descrittore =
@@ -250,11 +255,9 @@ EsitoLetturaCopia ripristina(const QString& copia, const Percorsi& percorsi, con
     EsitoLetturaCopia esito;
     const QString& cartella = percorsi.radiceCorrente();
     QDir meta(cartella);
-    if (meta.exists() &&
-        !meta.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
-        esito.errore = u"%1 non è vuota: una copia si ripristina solo in una cartella vuota."_s.arg(cartella);
+    esito.errore = nonVuota(meta);
+    if (!esito.errore.isEmpty())
         return esito;
-    }
     const QString inCorso = meta.filePath(cartellaInCorso.toString());
     const QString nonScritta = u"Non si può scrivere in %1."_s.arg(cartella);
     if (!QDir().mkpath(inCorso)) {
