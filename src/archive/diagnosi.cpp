@@ -112,14 +112,9 @@ QSet<QString> nomiClienti(const Archivio& archivio) {
     return nomi;
 }
 
-/// Words that customers are called by, what is between quotes, and amounts go.
-QString senzaNomi(const QString& avvertenza, const QSet<QString>& nomi) {
-    static const QRegularExpression tra(u"\"[^\"]*\""_s);
-    static const QRegularExpression importo(u"[0-9][0-9.]*[.,][0-9]+"_s);
+/// Words that customers are called by go.
+QString senzaNomi(const QString& testo, const QSet<QString>& nomi) {
     static const QRegularExpression parola(u"\\w+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    QString testo = senzaPercorsi(avvertenza);
-    testo.replace(tra, u"(testo)"_s);
-    testo.replace(importo, u"(importo)"_s);
     QString netto;
     qsizetype fine = 0;
     for (const QRegularExpressionMatch& trovata : parola.globalMatch(testo)) {
@@ -128,6 +123,16 @@ QString senzaNomi(const QString& avvertenza, const QSet<QString>& nomi) {
         fine = trovata.capturedEnd();
     }
     return netto + testo.mid(fine);
+}
+
+/// So do paths, what is between quotes, and amounts.
+QString soloIlGuasto(const QString& avvertenza, const QSet<QString>& nomi) {
+    static const QRegularExpression tra(u"\"[^\"]*\""_s);
+    static const QRegularExpression importo(u"[0-9][0-9.]*[.,][0-9]+"_s);
+    QString testo = senzaPercorsi(avvertenza);
+    testo.replace(tra, u"(testo)"_s);
+    testo.replace(importo, u"(importo)"_s);
+    return senzaNomi(testo, nomi);
 }
 
 } // namespace
@@ -155,14 +160,14 @@ QList<std::pair<QString, QString>> voci(const Diagnosi& diagnosi) {
 QString testoAssistenza(const Diagnosi& diagnosi, const Archivio& archivio) {
     QString intero = u"Borlano, fatture emesse: informazioni del %1\n\n"_s.arg(
         QDateTime::currentDateTime().toString(formatoData));
-    for (const auto& [didascalia, valore] : voci(diagnosi))
+    const QSet<QString> nomi = nomiClienti(archivio);
+    Diagnosi senza = diagnosi;
+    senza.cartella = senzaNomi(diagnosi.cartella, nomi);
+    for (const auto& [didascalia, valore] : voci(senza))
         intero += didascalia + u": "_s + valore + u'\n';
     intero += u"Avvertimenti di questa esecuzione: %1\n"_s.arg(diagnosi.avvertenze.size());
-    if (diagnosi.avvertenze.isEmpty())
-        return intero;
-    const QSet<QString> nomi = nomiClienti(archivio);
     for (const QString& avvertenza : diagnosi.avvertenze)
-        intero += u"  "_s + senzaNomi(avvertenza, nomi) + u'\n';
+        intero += u"  "_s + soloIlGuasto(avvertenza, nomi) + u'\n';
     return intero;
 }
 

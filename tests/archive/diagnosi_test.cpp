@@ -44,7 +44,9 @@ TEST(Diagnosi, IlTestoPerLAssistenzaNonDiceNomiNeImporti) {
                     u"bor.ui: no program opens /home/x/PDF/Fattura Rossi.pdf"_s,
                     u"bor.archive: cannot write C:\\SUPROK\\PDF\\Rossi.pdf: for Rossi 12,50"_s,
                     u"default: BONAVENTURA owes 1.250,00 and 99.5 to \"Rossi\" in città"_s};
+    d.cartella = u"/srv/Bonaventura e figli/suprok/suprok/boraz0.007"_s;
     const QString testo = testoAssistenza(d, prova.archivio);
+    EXPECT_TRUE(testo.contains(u": /srv/(nome) e figli/suprok/suprok/boraz0.007\n"_s)) << qPrintable(testo);
     const QString avvertimenti = testo.mid(testo.indexOf(u"Avvertimenti"_s));
     EXPECT_EQ(avvertimenti, u"Avvertimenti di questa esecuzione: 5\n"
                             "  bor.archive: cannot open borlano.fte: "_s +
