@@ -2,6 +2,7 @@
 
 #include "common/date.h"
 #include "ui/icona.h"
+#include "ui/vista.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
@@ -30,6 +31,7 @@ FinestraData::FinestraData(const Bordata& bordata, QWidget* parent, const QWidge
     : QDialog(parent), m_bordata(bordata), m_campo(campo), m_calendario(new QCalendarWidget) {
     setObjectName(u"bordata"_s);
     setWindowTitle(u"Imposta data"_s);
+    offriGuida(this, u"tasti"_s);
     m_calendario->setObjectName(u"nuovadata"_s);
     m_calendario->setAccessibleName(windowTitle());
     m_calendario->setLocale(QLocale(QLocale::Italian, QLocale::Italy));

@@ -2,6 +2,7 @@
 
 #include "ui/campi.h"
 #include "ui/tinte.h"
+#include "ui/vista.h"
 #include "xmlcheck/vistafattura.h"
 
 #include <QFileDialog>
@@ -51,6 +52,7 @@ FinestraFattura::FinestraFattura(const QByteArray& xml, QString percorso, QWidge
     setObjectName(u"lettura"_s);
     const QString nome = QFileInfo(m_percorso).fileName();
     setWindowTitle(nome.isEmpty() ? nomeFinestra : nomeFinestra + u" - "_s + nome);
+    offriGuida(this, u"fattura-elettronica"_s);
     m_pagina->setHtml(vistaFattura(xml));
     auto* barra = new QHBoxLayout;
     const auto comando = [&](const QString& nomeComando, const QString& testo, const QString& icona,

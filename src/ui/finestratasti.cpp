@@ -2,6 +2,7 @@
 
 #include "common/posti.h"
 #include "ui/elencotesti.h"
+#include "ui/vista.h"
 
 #include <QVBoxLayout>
 
@@ -14,6 +15,7 @@ FinestraTasti::FinestraTasti(const QString& schermo, const QList<TastoSchermo>& 
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"tasti"_s);
     setWindowTitle(u"Tasti: "_s + schermo);
+    offriGuida(this, u"tasti"_s);
     auto* elenco = elencoTesti(u"elencoTasti"_s, u"Tasti dello schermo"_s, {u"Tasto"_s, u"Che cosa fa"_s},
                                quantiIn(tasti));
     for (int r = 0; r < tasti.size(); ++r) {

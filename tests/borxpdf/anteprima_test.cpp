@@ -28,9 +28,12 @@ DocumentoPdf documento(const Unita& unita) {
 
 TEST(Anteprima, SiSfogliaSiIngrandisceESiChiudeDallaTastiera) {
     const Unita unita;
-    Anteprima finestra(documento(unita));
+    int guide = 0;
+    Anteprima finestra(documento(unita), [&guide] { ++guide; });
     finestra.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    QTest::keyClick(&finestra, Qt::Key_F1);
+    EXPECT_EQ(guide, 1);
     auto* foglio = finestra.findChild<QWidget*>(u"foglio"_s);
     auto* pagina = finestra.findChild<QLabel*>(u"pagina"_s);
 

@@ -275,6 +275,9 @@ TEST_F(Schermi, F12MostraITastiDelloSchermo) {
     EXPECT_FALSE(elenco->findItems(u"F10"_s, Qt::MatchStartsWith).isEmpty());
     EXPECT_FALSE(elenco->findItems(u"F1"_s, Qt::MatchExactly).isEmpty());
     foto(*tasti, u"tasti"_s);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(tasti));
+    tasto(*tasti, Qt::Key_F1);
+    EXPECT_EQ(sistema.aperti, QStringList{installato(u"guida"_s) + u"/tasti.html"_s});
     QTest::keyClick(tasti, Qt::Key_Escape);
     EXPECT_FALSE(tasti->isVisible());
 }

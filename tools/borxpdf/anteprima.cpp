@@ -72,9 +72,9 @@ private:
     qsizetype m_pagina = 0;
 };
 
-Anteprima::Anteprima(DocumentoPdf documento)
-    : m_documento(std::move(documento)), m_foglio(new Foglio(m_documento)), m_area(new QScrollArea(this)),
-      m_didascalia(new QLabel(this)) {
+Anteprima::Anteprima(DocumentoPdf documento, std::function<void()> apriGuida)
+    : m_documento(std::move(documento)), m_apriGuida(std::move(apriGuida)), m_foglio(new Foglio(m_documento)),
+      m_area(new QScrollArea(this)), m_didascalia(new QLabel(this)) {
     setWindowTitle(u"Anteprima di stampa"_s);
     m_foglio->setObjectName(u"foglio"_s);
     m_foglio->setAccessibleName(u"Pagina stampata"_s);
@@ -118,6 +118,7 @@ void Anteprima::preparaComandi() {
         connect(nuova, &QAction::triggered, this, azione);
         addAction(nuova);
     };
+    tasto(Qt::Key_F1, m_apriGuida);
     tasto(Qt::Key_PageUp, [this] { scorri(-1); });
     tasto(Qt::Key_PageDown, [this] { scorri(1); });
     tasto(Qt::Key_Home, [this] { mostraPagina(0); });

@@ -5,6 +5,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 class QLabel;
 class QPrinter;
 class QScrollArea;
@@ -13,7 +15,9 @@ namespace bor::pdf {
 
 class Anteprima : public QMainWindow {
 public:
-    explicit Anteprima(DocumentoPdf documento);
+    /// `apriGuida` is called by F1.
+    explicit Anteprima(
+        DocumentoPdf documento, std::function<void()> apriGuida = [] {});
     ~Anteprima() override;
 
     /// Page from 0; outside the document nothing happens.
@@ -35,6 +39,7 @@ private:
     void adattaLarghezza();
 
     DocumentoPdf m_documento;
+    std::function<void()> m_apriGuida;
     Foglio* m_foglio;
     QScrollArea* m_area;
     QLabel* m_didascalia;

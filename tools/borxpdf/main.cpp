@@ -6,7 +6,9 @@
 #include "common/lottopdf.h"
 #include "common/percorsi.h"
 #include "common/versione.h"
+#include "ui/adattatori.h"
 #include "ui/aspetto.h"
+#include "ui/guida.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -87,7 +89,12 @@ int main(int argc, char* argv[]) {
     QString errore;
     if (comando->anteprima) {
         if (auto documento = bor::pdf::apri(*comando, percorsi, errore)) {
-            bor::pdf::Anteprima finestra(std::move(*documento));
+            bor::SistemaQt sistema;
+            bor::OperatoreQt operatore;
+            bor::pdf::Anteprima finestra(std::move(*documento), [&sistema, &operatore] {
+                bor::apriGuida(sistema, operatore, u"stampa"_s);
+            });
+            operatore.usa(&finestra);
             finestra.show();
             finestra.activateWindow();
             return QApplication::exec();
