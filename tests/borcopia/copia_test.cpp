@@ -23,8 +23,10 @@
 #include <fcntl.h>
 #include <functional>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -214,6 +216,27 @@ TEST_F(CopiaTest, InterrottaPienaOUccisaNonLasciaNullaCheParaIntero) {
     EXPECT_EQ(crea().errore, QString());
     EXPECT_EQ(nellaCartella().size(), 1);
     EXPECT_EQ(elencaCopie(copie.path(), 7).size(), 1);
+}
+
+TEST_F(CopiaTest, DaPiuProgrammiInsiemeRestanoTutte) {
+    constexpr int programmi = 4;
+    constexpr int copieDiOgnuno = 5;
+    std::vector<pid_t> figli;
+    for (int n = 0; n < programmi; ++n) {
+        figli.push_back(::fork());
+        if (figli.back() != 0)
+            continue;
+        int fatte = 0;
+        while (fatte < copieDiOgnuno && CopiaNuova(copie.path(), 7).conferma())
+            ++fatte;
+        ::_exit(fatte == copieDiOgnuno ? 0 : 1);
+    }
+    for (const pid_t figlio : figli) {
+        int stato = -1;
+        ::waitpid(figlio, &stato, 0);
+        EXPECT_EQ(stato, 0);
+    }
+    EXPECT_EQ(elencaCopie(copie.path(), 7).size(), programmi * copieDiOgnuno);
 }
 
 TEST_F(CopiaTest, UnaCopiaTagliataOGuastaNonPassa) {

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -41,6 +42,42 @@ void togliAbbandonate(const QString& cartella, int codice) {
             ::unlink(percorso.constData());
         ::close(descrittore);
     }
+}
+
+/// Makes a file that this program holds; -1 when it cannot be made. Between its making and its lock another
+/// program may take it for an abandoned one.
+int creaPreso(const QByteArray& percorso) {
+    constexpr int volte = 20;
+    for (int volta = 0; volta < volte; ++volta) {
+        const int descrittore = ::open(percorso.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        if (descrittore < 0)
+            return -1;
+        (void)::flock(descrittore, LOCK_EX);
+        if (::access(percorso.constData(), F_OK) == 0)
+            return descrittore;
+        ::close(descrittore);
+    }
+    errno = EBUSY;
+    return -1;
+}
+
+/// The error number; 0 when the file has its new name. Another copy that has just taken the name stays as it
+/// is, where QFile::rename would write over it.
+int rinominaSenzaCoprire(const QString& da, const QString& a) {
+    const QByteArray vecchio = QFile::encodeName(da);
+    const QByteArray nuovo = QFile::encodeName(a);
+    if (::renameat2(AT_FDCWD, vecchio.constData(), AT_FDCWD, nuovo.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // Some network and removable drives do not know that way, and of these some know no links.
+    if (::link(vecchio.constData(), nuovo.constData()) == 0) {
+        ::unlink(vecchio.constData());
+        return 0;
+    }
+    if (errno == EEXIST || ::access(nuovo.constData(), F_OK) == 0)
+        return EEXIST;
+    return ::rename(vecchio.constData(), nuovo.constData()) == 0 ? 0 : errno;
 }
 
 } // namespace
@@ -87,12 +124,9 @@ CopiaNuova::CopiaNuova(const QString& cartella, int codice)
     togliAbbandonate(m_cartella, codice);
     m_provvisorio = u"%1/%2.%3.parziale"_s.arg(m_cartella, nomeBase(codice, QDateTime::currentDateTime()))
                         .arg(::getpid());
-    m_descrittore =
-        ::open(QFile::encodeName(m_provvisorio).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    m_descrittore = creaPreso(QFile::encodeName(m_provvisorio));
     if (m_descrittore < 0)
         fallisci(errno);
-    else
-        (void)::flock(m_descrittore, LOCK_EX | LOCK_NB);
 }
 
 CopiaNuova::~CopiaNuova() {
@@ -110,16 +144,16 @@ bool CopiaNuova::conferma() {
     for (int volta = 0; volta < 100; ++volta) {
         const QString seguito = volta == 0 ? QString() : u"_%1"_s.arg(volta, 2, 10, QChar(u'0'));
         const QString percorso = base + seguito + u".tar.zst"_s;
-        // Never over a file that is there.
-        if (QFile::rename(m_provvisorio, percorso)) {
+        const int errore = rinominaSenzaCoprire(m_provvisorio, percorso);
+        if (errore == 0) {
             Disco().scaricaCartella(m_cartella);
             m_percorso = percorso;
             return true;
         }
-        if (!QFileInfo::exists(percorso))
-            break;
+        if (errore != EEXIST)
+            return fallisci(errore);
     }
-    return fallisci(errno);
+    return fallisci(EEXIST);
 }
 
 bool CopiaNuova::fallisci(int errore) {
