@@ -11,7 +11,7 @@ _borlano_aziende() {
 _borlano() {
     local parola=${COMP_WORDS[COMP_CWORD]} prima=${COMP_WORDS[COMP_CWORD - 1]} opzioni unita="" i
     case ${COMP_WORDS[0]##*/} in
-    lanciatore) opzioni="--unita --azienda --dimostrazione --help --version" ;;
+    lanciatore) opzioni="--unita --azienda --dimostrazione --aiuto --help --version" ;;
     borcopia) opzioni="--unita --azienda --in --conserva --verifica --ripristina --elenca --avanzamento --aiuto --help --version" ;;
     borcrea) opzioni="--sorgente --unita --azienda --documenti --aiuto --help --version" ;;
     borverifica) opzioni="--unita --azienda --json --aiuto --help --version" ;;

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace bor {
 
-std::optional<int> leggiRigaComando(QCommandLineParser& riga, int rifiutata) {
+std::optional<int> leggiRigaComando(QCommandLineParser& riga, int rifiutata, AltriArgomenti altri) {
     traduciQt();
     QCoreApplication::setApplicationVersion(versione());
     const QCommandLineOption aiuto({u"h"_s, u"aiuto"_s, u"help"_s}, u"Mostra questo aiuto."_s);
@@ -21,10 +21,15 @@ std::optional<int> leggiRigaComando(QCommandLineParser& riga, int rifiutata) {
     }
     if (riga.isSet(u"version"_s))
         riga.showVersion();
-    if (!riga.isSet(aiuto))
+    if (riga.isSet(aiuto)) {
+        QTextStream(stdout) << riga.helpText();
+        return 0;
+    }
+    if (altri == AltriArgomenti::Ammessi || riga.positionalArguments().isEmpty())
         return std::nullopt;
-    QTextStream(stdout) << riga.helpText();
-    return 0;
+    QTextStream(stderr) << u"\"%1\" non è un'opzione: --aiuto le elenca.\n"_s.arg(
+        riga.positionalArguments().first());
+    return rifiutata;
 }
 
 std::optional<int> numeroOpzione(const QCommandLineParser& riga, const QString& opzione, int minimo,

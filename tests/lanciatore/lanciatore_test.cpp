@@ -136,6 +136,8 @@ TEST(Avvio, ChiNonPuoPartireNonScriveNullaENonChiedeUnoSchermo) {
     EXPECT_TRUE(errori.contains(u"non esiste"_s)) << qPrintable(errori);
     EXPECT_EQ(senzaSchermo(vuota, u"lanciatore"_s, {u"--unita"_s, u"nessuna"_s}, &errori), 1);
     EXPECT_TRUE(errori.contains(u"non esiste"_s)) << qPrintable(errori);
+    EXPECT_EQ(senzaSchermo(vuota, u"lanciatore"_s, {u"/srv/contabilita"_s}, &errori), 1);
+    EXPECT_TRUE(errori.contains(u"non è un'opzione"_s)) << qPrintable(errori);
     EXPECT_EQ(senzaSchermo(vuota, u"lanciatore"_s, {u"--azienda"_s, u"7"_s}, &errori), 1);
     EXPECT_TRUE(errori.contains(u"L'azienda 7 non c'è"_s)) << qPrintable(errori);
 }

@@ -89,8 +89,6 @@ private:
 
 /// What is wrong with the options; empty when nothing is.
 QString Comando::controlla() {
-    if (const QStringList altri = m_parser.positionalArguments(); !altri.isEmpty())
-        return u"%1: non è un'opzione."_s.arg(altri.first());
     bool numero = false;
     m_codice = m_parser.value(u"azienda"_s).toInt(&numero);
     if (!numero || m_codice < 0 || m_codice > 999)

@@ -23,7 +23,7 @@ int main(int argc, char** argv) {
                        {u"documenti"_s, u"Ripete i documenti fino a questo numero, per misurare i tempi."_s,
                         u"numero"_s, u"0"_s}});
     parser.addPositionalArgument(u"sorgente"_s, u"Cartella dei testi, come --sorgente."_s, u"[sorgente]"_s);
-    if (const auto esito = bor::leggiRigaComando(parser, 2))
+    if (const auto esito = bor::leggiRigaComando(parser, 2, bor::AltriArgomenti::Ammessi))
         return *esito;
     const auto codice = bor::numeroOpzione(parser, u"azienda"_s, 0, 999);
     const auto documenti = bor::numeroOpzione(parser, u"documenti"_s, 0, bor::Archivio::massimo);

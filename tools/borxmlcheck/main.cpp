@@ -121,7 +121,8 @@ int main(int argc, char** argv) {
         {json, pagina, {opzioneHtml, u"Con --mostra: scrive la pagina HTML anche dove c'è uno schermo."_s}});
     riga.addPositionalArgument(u"file"_s, u"I file XML da controllare, o cartelle di file XML."_s,
                                u"file..."_s);
-    if (const auto esito = bor::leggiRigaComando(riga, bor::resoconto::esitoErrore))
+    if (const auto esito =
+            bor::leggiRigaComando(riga, bor::resoconto::esitoErrore, bor::AltriArgomenti::Ammessi))
         return *esito;
     if (riga.isSet(pagina))
         return mostra(riga.value(pagina));

@@ -1,9 +1,8 @@
 // The launcher: starts the module on a company, or the window in which one of a drive's companies is chosen.
 #include "common/installazione.h"
-#include "common/versione.h"
+#include "common/rigacomando.h"
 #include "lanciatore/aziende.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -69,8 +68,6 @@ void descriviOpzioni(QCommandLineParser& parser) {
          u"codice"_s},
         {u"dimostrazione"_s, u"Apre subito l'azienda dimostrativa, e la crea se non c'è."_s},
     });
-    parser.addHelpOption();
-    parser.addVersionOption();
 }
 
 QString unitaScelta(const QCommandLineParser& parser) {
@@ -100,10 +97,10 @@ QString avviaSubito(const QCommandLineParser& parser) {
 
 int main(int argc, char* argv[]) {
     const QCoreApplication applicazione(argc, argv);
-    QCoreApplication::setApplicationVersion(bor::versione());
     QCommandLineParser parser;
     descriviOpzioni(parser);
-    parser.process(applicazione);
+    if (const auto esito = bor::leggiRigaComando(parser, 1))
+        return *esito;
     QString motivo = richiestaVana(parser);
     if (motivo.isEmpty() && !parser.isSet(u"azienda"_s) && !parser.isSet(u"dimostrazione"_s))
         return continuaInFinestra({unitaScelta(parser)});
