@@ -107,6 +107,36 @@ TEST(Guida, CitaSoloCioCheIlProgrammaDice) {
     EXPECT_GT(citazioni, 300);
 }
 
+/// Longest part of a text between the places that are filled in.
+QString parteFissa(const QString& testo) {
+    static const QRegularExpression posto(u"%\\d"_s);
+    QString lunga;
+    for (const QString& parte : testo.split(posto))
+        lunga = parte.size() > lunga.size() ? parte : lunga;
+    static const QRegularExpression orlo(u"^[\\s\"(,.]+|[\\s\"(,.]+$"_s);
+    return lunga.remove(orlo);
+}
+
+TEST(Guida, DiceOgniRilievoDelControllo) {
+    const QString capitolo = capitoli().at(u"controllo.md"_s).replace(spazi, u" "_s);
+    const QDir verifica(radice + u"tools/borverifica"_s);
+    // What is no finding: options, remedies, and the line of a finding.
+    const QStringList altri{u"main.cpp"_s, u"rimedio.cpp"_s, u"verifica.cpp"_s};
+    int rilievi = 0;
+    for (const QString& nome : verifica.entryList({u"*.cpp"_s})) {
+        if (altri.contains(nome))
+            continue;
+        for (const QString& testo : letterali(leggi(verifica.filePath(nome))).split(u'\n')) {
+            const QString detto = parteFissa(testo);
+            if (detto.count(u' ') < 3)
+                continue;
+            ++rilievi;
+            EXPECT_TRUE(capitolo.contains(detto)) << qPrintable(nome + u": "_s + detto);
+        }
+    }
+    EXPECT_GT(rilievi, 30);
+}
+
 TEST(Guida, NominaSoloTastiEFileCheCiSono) {
     static const QRegularExpression tasto(u"^((Ctrl|Maiusc|Alt)\\+){0,2}(F\\d+|[A-Z0-9,]|Fine)$"_s);
     const Programma programma = leggiProgramma();
