@@ -20,7 +20,7 @@ BarraIntestazioni::BarraIntestazioni(QTableView* griglia, const std::vector<Coma
         const QString intestazione =
             griglia->model()->headerData(comando.colonna, Qt::Horizontal, Qt::DisplayRole).toString();
         bottone->setAccessibleName(comando.didascalia + u": "_s + intestazione);
-        auto* tasto = new QShortcut(comando.tasto, this, [bottone] { bottone->click(); });
+        auto* tasto = new QShortcut(comando.tasto, this, bottone, &QToolButton::click);
         tasto->setAutoRepeat(false);
         tasto->setWhatsThis(u"Ordina l'elenco: "_s + intestazione);
         bottone->setToolTip(u"Ordina l'elenco (%1)"_s.arg(comando.tasto.toString(QKeySequence::NativeText)));
