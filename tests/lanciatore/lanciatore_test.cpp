@@ -17,6 +17,7 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -270,10 +271,10 @@ TEST(SceltaAzienda, LaCopiaVaAvantiDietroLaFinestraESiPuoInterrompere) {
     finestra.copia(programmi.path());
     ASSERT_TRUE(QTest::qWaitFor([&] { return copia->isEnabled(); }));
     EXPECT_TRUE(esito->text().endsWith(u"/copie/x.tar.zst"_s)) << qPrintable(esito->text());
-    EXPECT_EQ(
-        elenco->topLevelItem(1)->text(2),
-        QDateTime(QDate(2026, 11, 23), QTime(17, 0), Qt::UTC).toLocalTime().toString(u"dd/MM/yyyy HH:mm") +
-            u" (errori: 1)"_s);
+    EXPECT_EQ(elenco->topLevelItem(1)->text(2), QDateTime(QDate(2026, 11, 23), QTime(17, 0), QTimeZone::utc())
+                                                        .toLocalTime()
+                                                        .toString(u"dd/MM/yyyy HH:mm") +
+                                                    u" (errori: 1)"_s);
     EXPECT_EQ(Promemoria(Percorsi::predefiniti(unita.radice()), 12).cartellaCopie(), programmi.path());
     EXPECT_TRUE(esito->isVisible());
     finestra.cambiaUnita(programmi.path());

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPushButton>
@@ -38,8 +39,8 @@ protected:
     Vista& registro() { return vista(Schermo::Borfte); }
     template <class W>
     W* aperta() {
-        for (W* trovata : finestra.findChildren<W*>())
-            if (trovata->isVisible())
+        for (QDialog* dialogo : finestra.findChildren<QDialog*>())
+            if (auto* trovata = dynamic_cast<W*>(dialogo); trovata && trovata->isVisible())
                 return trovata;
         return nullptr;
     }

@@ -186,7 +186,7 @@ TEST_F(VistaElencoTest, LElencoSiEsportaComeSiVede) {
     const QString file = cartella.filePath(u"elenco"_s);
     const auto esporta = [&](const QString& filtro) {
         QTimer attende;
-        attende.callOnTimeout([&] {
+        attende.callOnTimeout(&attende, [&] {
             auto* dialogo = vista->findChild<QFileDialog*>(u"salvaTabella"_s);
             if (!dialogo || !dialogo->isVisible())
                 return;
