@@ -103,7 +103,9 @@ void Vista::keyPressEvent(QKeyEvent* evento) {
 }
 
 void offriGuida(QDialog* finestra, const QString& capitolo) {
-    auto* tasto = new QShortcut(Qt::Key_F1, finestra);
+    auto* tasto = new QShortcut(finestra);
+    // Whoever comes from the goods lines is used to the second one.
+    tasto->setKeys({Qt::Key_F1, Qt::SHIFT | Qt::Key_F1});
     tasto->setAutoRepeat(false);
     QObject::connect(tasto, &QShortcut::activated, finestra, [finestra, capitolo] {
         const QWidget* sotto = finestra->parentWidget();

@@ -278,6 +278,8 @@ TEST_F(Schermi, F12MostraITastiDelloSchermo) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(tasti));
     tasto(*tasti, Qt::Key_F1);
     EXPECT_EQ(sistema.aperti, QStringList{installato(u"guida"_s) + u"/tasti.html"_s});
+    tasto(*tasti, Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_EQ(sistema.aperti.size(), 2);
     QTest::keyClick(tasti, Qt::Key_Escape);
     EXPECT_FALSE(tasti->isVisible());
 }
