@@ -277,7 +277,8 @@ TEST_F(CopiaTest, NessunNomePortaFuoriDallaCartella) {
 TEST_F(CopiaTest, NullaEntraNellUnitaCheNonSiaDellaCopia) {
     for (const QString& nome : {u"suprok/suprok/borxpdf"_s, u"suprok/suprok/borxpdf.ini"_s,
                                 u"suprok/suprok/boraz0.008/borlano.tot"_s, u"suprok/suprok/x/borlano.eur"_s,
-                                u"utente/righe/x/5.righe"_s, u"utente/righe/5.bozza"_s}) {
+                                u"suprok/suprok/boraz0.007/borlano.rip"_s, u"utente/righe/x/5.righe"_s,
+                                u"utente/righe/5.bozza"_s}) {
         QFile file(copie.filePath(u"ostile"_s));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         NastroScritto nastro(file.handle());

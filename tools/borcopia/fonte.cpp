@@ -114,11 +114,12 @@ bool nomeDiCopia(const QString& nome, int codice) {
                        std::ranges::none_of(parti, [](const QString& parte) {
                            return parte.isEmpty() || parte == u"." || parte == u"..";
                        });
+    const QString azienda = parteAzienda(codice);
     const auto suite = nellaParte(nome, parteSuite);
     const auto righe = nellaParte(nome, parteRighe);
     return piano && codice >= 0 &&
-           (nome.startsWith(parteAzienda(codice)) || (suite && dellaSuite(*suite)) ||
-            (righe && diRigheDaRegistrare(*righe)));
+           ((nome.startsWith(azienda) && !tralasciato(nome.mid(azienda.size()))) ||
+            (suite && dellaSuite(*suite)) || (righe && diRigheDaRegistrare(*righe)));
 }
 
 std::optional<std::vector<FileFonte>> elencaFonte(const Percorsi& percorsi, int codice,
