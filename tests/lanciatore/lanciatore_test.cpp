@@ -143,6 +143,19 @@ TEST(Avvio, ChiNonPuoPartireNonScriveNullaENonChiedeUnoSchermo) {
     EXPECT_TRUE(errori.contains(u"L'azienda 7 non c'è"_s)) << qPrintable(errori);
 }
 
+TEST(Aziende, LaFinestraRicordaLUnitaSceltaEGliAltriAvviiNo) {
+    const QTemporaryDir dati;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(dati.path()));
+    const QString propria = dati.filePath(u"borfte/unita"_s);
+    EXPECT_EQ(unitaDellaFinestra(), propria);
+    const Unita unita;
+    ricordaUnita(unita.radice());
+    EXPECT_EQ(unitaDellaFinestra(), unita.radice());
+    EXPECT_EQ(unitaPredefinita(), propria) << "there the demo company is made";
+    ricordaUnita(dati.filePath(u"tolta"_s));
+    EXPECT_EQ(unitaDellaFinestra(), propria);
+}
+
 TEST(Aziende, IlModuloParteNellUnita) {
     const Unita unita;
     const QTemporaryDir programmi;

@@ -11,11 +11,13 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <optional>
 
 namespace bor::lancia {
 
@@ -56,12 +58,39 @@ QString ostacolo(const Percorsi& percorsi, int codiceazienda) {
     return {};
 }
 
-QString unitaPredefinita() {
+namespace {
+
+QString traIDatiDellUtente(const QString& nome) {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/borfte/"_s + nome;
+}
+
+QSettings ricordi() {
+    return QSettings(traIDatiDellUtente(u"lanciatore.ini"_s), QSettings::IniFormat);
+}
+
+constexpr QStringView unitaScelta = u"unita";
+
+/// The working directory, if the suite lies there.
+std::optional<QString> unitaQui() {
     const QString qui = QDir::currentPath();
     const auto suite = Percorsi(qui, QString()).reale(radiceSuite);
-    if (suite && QDir(*suite).exists())
-        return qui;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/borfte/unita"_s;
+    return suite && QDir(*suite).exists() ? std::optional(qui) : std::nullopt;
+}
+
+} // namespace
+
+QString unitaPredefinita() {
+    return unitaQui().value_or(traIDatiDellUtente(u"unita"_s));
+}
+
+QString unitaDellaFinestra() {
+    const auto qui = unitaQui();
+    const QString scelta = qui ? *qui : ricordi().value(unitaScelta).toString();
+    return QFileInfo(scelta).isDir() ? scelta : unitaPredefinita();
+}
+
+void ricordaUnita(const QString& unita) {
+    ricordi().setValue(unitaScelta, unita);
 }
 
 Comando comandoModulo(const QString& cartellaProgrammi, int codiceazienda) {

@@ -21,6 +21,12 @@ QList<Azienda> elencaAziende(const Percorsi& percorsi);
 /// else "borfte/unita" in the user's data folder.
 QString unitaPredefinita();
 
+/// The same for the window, where the one that was last chosen in it comes before the user's own folder.
+QString unitaDellaFinestra();
+/// Remembers for the user a drive chosen in the window; where that cannot be written, the next start does not
+/// know it.
+void ricordaUnita(const QString& unita);
+
 /// Why a company of the drive cannot be opened, in the operator's words: no such company, or without the
 /// files that the module must find and would otherwise make empty. Empty when it can.
 QString ostacolo(const Percorsi& percorsi, int codiceazienda);

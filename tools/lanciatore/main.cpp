@@ -103,7 +103,8 @@ int main(int argc, char* argv[]) {
         return *esito;
     QString motivo = richiestaVana(parser);
     if (motivo.isEmpty() && !parser.isSet(u"azienda"_s) && !parser.isSet(u"dimostrazione"_s))
-        return continuaInFinestra({unitaScelta(parser)});
+        return continuaInFinestra(
+            {parser.isSet(u"unita"_s) ? unitaScelta(parser) : bor::lancia::unitaDellaFinestra()});
     if (motivo.isEmpty())
         motivo = avviaSubito(parser);
     return motivo.isEmpty() ? 0 : rifiuta(unitaScelta(parser), motivo);

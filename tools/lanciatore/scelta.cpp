@@ -240,8 +240,10 @@ void SceltaAzienda::apriScelta() {
 void SceltaAzienda::chiediUnita() {
     const QString scelta = QFileDialog::getExistingDirectory(this, u"Cartella che contiene suprok"_s,
                                                              m_percorsi.radiceCorrente());
-    if (!scelta.isEmpty())
-        cambiaUnita(scelta);
+    if (scelta.isEmpty())
+        return;
+    cambiaUnita(scelta);
+    ricordaUnita(scelta);
 }
 
 void SceltaAzienda::mostraGuida() {
