@@ -1,6 +1,8 @@
 // A copy of a company: what is in it, what comes back, and that nothing half done or damaged passes for
 // whole.
+#include "archive/archivio.h"
 #include "archive/diario.h"
+#include "archive/filecasuale.h"
 #include "archive/promemoria.h"
 #include "archive/raffica.h"
 #include "borcopia/appunti.h"
@@ -22,6 +24,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
+#include <optional>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -215,6 +218,31 @@ TEST_F(CopiaTest, InterrottaPienaOUccisaNonLasciaNullaCheParaIntero) {
     EXPECT_TRUE(elencaCopie(copie.path()).isEmpty());
     EXPECT_EQ(crea().errore, QString());
     EXPECT_EQ(nellaCartella().size(), 1);
+    EXPECT_EQ(elencaCopie(copie.path(), 7).size(), 1);
+}
+
+TEST_F(CopiaTest, ChiPuoSoloLeggereAspettaChiRegistra) {
+    Archivio a(azienda.percorsi(), disco, 7);
+    a.apri();
+    { const Raffica raffica(a, {}); } // makes the log
+    const QString tot = azienda.percorso(u"borlano.tot"_s);
+    QFile::setPermissions(tot, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    for (const QString& cartella : {azienda.percorsi().radiceCorrente(), copie.path()})
+        QFile::setPermissions(cartella, QFile::Permissions(0x7777));
+    std::optional<BloccoByte> blocco(std::in_place, a.tot, byteContatori);
+    const pid_t figlio = ::fork();
+    if (figlio == 0) {
+        constexpr uid_t nessuno = 65534;
+        if (::geteuid() == 0 && ::setresuid(nessuno, nessuno, nessuno) != 0)
+            ::_exit(2);
+        ::_exit(crea().errore.isEmpty() ? 0 : 1);
+    }
+    QThread::msleep(600);
+    int stato = -1;
+    EXPECT_EQ(::waitpid(figlio, &stato, WNOHANG), 0) << "read while another program wrote";
+    blocco.reset();
+    EXPECT_EQ(::waitpid(figlio, &stato, 0), figlio);
+    EXPECT_EQ(stato, 0);
     EXPECT_EQ(elencaCopie(copie.path(), 7).size(), 1);
 }
 

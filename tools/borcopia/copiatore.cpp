@@ -1,6 +1,7 @@
 #include "borcopia/copiatore.h"
 
 #include "archive/archivio.h"
+#include "archive/blocchi.h"
 #include "archive/filetesto.h"
 #include "archive/raffica.h"
 #include "borcopia/appunti.h"
@@ -36,6 +37,7 @@ constexpr int tentativi = 12;
 constexpr auto passoTentativi = 50UL;
 /// Who wants to register waits five seconds for the lock, then gives up.
 constexpr std::chrono::milliseconds bloccoMassimo{2000};
+constexpr std::chrono::seconds attesaLettura{5};
 
 /// A file whose bytes wait in memory until the lock is given back.
 struct InMemoria {
@@ -243,18 +245,22 @@ bool Copiatore::sottoBlocco(bool pronto, std::optional<Registrato>& prima) {
     // Open no longer than needed: somebody may want the files alone, for a reorder.
     m_archivio.apri();
     {
+        // Who may only read cannot have the lock of the bursts, but can keep others from it.
+        std::optional<BloccoDiLettura> lettura;
+        if (!QFileInfo(m_archivio.tot.percorso()).isWritable())
+            lettura.emplace(m_archivio.tot, BloccoDiLettura::Orario::now() + attesaLettura);
         const Raffica raffica(m_archivio, {});
         QElapsedTimer tempo;
         tempo.start();
         raccontaRecuperi();
-        if (raffica.riuscita()) {
+        if (raffica.riuscita() && !(lettura && lettura->occupato())) {
             const bool seconda = prima.has_value();
             const Registrato ora = registrato();
             letto = pronto && prima && prima->certo && ora == *prima;
             prima = ora;
             if (!letto && seconda)
                 letto = leggiCambiati(QDeadlineTimer(bloccoMassimo));
-        } else if (raffica.esito() != EsitoRaffica::Occupata) {
+        } else if (!raffica.riuscita() && raffica.esito() != EsitoRaffica::Occupata) {
             fallisci(
                 u"L'archivio non si può prendere per la copia: serve il permesso di scrivere in %1."_s.arg(
                     m_archivio.reale(m_archivio.file(u""))));
