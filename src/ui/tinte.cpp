@@ -81,6 +81,8 @@ QString foglioDiStile(Tono tono) {
         "QLineEdit[scarto=\"true\"] { color: @allarme; font-weight: bold; }"
         "QLineEdit[errato=\"true\"] { border: 1px solid @allarme; background: @errato; }"
         "QComboBox:focus, QTableView:focus, QListView:focus { border: 1px solid @fuoco; }"
+        // Where the frame is ours and nothing is said of padding, Qt 6.8 sets the text at the very edge.
+        "QComboBox:focus { padding-left: 4px; }"
         "QToolButton:focus { border: 2px solid @fuoco; border-radius: 3px; }"_s;
     // What the style draws around ticks and options cannot be seen on a dark ground.
     if (scuro)
