@@ -56,8 +56,9 @@ RiquadroTea creaEstremi(const BancoTea& banco) {
     banco.invio.catena({numero, emissione->campo(), registrazione->campo(), protocollo});
     banco.invio.catena({registro, registrazione->campo()});
     banco.invio.passo(esig, protocollo);
-    const std::array<QWidget*, 6> ordine = {
-        numero, emissione->campo(), registro, registrazione->campo(), protocollo, esig};
+    // A date box as a whole: its edit alone would leave the rest of it behind the last field, whence Tab
+    // falls back.
+    const std::array<QWidget*, 6> ordine = {numero, emissione, registro, registrazione, protocollo, esig};
     for (std::size_t i = 1; i < ordine.size(); ++i)
         QWidget::setTabOrder(ordine[i - 1], ordine[i]);
     return {gruppo, numero, protocollo};

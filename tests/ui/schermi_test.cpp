@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QLayout>
 #include <QMenu>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
@@ -102,6 +103,34 @@ TEST_F(Schermi, OgniCampoHaUnNomeSuo) {
             EXPECT_FALSE(nome.isEmpty()) << qPrintable(widget->objectName());
             EXPECT_TRUE(nomi.try_emplace(nome, widget->objectName()).second)
                 << qPrintable(nome + u": "_s + nomi[nome] + u", "_s + widget->objectName());
+        }
+    }
+}
+
+TEST_F(Schermi, TabPassaPerOgniCampoETornaAlPrimo) {
+    azienda.scrivi(u"borlano.fpa"_s, QByteArray("999").leftJustified(sizeof(Fpa)));
+    for (const Schermo schermo : tuttiGliSchermi) {
+        Vista& vista = mostra(schermo);
+        std::set<const QWidget*> campi;
+        for (auto* widget : vista.findChildren<QWidget*>()) {
+            // One button of a group is entered, the others are chosen with the arrows.
+            const bool unoDiTanti = qobject_cast<QRadioButton*>(widget) != nullptr;
+            if (widget->isVisible() && widget->isEnabled() && !widget->focusProxy() && !unoDiTanti &&
+                widget->focusPolicy() & Qt::TabFocus)
+                campi.insert(widget);
+        }
+        ASSERT_FALSE(campi.empty()) << qPrintable(vista.titolo());
+        QWidget* const primo = const_cast<QWidget*>(*campi.begin());
+        for (const Qt::KeyboardModifiers modi : {Qt::NoModifier, Qt::ShiftModifier}) {
+            primo->setFocus(Qt::TabFocusReason);
+            std::set<const QWidget*> passati;
+            while (passati.insert(finestra.focusWidget()).second)
+                tasto(vista, Qt::Key_Tab, modi);
+            EXPECT_EQ(finestra.focusWidget(), primo) << qPrintable(vista.titolo());
+            for (const QWidget* campo : campi)
+                EXPECT_TRUE(passati.contains(campo))
+                    << qPrintable(vista.titolo() + u": "_s + campo->objectName()) << ' '
+                    << campo->metaObject()->className();
         }
     }
 }
