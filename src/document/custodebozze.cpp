@@ -137,10 +137,17 @@ void CustodeBozze::dopo(Schermo schermo) {
 bool CustodeBozze::accetta(const Bozza& bozza) const {
     return m_contesto.operatore.chiedi(
         u"Un documento non era ancora registrato quando il programma si è interrotto:\n\n%1,\n"
-        u"scritto fino alle %2 del %3.\n\nRiprenderlo? Rispondendo No va perduto."_s.arg(
-            descrizione(bozza, m_contesto.valuta()), bozza.scritta.toString(u"HH:mm"_s),
-            bozza.scritta.toString(u"dd/MM/yyyy"_s)),
+        u"scritto fino alle %2 del %3.\n\nRiprenderlo?"_s.arg(descrizione(bozza, m_contesto.valuta()),
+                                                              bozza.scritta.toString(u"HH:mm"_s),
+                                                              bozza.scritta.toString(u"dd/MM/yyyy"_s)),
         u"Documento non registrato"_s);
+}
+
+bool CustodeBozze::rinuncia() const {
+    return m_contesto.operatore.chiedi(
+        u"Eliminare per sempre quanto era stato scritto in questo documento?\n\n"
+        "Rispondendo No resta conservato, e la domanda torna al prossimo avvio."_s,
+        u"Documento non registrato"_s, Icona::Esclamazione, Predefinita::No);
 }
 
 void CustodeBozze::riprendi() {
@@ -155,7 +162,8 @@ void CustodeBozze::riprendi() {
             continue;
         }
         if (!accetta(*bozza)) {
-            m_cartella.elimina(nome);
+            if (rinuncia())
+                m_cartella.elimina(nome);
             continue;
         }
         m_nome = nome;

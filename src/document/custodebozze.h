@@ -30,8 +30,8 @@ public:
     /// of every key; costs little when there is nothing new.
     void conserva();
     /// At the start of the program, with the register in view: tells of each draft that no running program
-    /// has, and asks whether to take it up. Yes opens it as it was, No drops it; those behind the one that is
-    /// taken up wait for the next start.
+    /// has, and asks whether to take it up. Yes opens it as it was. After a No it is dropped once a second
+    /// question is answered with Yes; else it waits for the next start, as do those behind the one taken up.
     void riprendi();
 
     /// The window is about to show a screen, and has shown it. A document is open from its first screen until
@@ -46,6 +46,7 @@ private:
     bool prendiPosto();
     void abbandona();
     bool accetta(const Bozza& bozza) const;
+    bool rinuncia() const;
     void apri(Bozza bozza);
     void riprendiRighe(Bozza& bozza);
 

@@ -158,7 +158,7 @@ public:
 
 /// One run of the program with its screens; going away without leaving the document is a crash.
 struct Corsa {
-    explicit Corsa(const AziendaDiProva& azienda, bool riprende = true)
+    explicit Corsa(const AziendaDiProva& azienda, bool riprende = true, bool elimina = true)
         : prova(azienda), sospese(azienda.percorsi().cartellaBozze(7)),
           custode(contesto, documento, {borftem, borftea, borftex, borftek}, sospese.cartella()) {
         vetrina.attiva = {{Schermo::Borftem, [this] { borftem.attiva(); }},
@@ -166,7 +166,7 @@ struct Corsa {
                           {Schermo::Borftex, [this] { borftex.attiva(); }},
                           {Schermo::Borftek, [this] { borftek.attiva(); }}};
         navigatore.affida(custode);
-        prova.operatore.risposte = {riprende};
+        prova.operatore.risposte = {riprende, elimina};
         navigatore.mostra(Schermo::Borfte);
         custode.riprendi();
     }
@@ -247,7 +247,7 @@ TEST_F(CustodeTest, UnDocumentoNuovoTornaConLeRigheNonConfermate) {
         EXPECT_EQ(dopo.domanda(),
                   u"Un documento non era ancora registrato quando il programma si è interrotto:\n\n"
                   "Fattura n. 12, Bianchi, totale 100,00,\nscritto fino alle 10:30 del 15/03/2015.\n\n"
-                  "Riprenderlo? Rispondendo No va perduto.");
+                  "Riprenderlo?");
         EXPECT_EQ(dopo.vetrina.mostrati.last(), Schermo::Borftex);
         EXPECT_EQ(dopo.borftex.righe().riga(3).descrizione, u"Vite à testa");
         EXPECT_EQ(dopo.documento.ddd[2].descrizione, QString());
@@ -283,7 +283,7 @@ TEST_F(CustodeTest, UnaNotaDiCreditoFattaDaUnaFatturaTornaColRiferimento) {
     EXPECT_EQ(dopo.documento.dddp[0].descrizione, u"Storno della parcella n. 8 del 15/03/2015");
 }
 
-TEST_F(CustodeTest, ConNoOLasciandoIlDocumentoLaBozzaSparisce) {
+TEST_F(CustodeTest, SoloConUnSecondoSiOLasciandoIlDocumentoLaBozzaSparisce) {
     documento(u"1"_s, 42000.5);
     interrompi(1);
     {
@@ -293,10 +293,13 @@ TEST_F(CustodeTest, ConNoOLasciandoIlDocumentoLaBozzaSparisce) {
         EXPECT_TRUE(file().isEmpty());
     }
     interrompi(1);
-    Corsa dopo(azienda, false);
-    EXPECT_EQ(dopo.prova.operatore.domande.size(), 1);
-    EXPECT_TRUE(file().isEmpty());
-    EXPECT_EQ(dopo.vetrina.mostrati, QList{Schermo::Borfte});
+    for (const bool elimina : {false, true}) {
+        Corsa dopo(azienda, false, elimina);
+        ASSERT_EQ(dopo.prova.operatore.domande.size(), 2);
+        EXPECT_EQ(dopo.prova.operatore.domande[1].predefinita, Predefinita::No);
+        EXPECT_EQ(file().isEmpty(), elimina);
+        EXPECT_EQ(dopo.vetrina.mostrati, QList{Schermo::Borfte});
+    }
 }
 
 TEST_F(CustodeTest, NellaTestataRestanoIlClienteEICampi) {
