@@ -233,11 +233,12 @@ TEST(SceltaAzienda, InvioApreLAziendaSceltaEdEscChiude) {
 }
 
 TEST(SceltaAzienda, SenzaAziendeInvioCreaLaDimostrativa) {
-    const QTemporaryDir unita;
+    const QTemporaryDir dati;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(dati.path()));
     const QTemporaryDir programmi;
     programma(programmi.filePath(u"borcrea"_s), "cd \"$2\" && mkdir -p suprok/suprok/boraz0.001\n");
 
-    SceltaAzienda finestra(unita.path(), programmi.path(), [](const Percorsi&, int) { return true; });
+    SceltaAzienda finestra(unitaPredefinita(), programmi.path(), [](const Percorsi&, int) { return true; });
     finestra.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
     auto* pagine = finestra.findChild<QStackedWidget*>();
@@ -246,6 +247,26 @@ TEST(SceltaAzienda, SenzaAziendeInvioCreaLaDimostrativa) {
     QTest::keyClick(&finestra, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([&] { return pagine->currentIndex() == 0; }));
     EXPECT_EQ(finestra.findChild<QTreeWidget*>(u"elenco"_s)->topLevelItem(0)->text(0), u"001"_s);
+}
+
+TEST(SceltaAzienda, InUnaCartellaSceltaSenzaAziendeInvioNonCreaNulla) {
+    const QTemporaryDir dati;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(dati.path()));
+    const QTemporaryDir scollegata;
+    const Unita unita;
+    SceltaAzienda finestra(unita.radice(), u"/opt/bor"_s, [](const Percorsi&, int) { return true; });
+    finestra.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    finestra.cambiaUnita(scollegata.path());
+    EXPECT_TRUE(finestra.findChild<QLabel*>(u"invito"_s)->text().contains(u"non è collegato"_s));
+    EXPECT_EQ(finestra.focusWidget()->objectName(), u"altraUnita"_s);
+    EXPECT_FALSE(finestra.findChild<QPushButton*>(u"crea"_s)->isDefault());
+    EXPECT_TRUE(finestra.findChild<QPushButton*>(u"altraUnita"_s)->isDefault());
+
+    finestra.cambiaUnita(unita.radice());
+    EXPECT_TRUE(finestra.findChild<QPushButton*>(u"apri"_s)->isDefault());
+    finestra.cambiaUnita(unitaPredefinita());
+    EXPECT_TRUE(finestra.findChild<QPushButton*>(u"crea"_s)->isDefault());
 }
 
 TEST(SceltaAzienda, LaCopiaVaAvantiDietroLaFinestraESiPuoInterrompere) {

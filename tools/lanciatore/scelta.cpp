@@ -128,18 +128,17 @@ QWidget* SceltaAzienda::costruisciElenco() {
 
 QWidget* SceltaAzienda::costruisciInvito() {
     auto* invito = new QWidget;
-    auto* testo = new QLabel(u"In questa unità non c'è ancora nessuna azienda.\n"
-                             "Per provare il programma se ne può creare una dimostrativa, "
-                             "con clienti, articoli e documenti di due anni."_s);
-    testo->setWordWrap(true);
-    testo->setAlignment(Qt::AlignCenter);
+    m_invito = new QLabel;
+    m_invito->setObjectName(u"invito"_s);
+    m_invito->setWordWrap(true);
+    m_invito->setAlignment(Qt::AlignCenter);
     m_crea = bottone(u"crea"_s, u"&Crea l'azienda dimostrativa"_s, u"inserisci"_s,
-                     u"Crea l'azienda 001 in questa unità (Invio)"_s);
+                     u"Crea l'azienda 001 in questa unità"_s);
     connect(m_crea, &QPushButton::clicked, this, &SceltaAzienda::creaDimostrazione);
     auto* disposizione = new QVBoxLayout(invito);
     disposizione->setSpacing(16);
     disposizione->addStretch();
-    disposizione->addWidget(testo);
+    disposizione->addWidget(m_invito);
     disposizione->addWidget(m_crea, 0, Qt::AlignHCenter);
     disposizione->addStretch();
     return invito;
@@ -160,9 +159,9 @@ QWidget* SceltaAzienda::costruisciCopia() {
 
 QWidget* SceltaAzienda::costruisciComandi() {
     auto* comandi = new QWidget;
-    QPushButton* altra = bottone(u"altraUnita"_s, u"&Altra unità..."_s, u"cerca"_s,
-                                 u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
-    connect(altra, &QPushButton::clicked, this, &SceltaAzienda::chiediUnita);
+    m_altra = bottone(u"altraUnita"_s, u"&Altra unità..."_s, u"cerca"_s,
+                      u"Sceglie la cartella che contiene suprok (Alt+A)"_s);
+    connect(m_altra, &QPushButton::clicked, this, &SceltaAzienda::chiediUnita);
     QPushButton* rileggi = bottone(u"aggiorna"_s, u"A&ggiorna"_s, u"aggiorna"_s, u"Rilegge l'elenco (F5)"_s);
     connect(rileggi, &QPushButton::clicked, this, &SceltaAzienda::aggiorna);
     QPushButton* guida = bottone(u"guida"_s, u"G&uida"_s, u"guida"_s, u"Apre la guida (F1)"_s);
@@ -173,7 +172,7 @@ QWidget* SceltaAzienda::costruisciComandi() {
     connect(m_apriBottone, &QPushButton::clicked, this, &SceltaAzienda::apriScelta);
     auto* disposizione = new QHBoxLayout(comandi);
     disposizione->setContentsMargins(0, 0, 0, 0);
-    disposizione->addWidget(altra);
+    disposizione->addWidget(m_altra);
     disposizione->addWidget(rileggi);
     disposizione->addWidget(guida);
     disposizione->addStretch();
@@ -211,14 +210,30 @@ void SceltaAzienda::aggiorna() {
     m_pagine->setCurrentIndex(vuoto ? 1 : 0);
     m_apriBottone->setDisabled(vuoto);
     m_copiaBottone->setDisabled(vuoto || m_copia->inCorso());
-    (vuoto ? m_crea : m_apriBottone)->setDefault(true);
     if (vuoto) {
-        m_crea->setFocus();
+        invita();
         return;
     }
+    m_apriBottone->setDefault(true);
     if (!m_elenco->currentItem())
         m_elenco->setCurrentItem(m_elenco->topLevelItem(0));
     m_elenco->setFocus();
+}
+
+/// Enter makes a company on the user's own drive only: any other one without companies is rather a mistake.
+void SceltaAzienda::invita() {
+    const bool propria = QDir(m_percorsi.radiceCorrente()) == QDir(unitaPredefinita());
+    const QString prova = u"Per provare il programma se ne può creare una dimostrativa, "
+                          "con clienti, articoli e documenti di due anni."_s;
+    m_invito->setText(propria
+                          ? u"In questa unità non c'è ancora nessuna azienda.\n"_s + prova
+                          : u"In questa cartella non c'è nessuna azienda. Forse non è quella che contiene "
+                            "suprok, o il disco di rete non è collegato: scegliete «Altra unità...», "
+                            "o collegatelo e premete «Aggiorna».\n"_s +
+                                prova);
+    QPushButton* solito = propria ? m_crea : m_altra;
+    solito->setDefault(true);
+    solito->setFocus();
 }
 
 std::optional<int> SceltaAzienda::scelta() const {

@@ -40,6 +40,7 @@ private:
     QWidget* costruisciInvito();
     QWidget* costruisciCopia();
     QWidget* costruisciComandi();
+    void invita();
     void apriScelta();
     void chiediUnita();
     void mostraGuida();
@@ -55,7 +56,9 @@ private:
     QLabel* m_unita = nullptr;
     QStackedWidget* m_pagine = nullptr;
     QTreeWidget* m_elenco = nullptr;
+    QLabel* m_invito = nullptr;
     QPushButton* m_crea = nullptr;
+    QPushButton* m_altra = nullptr;
     QPushButton* m_apriBottone = nullptr;
     QPushButton* m_copiaBottone = nullptr;
     PannelloCopia* m_copia = nullptr;
