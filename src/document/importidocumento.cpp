@@ -3,20 +3,19 @@
 #include "document/righeiva.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace bor {
 
 namespace {
 
-/// A field `ddmmyyyy` as `yyyymmdd`; blank where it holds no date.
-Text<8> girata(const Text<8>& campo) {
+/// A field `ddmmyyyy` as `yyyymmdd`; nothing where it holds no date.
+std::optional<Text<8>> girata(const Text<8>& campo) {
     const auto& c = campo.bytes;
     const bool cifre = std::ranges::all_of(c, [](char x) { return x >= '0' && x <= '9'; });
-    Text<8> giorno;
-    giorno.blank();
-    if (cifre && campo.raw() != "00000000")
-        giorno.bytes = {c[4], c[5], c[6], c[7], c[2], c[3], c[0], c[1]};
-    return giorno;
+    if (!cifre || campo.raw() == "00000000")
+        return std::nullopt;
+    return Text<8>{{c[4], c[5], c[6], c[7], c[2], c[3], c[0], c[1]}};
 }
 
 } // namespace
@@ -43,9 +42,9 @@ Text<8> primaScadenza(const Fte& fte, const F2e& f2e) {
     prima.blank();
     const auto guarda = [&prima](const auto& scadenze) {
         for (const Text<8>& campo : scadenze) {
-            const Text<8> giorno = girata(campo);
-            if (giorno.bytes[0] != ' ' && (prima.bytes[0] == ' ' || giorno.raw() < prima.raw()))
-                prima = giorno;
+            const auto giorno = girata(campo);
+            if (giorno && (prima.bytes[0] == ' ' || giorno->bytes < prima.bytes))
+                prima = *giorno;
         }
     };
     guarda(fte.scad);

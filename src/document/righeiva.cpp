@@ -2,6 +2,8 @@
 
 #include "common/posti.h"
 
+#include <span>
+
 namespace bor {
 
 namespace {
@@ -41,14 +43,23 @@ double sommaIva(const CoppiaFte& coppia, VoceIva voce) {
 }
 
 double sommaIva(const Fte& fte, const F2e& f2e, VoceIva voce) {
-    const struct {
-        const Fte& fte;
-        const F2e& f2e;
-    } meta{fte, f2e};
-    double somma = double{*cella(meta, voce, 2)} + *cella(meta, voce, 1);
-    for (int r = 3; r <= righeIva; ++r)
-        somma += *cella(meta, voce, r);
-    return somma;
+    const auto somma = [](const auto& prime, const auto& ultime) {
+        double tutte = double{prime[1]} + prime[0];
+        for (const double importo : std::span(prime).subspan(2))
+            tutte += importo;
+        for (const double importo : ultime)
+            tutte += importo;
+        return tutte;
+    };
+    switch (voce) {
+    case VoceIva::Imponibile:
+        return somma(fte.impon, f2e.impon);
+    case VoceIva::Imposta:
+        return somma(fte.iva, f2e.iva);
+    case VoceIva::Esente:
+        return somma(fte.esen, f2e.esen);
+    }
+    return 0;
 }
 
 } // namespace bor

@@ -25,7 +25,12 @@ bool nominato(const Text<60>& pdf) {
 
 /// The number of its payment type; 0 where it names none.
 std::int16_t tipoPagamento(const Fte& fte) {
-    const int numero = fte.pagamento.raw().trimmed().toInt();
+    const QByteArrayView campo = fte.pagamento.raw();
+    // Mostly one or two digits among blanks, which a look at byte after byte would cost more than all else.
+    static const QByteArray vuoto(campo.size(), ' ');
+    const auto cifre = std::ranges::find(campo, ' ') - campo.begin();
+    const bool soloQuelle = campo.sliced(cifre) == QByteArrayView(vuoto).sliced(cifre);
+    const int numero = (soloQuelle ? campo.first(cifre) : campo.trimmed()).toInt();
     return breve(decltype(Tabelle::tipopagamenti)::contiene(numero) ? numero : 0);
 }
 

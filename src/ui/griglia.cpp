@@ -45,13 +45,14 @@ bool diTesto(const ColonnaGriglia& colonna) {
 }
 
 /// Width of a column that takes no part in what the others leave.
-int puntiFissi(const QTableView* elenco, const ColonnaGriglia& colonna, int minimi) {
+int puntiFissi(const QTableView* elenco, const ColonnaGriglia& colonna, int sezione) {
     if (colonna.larghezza == ColonnaGriglia::nascosta)
         return 0;
     if (colonna.caratteri > 0)
         return puntiDi(elenco, colonna.caratteri * 1000 / caratteriData);
-    return colonna.larghezza == ColonnaGriglia::elastica ? std::max(minimi, puntiDi(elenco, colonna.minima))
-                                                         : puntiDi(elenco, colonna.larghezza);
+    if (colonna.larghezza != ColonnaGriglia::elastica)
+        return puntiDi(elenco, colonna.larghezza);
+    return std::max(elenco->horizontalHeader()->sectionSizeHint(sezione), puntiDi(elenco, colonna.minima));
 }
 
 /// Shares the width of a grid: texts take what the narrow columns leave, each by its stated width, and the
@@ -66,7 +67,7 @@ void adattaColonne(QTableView* elenco, std::span<const ColonnaGriglia> colonne) 
         if (diTesto(colonna))
             parti += colonna.larghezza;
         else
-            libera -= puntiFissi(elenco, colonna, testata->sectionSizeHint(i));
+            libera -= puntiFissi(elenco, colonna, i);
     }
     for (int i = 0; i < std::ssize(colonne); ++i) {
         const ColonnaGriglia& colonna = elemento(colonne, i);
@@ -75,7 +76,7 @@ void adattaColonne(QTableView* elenco, std::span<const ColonnaGriglia> colonne) 
         const int suoi = diTesto(colonna)
                              ? std::max({testata->sectionSizeHint(i), libera * colonna.larghezza / parti,
                                          scorre(elenco) ? puntiDi(elenco, colonna.minima) : 0})
-                             : puntiFissi(elenco, colonna, testata->sectionSizeHint(i));
+                             : puntiFissi(elenco, colonna, i);
         testata->resizeSection(i, suoi);
         tutte += suoi;
     }

@@ -27,10 +27,12 @@ protected:
         azienda.documento(fattura);
         CoppiaFte nota = documentoDi(formula, u"2"_s, 100.1, 22.02);
         nota.fte.tipo = 1;
+        nota.fte.pagamento.set(u"  2"); // as another program may have written it
         nota.fte.datadoc.set(u"20150401");
         azienda.documento(nota);
         CoppiaFte parcella = documentoDi(rossi, u"-3"_s, 50, 11);
         parcella.fte.parcella = 1;
+        parcella.fte.pagamento.set(u"2 30");
         parcella.fte.datadoc.set(u"20141231");
         azienda.documento(parcella);
         CoppiaFte eliminata = documentoDi(rossi, u"4"_s, 9999, 1);
@@ -86,7 +88,8 @@ TEST_F(VistaElencoTest, LeColonneInPiuDiconoImportiScadenzaEPagamento) {
     const auto altre = {Colonna::Imponibile, Colonna::Imposta,       Colonna::Esente,
                         Colonna::Ritenuta,   Colonna::PrimaScadenza, Colonna::Pagamento};
     EXPECT_EQ(riga(0, altre), u"1.000,00|220,00|10,50|200,00|30/06/2015|Rimessa diretta");
-    EXPECT_EQ(riga(1, altre), u"-100,10|-22,02||||");
+    EXPECT_EQ(riga(1, altre), u"-100,10|-22,02||||Rimessa diretta");
+    EXPECT_EQ(riga(2, altre), u"50,00|11,00||||") << "no number of a payment type";
 }
 
 TEST_F(VistaElencoTest, LaVistaRestaPerLaziendaESiRimette) {
