@@ -12,12 +12,27 @@ namespace bor {
 std::unique_ptr<Modulo> Modulo::avvia(const QString& rigaComando, Percorsi percorsi, Porte porte) {
     const Avvio avvio = controllaAvvio(rigaComando);
     if (avvio.esito == EsitoAvvio::SuiteVecchia)
-        porte.operatore.messaggio(
-            QStringLiteral("Questo modulo non è compatibile con la versione di Borlano in esecuzione"),
-            QStringLiteral("Attenzione"), Icona::Esclamazione);
+        avvisaSuiteVecchia(porte.operatore);
     if (avvio.esito != EsitoAvvio::Valido)
         return nullptr;
-    return std::unique_ptr<Modulo>(new Modulo(avvio.codiceazienda, std::move(percorsi), porte));
+    auto modulo = apri(avvio.codiceazienda, std::move(percorsi), porte);
+    modulo->avvisa();
+    modulo->borfte().riempi();
+    return modulo;
+}
+
+std::unique_ptr<Modulo> Modulo::apri(double codiceazienda, Percorsi percorsi, Porte porte) {
+    return std::unique_ptr<Modulo>(new Modulo(codiceazienda, std::move(percorsi), porte));
+}
+
+void Modulo::avvisa() const {
+    avvisaRecuperi(m_contesto);
+}
+
+void Modulo::avvisaSuiteVecchia(Operatore& operatore) {
+    operatore.messaggio(
+        QStringLiteral("Questo modulo non è compatibile con la versione di Borlano in esecuzione"),
+        QStringLiteral("Attenzione"), Icona::Esclamazione);
 }
 
 Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
@@ -42,9 +57,8 @@ Modulo::Modulo(double codiceazienda, Percorsi percorsi, Porte porte)
     m_impostazioni = caricaimpostazioni(m_archivio);
     m_archivio.apri();
     recupera(m_archivio);
-    avvisaRecuperi(m_contesto);
     m_tabelle = leggiTabelle(m_archivio);
-    m_borfte.carica();
+    m_borfte.prepara();
 }
 
 ComandiEsterni Modulo::comandi(Stampante& stampante) {

@@ -40,6 +40,12 @@ public:
     /// From the command line to a filled register. Nothing when this is no start by the suite's launcher;
     /// only an older launcher is told so to the operator.
     static std::unique_ptr<Modulo> avvia(const QString& rigaComando, Percorsi percorsi, Porte porte);
+    /// A company opened up to its register, which is still to be filled. Uses none of the ports.
+    static std::unique_ptr<Modulo> apri(double codiceazienda, Percorsi percorsi, Porte porte);
+    /// Tells the operator what the opening found.
+    void avvisa() const;
+    /// Tells that the launcher is older than this module.
+    static void avvisaSuiteVecchia(Operatore& operatore);
 
     Contesto& contesto() { return m_contesto; }
     Borfte& borfte() { return m_borfte; }

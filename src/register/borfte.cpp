@@ -37,9 +37,13 @@ Borfte::Borfte(Contesto& contesto, Documento& documento)
       m_apertura(contesto, documento, m_elenco, m_riordino), m_scelta(m_elenco) {}
 
 void Borfte::carica() {
+    prepara();
+    riempi();
+}
+
+void Borfte::prepara() {
     m_opzioni.ripristina();
     leggiConteggio();
-    caricalista();
 }
 
 void Borfte::attiva() {
@@ -147,6 +151,10 @@ void Borfte::leggiConteggio() {
 
 void Borfte::caricalista() {
     const Attesa attesa(m_contesto.operatore);
+    riempi();
+}
+
+void Borfte::riempi() {
     m_difetti.clear();
     m_senzaRighe.clear();
     m_elenco.carica(m_contesto.archivio, primoRecord(m_opzioni.scelte().selvis, m_numero), m_numero,

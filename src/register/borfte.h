@@ -22,6 +22,11 @@ public:
 
     /// The start of the program: options restored from the stored preference, then the list filled.
     void carica();
+    /// The first half of it, which takes no time.
+    void prepara();
+    /// The second half. Tells the operator nothing and may run in a thread of its own, during which the form
+    /// answers only for its options.
+    void riempi();
     /// The screen comes back into view: after a save elsewhere the list fills itself again, where the
     /// settings say so.
     void attiva();

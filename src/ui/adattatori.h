@@ -1,6 +1,7 @@
 // The real operator, clock and desktop.
 #pragma once
 
+#include "common/navigatore.h"
 #include "common/operatore.h"
 #include "common/orologio.h"
 #include "common/sistema.h"
@@ -22,6 +23,18 @@ public:
 
 private:
     QWidget* m_finestra = nullptr;
+};
+
+/// The window, which comes up after those who lead through it have been made.
+class NavigatoreQt : public Navigatore {
+public:
+    void usa(Navigatore& finestra) { m_finestra = &finestra; }
+
+    void mostra(Schermo schermo) override { m_finestra->mostra(schermo); }
+    void termina() override { m_finestra->termina(); }
+
+private:
+    Navigatore* m_finestra = nullptr;
 };
 
 class OrologioQt : public Orologio {

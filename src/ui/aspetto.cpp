@@ -10,6 +10,8 @@
 #include <QLocale>
 #include <QStyleFactory>
 
+#include <fontconfig/fontconfig.h>
+
 using namespace Qt::StringLiterals;
 
 namespace bor {
@@ -39,16 +41,25 @@ bool senzaDesktop() {
 } // namespace
 
 void applicaAspetto(QApplication& applicazione) {
+    Aspetto(applicazione).completa();
+}
+
+Aspetto::Aspetto(QApplication& applicazione)
+    : m_applicazione(applicazione), m_ricevuta(QApplication::palette()) {
+    if (!senzaDesktop())
+        m_tono = chiediTono(m_ricevuta);
     presenta();
     parlaItaliano();
     applicazione.installEventFilter(new TestiInteri(&applicazione));
-    const QPalette ricevuta = QApplication::palette();
-    applicazione.setStyle(QStyleFactory::create(u"Fusion"_s));
-    if (senzaDesktop())
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+}
+
+void Aspetto::completa() {
+    if (!m_tono)
         return applicaTono(Tono::Chiaro);
-    applicaTono(tonoDelDesktop(ricevuta));
-    seguiDesktop(&applicazione, [ricevuta] {
-        const Tono tono = tonoDelDesktop(ricevuta);
+    applicaTono(m_tono());
+    seguiDesktop(&m_applicazione, [ricevuta = m_ricevuta] {
+        const Tono tono = chiediTono(ricevuta)();
         if (tono != tonoDi(QApplication::palette()))
             applicaTono(tono);
     });
@@ -57,6 +68,10 @@ void applicaAspetto(QApplication& applicazione) {
 void applicaTono(Tono tono) {
     QApplication::setPalette(tavolozza(tono));
     qApp->setStyleSheet(foglioDiStile(tono));
+}
+
+void preparaCaratteri() {
+    FcInit();
 }
 
 } // namespace bor

@@ -3,6 +3,10 @@
 
 #include "ui/tinte.h"
 
+#include <QPalette>
+
+#include <functional>
+
 class QApplication;
 
 namespace bor {
@@ -10,6 +14,25 @@ namespace bor {
 /// Light or dark as the desktop is, also when that changes while the program runs; light without a desktop.
 void applicaAspetto(QApplication& applicazione);
 
+/// The same in two steps, for a screen that is made in between: once there is a style sheet, Qt goes through
+/// all the widgets of a part each time the part finds its place in a larger one.
+class Aspetto {
+public:
+    /// The style and the words. The desktop is asked for its colours.
+    explicit Aspetto(QApplication& applicazione);
+    /// Colours and style sheet.
+    void completa();
+
+private:
+    QApplication& m_applicazione;
+    QPalette m_ricevuta; ///< the desktop's own
+    std::function<Tono()> m_tono;
+};
+
 void applicaTono(Tono tono);
+
+/// Has the machine's fonts looked up, which Qt would do before the first text. May run in a thread of its
+/// own, before there is an application.
+void preparaCaratteri();
 
 } // namespace bor

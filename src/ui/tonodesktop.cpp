@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QTimer>
 
@@ -35,18 +36,21 @@ std::optional<Tono> tonoRisposto(QVariant risposta) {
     }
 }
 
-Tono tonoDelDesktop(const QPalette& ricevuta) {
+std::function<Tono()> chiediTono(const QPalette& ricevuta) {
     constexpr int attesa = 300;
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    std::optional<Tono> tono;
-    if (bus.isConnected()) {
-        QDBusMessage domanda = QDBusMessage::createMethodCall(servizio, oggetto, interfaccia, u"Read"_s);
-        domanda << u"org.freedesktop.appearance"_s << u"color-scheme"_s;
-        const QDBusMessage risposta = bus.call(domanda, QDBus::Block, attesa);
-        if (risposta.type() == QDBusMessage::ReplyMessage)
-            tono = tonoRisposto(risposta.arguments().value(0));
-    }
-    return tono.value_or(tonoDi(ricevuta));
+    if (!bus.isConnected())
+        return [ricevuta] { return tonoDi(ricevuta); };
+    QDBusMessage domanda = QDBusMessage::createMethodCall(servizio, oggetto, interfaccia, u"Read"_s);
+    domanda << u"org.freedesktop.appearance"_s << u"color-scheme"_s;
+    return [ricevuta, chiamata = bus.asyncCall(domanda, attesa)]() mutable {
+        chiamata.waitForFinished();
+        const QDBusMessage risposta = chiamata.reply();
+        const auto tono = risposta.type() == QDBusMessage::ReplyMessage
+                              ? tonoRisposto(risposta.arguments().value(0))
+                              : std::nullopt;
+        return tono.value_or(tonoDi(ricevuta));
+    };
 }
 
 void seguiDesktop(QObject* padre, const std::function<void()>& cambiata) {

@@ -14,9 +14,9 @@ namespace bor {
 /// Nothing for a desktop without a preference, or for no answer.
 std::optional<Tono> tonoRisposto(QVariant risposta);
 
-/// As the settings of the desktop say; where they say nothing, as the palette that Qt got from the desktop.
-/// Waits a third of a second at most.
-Tono tonoDelDesktop(const QPalette& ricevuta);
+/// Asks the settings of the desktop. What it returns waits for the answer, a third of a second at most; where
+/// the settings say nothing it is that of the palette which Qt got from the desktop.
+std::function<Tono()> chiediTono(const QPalette& ricevuta);
 
 /// Calls `cambiata` when the settings of the desktop have changed, as long as `padre` lives.
 void seguiDesktop(QObject* padre, const std::function<void()>& cambiata);
