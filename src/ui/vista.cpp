@@ -2,11 +2,11 @@
 
 #include "ui/campi.h"
 #include "ui/lettere.h"
+#include "ui/rigaelisa.h"
 
 #include <QBoxLayout>
 #include <QDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QShortcut>
 
 #include <utility>
@@ -34,18 +34,15 @@ Vista::Vista(QWidget* parent)
 }
 
 void Vista::intesta(const std::function<QString()>& testo) {
-    auto* avvisi = new QLabel;
+    auto* avvisi = new RigaElisa(Qt::ElideRight);
     avvisi->setObjectName(u"avvisi"_s);
     avvisi->setAccessibleName(u"Da controllare"_s);
-    avvisi->setTextFormat(Qt::PlainText);
     avvisi->setProperty("avviso", true);
     avvisi->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    avvisi->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* riga = new QLabel;
+    // In the middle of it stands the customer; the number and the amount at its ends remain.
+    auto* riga = new RigaElisa(Qt::ElideMiddle);
     riga->setObjectName(u"intestazione"_s);
     riga->setAccessibleName(u"Documento"_s);
-    riga->setTextFormat(Qt::PlainText);
-    riga->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     riga->setStyleSheet(u"font-weight: bold;"_s);
     legami.altro([this, riga, avvisi, testo] {
         riga->setText(testo());

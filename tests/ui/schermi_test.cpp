@@ -6,6 +6,7 @@
 #include "ui/campi.h"
 #include "ui/gesti.h"
 #include "ui/guida.h"
+#include "ui/rigaelisa.h"
 
 #include <QAbstractSlider>
 #include <QComboBox>
@@ -343,6 +344,17 @@ TEST_F(Schermi, InCimaSiLeggeDiChiEIlDocumento) {
         EXPECT_TRUE(riga->text().startsWith(u"Fattura 12 del "_s)) << qPrintable(riga->text());
         EXPECT_TRUE(riga->text().endsWith(u" - Alfa & <b>C., Lodi"_s));
     }
+}
+
+TEST_F(Schermi, UnImportoInCimaNonSiTagliaInSilenzio) {
+    RigaElisa cima(Qt::ElideMiddle);
+    cima.setText(u"Fattura 4 del 23/11/2026 - Oleificio San Zeno, Zevio - netto a pagare 11,96"_s);
+    cima.resize(cima.fontMetrics().horizontalAdvance(cima.text()) + 4, 20);
+    EXPECT_EQ(cima.mostrata(), cima.text());
+    cima.resize(cima.width() * 3 / 4, 20);
+    EXPECT_TRUE(cima.mostrata().contains(u'…')) << qPrintable(cima.mostrata());
+    EXPECT_TRUE(cima.mostrata().endsWith(u"netto a pagare 11,96"_s)) << qPrintable(cima.mostrata());
+    EXPECT_TRUE(dynamic_cast<RigaElisa*>(controllo<QLabel>(mostra(Schermo::Borftea), u"intestazione"_s)));
 }
 
 TEST_F(Schermi, UnaDomandaCheDistruggeHaNoSullInvio) {
