@@ -58,6 +58,9 @@ void Borfte::attiva() {
         leggiConteggio();
         caricalista();
         m_contesto.sessione.listadaaggiornare = false;
+        // A search that leaves out what was just stored would put the cursor on another document.
+        if (aperto > 0 && m_elenco.rigaDi(aperto) < 0 && !m_opzioni.scelte().cercato.isEmpty())
+            m_opzioni.cerca({});
     }
     m_primaRiga.reset();
     ++m_edizione;

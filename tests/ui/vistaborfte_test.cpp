@@ -195,6 +195,20 @@ TEST_F(VistaRegistroTest, SiCercaScrivendoEdEscRimetteTutto) {
     EXPECT_FALSE(prova->navigatore.terminato);
 }
 
+TEST_F(VistaRegistroTest, DopoUnSalvataggioLaRicercaNonNascondeIlDocumento) {
+    tasto(*vista, Qt::Key_F, Qt::ControlModifier);
+    scrivi(*vista, QStringLiteral("edith"));
+    const auto salva = [this](int record) {
+        documento.recordfattura = record;
+        prova->sessione.listadaaggiornare = true;
+        vista->attiva();
+        EXPECT_EQ(cella(griglia->currentIndex().row(), 0), QString::number(record));
+        return testoDi(*vista, QStringLiteral("cerca"));
+    };
+    EXPECT_EQ(salva(4), QStringLiteral("edith")) << "it is among those found";
+    EXPECT_EQ(salva(17), QString());
+}
+
 TEST_F(VistaRegistroTest, CtrlRRiapreLUltimoRegistrato) {
     tasto(*vista, Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(prova->operatore.messaggi.size(), 1);
