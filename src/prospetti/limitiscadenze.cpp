@@ -2,6 +2,8 @@
 
 #include "common/date.h"
 
+using namespace Qt::StringLiterals;
+
 namespace bor {
 
 void LimitiScadenze::cambiaPeriodo(PeriodoScadenze periodo) {
@@ -50,6 +52,15 @@ void LimitiScadenze::cambiaDal(const QString& testo) {
     m_dal = testo;
     m_primo = dataValida(completaData(testo));
     cambiaPeriodo(PeriodoScadenze::DalAl);
+}
+
+QStringList LimitiScadenze::errati() const {
+    QStringList caselle;
+    if (!m_primo && !m_dal.isEmpty())
+        caselle.append(u"Dal"_s);
+    if (!m_ultimo && !m_al.isEmpty())
+        caselle.append(u"Al"_s);
+    return caselle;
 }
 
 void LimitiScadenze::cambiaAl(const QString& testo) {

@@ -4,7 +4,7 @@
 #include "common/orologio.h"
 #include "common/periodo.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -38,8 +38,8 @@ public:
     std::optional<PeriodoScadenze> scelto() const {
         return m_scelto ? std::optional(m_periodo) : std::nullopt;
     }
-    /// None of the boxes holds half a date.
-    bool interi() const { return (m_primo || m_dal.isEmpty()) && (m_ultimo || m_al.isEmpty()); }
+    /// Captions of the boxes whose text is no date, or half a one.
+    QStringList errati() const;
     /// Takes up what was chosen in another run; `giorni` are those of `PeriodoScadenze::DalAl`.
     void riprendi(PeriodoScadenze periodo, const Giorni& giorni);
 

@@ -57,7 +57,7 @@ void Scadenzario::ricorda() {
     ScelteScadenzario scelte{.periodo = m_limiti.scelto(), .gruppi = m_scelta.gruppi, .riba = m_scelta.riba};
     if (scelte.periodo == PeriodoScadenze::DalAl)
         scelte.giorni = {m_scelta.dal.value_or(QDate()), m_scelta.al.value_or(QDate())};
-    if (scelte == m_ricordate || !m_limiti.interi())
+    if (scelte == m_ricordate || !m_limiti.errati().isEmpty())
         return;
     m_ricordate = scelte;
     m_memoria.segna(scelte);
@@ -195,11 +195,13 @@ QString Scadenzario::conta(const ContoRate& conto) const {
 }
 
 QString Scadenzario::riepilogo() const {
-    const QString testo = u"In scadenza: "_s + conta(m_elenco.conData());
-    if (m_elenco.senzaData().rate == 0)
-        return testo;
-    return testo + u" - Senza data: "_s + conta(m_elenco.senzaData()) + u" - In tutto: "_s +
-           conta(m_elenco.inTutto());
+    QString testo = u"In scadenza: "_s + conta(m_elenco.conData());
+    if (m_elenco.senzaData().rate > 0)
+        testo += u" - Senza data: "_s + conta(m_elenco.senzaData()) + u" - In tutto: "_s +
+                 conta(m_elenco.inTutto());
+    for (const QString& casella : m_limiti.errati())
+        testo += u" - «%1» non è una data: non limita l'elenco"_s.arg(casella);
+    return testo;
 }
 
 QString Scadenzario::filtro() const {

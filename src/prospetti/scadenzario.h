@@ -42,7 +42,7 @@ public:
     /// Opens the document of a row; a total has none.
     void apri(int riga);
 
-    /// "In scadenza: 12 rate, 1.250,00", and what has no date apart.
+    /// "In scadenza: 12 rate, 1.250,00", what has no date apart, and which limit is no date.
     QString riepilogo() const;
     Bordata bordata() const { return contesto.bordata(); }
 

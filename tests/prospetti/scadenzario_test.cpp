@@ -126,6 +126,9 @@ TEST_F(ScadenzarioTest, SiScegliePerPeriodoClientePagamentoERiba) {
     form.limiti().cambiaDal(u"15"_s); // half a date limits nothing
     EXPECT_EQ(form.limiti().periodo(), PeriodoScadenze::DalAl);
     EXPECT_EQ(rate(), 6);
+    EXPECT_TRUE(form.riepilogo().endsWith(u" - «Dal» non è una data: non limita l'elenco"_s));
+    form.limiti().cambiaDal({});
+    EXPECT_FALSE(form.riepilogo().contains(u"non è una data"_s));
     EXPECT_EQ(form.pagamenti(),
               QStringList({u"Tutte"_s, u"Senza modalità"_s, u"Modalità 3"_s, u"Modalità 12"_s}));
     form.cambiaPagamento(2);
