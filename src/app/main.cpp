@@ -14,13 +14,20 @@
 
 #include <functional>
 #include <memory>
+#include <sched.h>
 
 namespace {
 
 /// Work in a thread of its own.
 class NelFrattempo {
 public:
-    explicit NelFrattempo(std::function<void()> lavoro) : m_filo(QThread::create(std::move(lavoro))) {
+    explicit NelFrattempo(const std::function<void()>& lavoro)
+        : m_filo(QThread::create([lavoro] {
+              // As work that nobody waits for at the keys, it does not push in before the display's answers.
+              const sched_param nessuno{};
+              sched_setscheduler(0, SCHED_BATCH, &nessuno);
+              lavoro();
+          })) {
         m_filo->start();
     }
     ~NelFrattempo() { aspetta(); }
