@@ -83,8 +83,9 @@ int main(int argc, char* argv[]) {
     aggiungiSchermi(finestra, *modulo);
     finestra.vista(Schermo::Borfte);
     aspetto.completa();
-    finestra.show();
+    // On a slow network no empty window stands there meanwhile.
     lettura.aspetta();
+    finestra.show();
     finestra.mostra(Schermo::Borfte);
     modulo->avvisa();
     const GuardiaBozze guardia([&modulo] { modulo->bozze().conserva(); });
