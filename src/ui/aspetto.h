@@ -14,8 +14,8 @@ namespace bor {
 /// Light or dark as the desktop is, also when that changes while the program runs; light without a desktop.
 void applicaAspetto(QApplication& applicazione);
 
-/// The same in two steps, for a screen that is made in between: once there is a style sheet, Qt goes through
-/// all the widgets of a part each time the part finds its place in a larger one.
+/// The same in two steps, for a screen that is made in between: once there is a style sheet, each widget that
+/// gets a parent has Qt go through all that it holds.
 class Aspetto {
 public:
     /// The style and the words. The desktop is asked for its colours.

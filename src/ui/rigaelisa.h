@@ -8,7 +8,7 @@ namespace bor {
 
 class RigaElisa : public QLabel {
 public:
-    /// `dove` is the part that goes first.
+    /// `dove` tells where the dots stand.
     explicit RigaElisa(Qt::TextElideMode dove, QWidget* parent = nullptr);
 
     /// The text as it is drawn.
